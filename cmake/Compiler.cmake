@@ -1,0 +1,24 @@
+# The language, the warnings and the sanitizers of every target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Debug, Release or RelWithDebInfo" FORCE)
+endif()
+
+set(TIDEWELL_SANITIZE "" CACHE STRING "Sanitizers to build with: address,undefined or thread")
+
+find_package(Threads REQUIRED)
+
+add_library(tidewell_compile_options INTERFACE)
+target_compile_options(tidewell_compile_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+target_link_libraries(tidewell_compile_options INTERFACE Threads::Threads)
+if(TIDEWELL_SANITIZE)
+  target_compile_options(tidewell_compile_options INTERFACE
+    -fsanitize=${TIDEWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tidewell_compile_options INTERFACE -fsanitize=${TIDEWELL_SANITIZE})
+endif()

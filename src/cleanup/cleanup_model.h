@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/byte_count.h"
+
+namespace tidewell {
+
+/// What clearing a target can cost the user.
+enum class SafetyLevel {
+    safe,     ///< regenerated without help; ticked after a scan
+    caution,  ///< can cost the user something; never ticked by default
+};
+
+/// The groups of the review, in the order in which they are shown.
+enum class CleanupCategory { developerCaches, aiCaches, appCaches, system };
+
+inline constexpr std::array allCleanupCategories = {
+    CleanupCategory::developerCaches,
+    CleanupCategory::aiCaches,
+    CleanupCategory::appCaches,
+    CleanupCategory::system,
+};
+
+/// The display title, which is also the category's name outside the program.
+std::string_view title(CleanupCategory category);
+
+/// Whether a target stands for its paths as wholes, or for each entry of a shared folder that no
+/// other target claims.
+enum class TargetKind { plain, sweep };
+
+/// One thing that the program knows how to clean, described without looking at the disk.
+struct CleanupTarget {
+    std::string id;  ///< "xcode-derived-data", or "artifact:{name}:{path}"
+    std::string title;
+    std::string detail;  ///< what it is and what clearing it means
+    CleanupCategory category = CleanupCategory::developerCaches;
+    SafetyLevel safety = SafetyLevel::safe;
+    std::vector<std::string> paths;  ///< "~/..." or absolute; never a pattern
+    TargetKind kind = TargetKind::plain;
+
+    bool isSweep() const { return kind == TargetKind::sweep; }
+};
+
+/// A target that was measured on this machine and found to hold something.
+struct CleanupItem {
+    CleanupTarget target;
+    std::vector<std::string> resolvedPaths;  ///< what cleaning works on; never empty after a scan
+    ByteCount sizeBytes = 0;                 ///< their sizes together; at least 1 after a scan
+    bool isSelected = false;                 ///< the user's tick
+};
+
+/// Names of folders that are an artifact wherever they stand.
+inline constexpr std::array<std::string_view, 19> artifactFolderNames = {
+    "node_modules", "Pods",     "DerivedData", ".build",        ".dart_tool",
+    ".next",        ".nuxt",    ".gradle",     ".cxx",          ".venv",
+    "venv",         ".tox",     ".mypy_cache", ".pytest_cache", "__pycache__",
+    ".terraform",   ".angular", ".turbo",      ".parcel-cache",
+};
+
+/// Names that count inside a project only, since people use them for folders of their own too.
+inline constexpr std::array<std::string_view, 2> buildFolderNames = {"build", "target"};
+
+bool isArtifactFolderName(std::string_view name);
+bool isBuildFolderName(std::string_view name);
+
+}  // namespace tidewell

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/host.h"
+#include "platform/removal.h"
+
+namespace tidewell {
+
+/// Paths below the home folder that hold keys and credentials. Neither they nor anything below them
+/// may ever be deleted.
+inline constexpr std::array<std::string_view, 18> protectedHomePaths = {
+    ".cache/huggingface/token",
+    ".cache/huggingface/stored_tokens",
+    ".ssh",
+    ".aws",
+    ".gnupg",
+    ".kube",
+    ".config/gh",
+    ".netrc",
+    ".ollama/id_ed25519",
+    ".ollama/id_ed25519.pub",
+    ".cargo/credentials.toml",
+    ".cargo/credentials",
+    ".composer/auth.json",
+    ".config/composer/auth.json",
+    ".gradle/gradle.properties",
+    ".docker/config.json",
+    ".android/adbkey",
+    ".android/debug.keystore",
+};
+
+/// The folders of the home folder that hold the user's own files.
+inline constexpr std::array<std::string_view, 8> personalFolders = {
+    "Documents", "Desktop", "Downloads", "Pictures", "Movies", "Music", "Public", "Sites",
+};
+
+/// The temporary folder and the per-user cache folder, as far as the machine has them.
+std::vector<std::string> deletableRoots(const Host& host);
+
+/// The rule of the deletion guard that decided about a path.
+enum class DeletionRule {
+    protectedPath,   ///< keys and credentials: never
+    deletableRoot,   ///< scratch space: yes
+    outsideHome,     ///< outside the home folder, or that folder itself: never
+    openFolder,      ///< in the home folder, outside the personal folders: yes
+    buildFolder,     ///< in a personal folder, inside build output: yes
+    personalFolder,  ///< in a personal folder otherwise: never
+};
+
+bool allows(DeletionRule rule);
+
+/// Decides on the text of the path alone, standardised. The first rule that applies wins.
+DeletionRule deletionRule(std::string_view path, std::string_view home,
+                          const std::vector<std::string>& roots);
+
+/// The last word on whether a path may be removed, and the only maker of a DeletablePath. Any
+/// thread.
+class DeletionGuard {
+ public:
+    explicit DeletionGuard(const Host& host);
+
+    /// The rule for the path as it is named.
+    DeletionRule rule(std::string_view path) const;
+    bool isDeletable(std::string_view path) const { return allows(rule(path)); }
+
+    /// Asks twice: for the path as it is named, and for its real location. So a `~/.cache` that is
+    /// a link into Documents is refused. Absent also if the folder that holds the path is missing.
+    std::optional<DeletablePath> approve(const std::string& path) const;
+
+    /// The same for an entry of an approved folder, without looking at the disk again.
+    std::optional<DeletablePath> approveChild(const DeletablePath& folder,
+                                              std::string_view name) const;
+
+ private:
+    std::optional<DeletablePath> approveAt(std::string named, std::string real) const;
+
+    std::string home_;
+    std::vector<std::string> roots_;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "cleanup/cleanup_model.h"
+#include "cleanup/deletion_guard.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// Turns a target into a measured item, cleans what an item names, and owns the one size measure
+/// and the one reading of free space of the program. Has no state but the machine that it works
+/// on; every operation blocks, may be called from any thread but the main one, and never fails
+/// towards its caller: what cannot be read shrinks a figure.
+class DiskScanner {
+ public:
+    struct CleanResult {
+        ByteCount freedBytes = 0;                ///< what a second measure shows to be gone
+        std::optional<std::string> failedTitle;  ///< the target's, if anything stayed
+    };
+
+    explicit DiskScanner(Host host);
+
+    /// Absent for a target that holds nothing on this machine.
+    std::optional<CleanupItem> measure(const CleanupTarget& target) const;
+
+    /// Empties the folders and removes the files at the item's resolved paths, for good. Folders at
+    /// a resolved path stay, empty.
+    CleanResult clean(const CleanupItem& item) const;
+
+    /// Bytes allocated on disk; 0 for anything missing or unreadable. See platform/disk_usage.h.
+    ByteCount measurePath(const std::string& path) const;
+
+    /// Free space of the home folder's volume; 0 if it cannot be read.
+    ByteCount availableCapacity() const;
+
+    /// The entries directly inside a swept folder that have a row of their own in the catalogue.
+    std::set<std::string, std::less<>> sweepExclusions(std::string_view sweptFolder) const;
+
+    const Host& host() const { return host_; }
+
+ private:
+    Host host_;
+    DeletionGuard guard_;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "platform/byte_count.h"
+
+namespace tidewell {
+
+/// The bytes allocated on disk for a file, or for all regular files below a folder.
+///
+/// Links add nothing, and a path that is a link itself gives 0, so that a measure never leaves its
+/// tree through a link. Folders themselves add nothing; a file with several hard links counts each
+/// time it is met; mounts are crossed, but a folder that is its own ancestor is not entered again.
+/// What is missing, unreadable or vanishes adds nothing. Blocks the caller until the end; any
+/// thread; callers at once share one pool of workers, as many as the machine has cores.
+ByteCount allocatedSize(const std::string& path);
+
+}  // namespace tidewell

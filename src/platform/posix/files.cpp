@@ -1,0 +1,81 @@
+#include "platform/files.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+#include "platform/path_text.h"
+#include "platform/posix/descriptor.h"
+
+namespace tidewell {
+
+FileKind fileKind(const std::string& path) {
+    struct stat status;
+    if (::stat(path.c_str(), &status) != 0) return FileKind::missing;
+    return S_ISDIR(status.st_mode) ? FileKind::folder : FileKind::other;
+}
+
+bool fileExists(const std::string& path) {
+    return fileKind(path) != FileKind::missing;
+}
+
+std::optional<std::vector<std::string>> folderNames(const std::string& path) {
+    posix::Descriptor folder(::open(path.c_str(), posix::openFolderFlags));
+    if (!folder) return std::nullopt;
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(folder.get()), ::closedir);
+    if (!stream) return std::nullopt;
+    folder.release();
+    std::vector<std::string> names;
+    while (const auto* entry = ::readdir(stream.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") names.emplace_back(name);
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+std::optional<Date> modificationDate(const std::string& path) {
+    struct stat status;
+    if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
+    return Date(std::chrono::seconds(status.st_mtime));
+}
+
+std::optional<std::string> readFile(const std::string& path, std::size_t limit) {
+    const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) > limit) return std::nullopt;
+    std::string bytes;
+    char buffer[64 * 1024];
+    while (bytes.size() <= limit) {
+        const auto count =
+            posix::retrying([&] { return ::read(file.get(), buffer, sizeof buffer); });
+        if (count < 0) return std::nullopt;
+        if (count == 0) return bytes;
+        bytes.append(buffer, static_cast<std::size_t>(count));
+    }
+    return std::nullopt;
+}
+
+bool canOpenForReading(const std::string& path) {
+    const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    return static_cast<bool>(file);
+}
+
+std::optional<std::string> realLocation(const std::string& path) {
+    const auto standardized = standardizedPath(path);
+    const auto name = lastPathComponent(standardized);
+    if (name.empty() || name == "." || name == "..") return std::nullopt;
+    const auto parent = std::string(parentPath(standardized));
+    const std::unique_ptr<char, void (*)(void*)> resolved(
+        ::realpath(parent.empty() ? "." : parent.c_str(), nullptr), std::free);
+    if (!resolved) return std::nullopt;
+    return joinPath(resolved.get(), name);
+}
+
+}  // namespace tidewell

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tidewell {
+
+// The one door to deletion: whatever this program removes or moves to the Trash goes through here,
+// and only with a path that a guard has approved. Any thread; all of it blocks.
+//
+// Every operation works on the real location that the guard saw, opened component by component
+// without following a link, and then on names below that descriptor. So neither a link that stands
+// in a path nor a folder swapped for one meanwhile leads anywhere else.
+
+/// A path that the deletion guard has approved, twice: as it is named, and at its real location.
+class DeletablePath {
+ public:
+    /// As the caller names it.
+    const std::string& named() const { return named_; }
+    /// Its parent with all links resolved, and its own name.
+    const std::string& real() const { return real_; }
+
+ private:
+    friend class DeletionGuard;
+    DeletablePath(std::string named, std::string real)
+        : named_(std::move(named)), real_(std::move(real)) {}
+
+    std::string named_;
+    std::string real_;
+};
+
+/// A path that may be moved to the Trash, approved in the same two ways.
+class TrashablePath {
+ public:
+    const std::string& named() const { return named_; }
+    const std::string& real() const { return real_; }
+
+ private:
+    friend class BigItemTrashGuard;
+    friend class UninstallGuard;
+    TrashablePath(std::string named, std::string real)
+        : named_(std::move(named)), real_(std::move(real)) {}
+
+    std::string named_;
+    std::string real_;
+};
+
+enum class Removal {
+    complete,
+    incomplete,  ///< something could not be removed and stayed
+};
+
+/// Removes a file, a link (the link itself) or a folder with all in it. Goes on after a failure, so
+/// that all that can be removed is removed. Changes no permissions to get its way, and enters no
+/// file system that is mounted inside the tree: that is a failure of that entry.
+Removal removeItem(const DeletablePath& item);
+
+/// Says of a child, by its name, whether it may be removed; asked right before its removal, on any
+/// thread.
+using ChildGuard = std::function<std::optional<DeletablePath>(std::string_view name)>;
+
+/// Removes the children of a folder that the guard approves, and leaves the folder itself. The
+/// folder is opened once and all is done below that descriptor. A child that the guard refuses, or
+/// that cannot be removed, makes the result incomplete; so does a folder that cannot be listed,
+/// which loses nothing.
+Removal emptyFolder(const DeletablePath& folder, const ChildGuard& guard);
+
+enum class Trashing { moved, failed };
+
+/// Moves an item to the Trash of the user whose home folder is given, or to the one of the item's
+/// own volume, with a single rename that never overwrites: a name that is taken gets " 2", " 3",
+/// ... before its extension. The path where it came from is kept in the attribute
+/// "user.tidewell.origin" of the moved entry. Nothing is ever copied and then deleted. Fails if the
+/// Trash is a link or belongs to somebody else.
+Trashing moveToTrash(const TrashablePath& item, const std::string& home);
+
+}  // namespace tidewell
