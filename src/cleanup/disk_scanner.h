@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cleanup/cleanup_model.h"
 #include "cleanup/deletion_guard.h"
@@ -43,6 +44,9 @@ class DiskScanner {
     const Host& host() const { return host_; }
 
  private:
+    std::vector<std::string> sweptChildren(const std::string& sweptFolder) const;
+    Removal cleanPath(const std::string& path) const;
+
     Host host_;
     DeletionGuard guard_;
 };

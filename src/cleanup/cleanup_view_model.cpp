@@ -1,0 +1,149 @@
+#include "cleanup/cleanup_view_model.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "async/background.h"
+#include "cleanup/project_artifacts.h"
+#include "cleanup/target_catalogue.h"
+#include "platform/dates.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr auto everyItem = [](const CleanupItem&) { return true; };
+
+auto isIn(CleanupCategory category) {
+    return [category](const CleanupItem& item) { return item.target.category == category; };
+}
+
+/// Adds a clean's result to what the program keeps for good.
+void storeCleanup(UserDefaults defaults, ByteCount freed, Date at) {
+    const std::chrono::duration<double> sinceEpoch = at.time_since_epoch();
+    defaults.add("totalFreedBytes", freed);
+    defaults.setReal("lastCleanupAt", sinceEpoch.count());
+}
+
+}  // namespace
+
+CleanupViewModel::CleanupViewModel(const Host& host)
+    : host_(host), scanner_(host), defaults_(host.configurationDirectory) {
+    freeSpaceBefore = scanner_.availableCapacity();
+}
+
+CleanupItems CleanupViewModel::itemsIn(CleanupCategory category) const {
+    CleanupItems found;
+    std::ranges::copy_if(items(), std::back_inserter(found), isIn(category));
+    return found;
+}
+
+std::vector<CleanupCategory> CleanupViewModel::activeCategories() const {
+    std::vector<CleanupCategory> active;
+    for (const auto category : allCleanupCategories)
+        if (std::ranges::any_of(items(), isIn(category))) active.push_back(category);
+    return active;
+}
+
+std::size_t CleanupViewModel::selectedCountIn(CleanupCategory category) const {
+    return tidewell::selectedItems(itemsIn(category)).size();
+}
+
+ByteCount CleanupViewModel::bytesIn(CleanupCategory category) const {
+    return tidewell::totalBytes(itemsIn(category));
+}
+
+bool CleanupViewModel::SelectionBinding::get() const {
+    const auto model = model_.lock();
+    const auto* item = model ? findItem(model->items(), id_) : nullptr;
+    return item && item->isSelected;
+}
+
+void CleanupViewModel::SelectionBinding::set(Tick tick) const {
+    const auto model = model_.lock();
+    if (!model || !findItem(model->items(), id_)) return;
+    setTicks(model->items.mutate(), tick,
+             [this](const CleanupItem& item) { return item.target.id == id_; });
+}
+
+CleanupViewModel::SelectionBinding CleanupViewModel::selectionBinding(const CleanupItem& item) {
+    return {weak_from_this(), item.target.id};
+}
+
+void CleanupViewModel::selectAll(Tick tick) {
+    setTicks(items.mutate(), tick, everyItem);
+}
+
+void CleanupViewModel::setCategory(CleanupCategory category, Tick tick) {
+    setTicks(items.mutate(), tick, isIn(category));
+}
+
+void CleanupViewModel::selectSafeOnly() {
+    tickSafeOnly(items.mutate(), everyItem);
+}
+
+void CleanupViewModel::selectSafeOnlyIn(CleanupCategory category) {
+    tickSafeOnly(items.mutate(), isIn(category));
+}
+
+Task<> CleanupViewModel::startScan() {
+    if (phase() == Phase::scanning || phase() == Phase::cleaning) co_return;
+    phase = Phase::scanning;
+    scanProgress = 0.0;
+    items = CleanupItems{};
+    freeSpaceBefore = scanner_.availableCapacity();
+
+    auto searching = background([host = host_] { return findProjectArtifacts(host); });
+    auto artifacts = co_await searching;
+    auto targets = cleanupCatalogue(host_);
+    std::ranges::move(artifacts, std::back_inserter(targets));
+
+    MeasuringObserver observer;
+    observer.started = [this](const CleanupTarget& target) { currentTarget = target.title; };
+    observer.progressed = [this](double part) { scanProgress = part; };
+    auto measuring = measureTargets(scanner_, std::move(targets), observer);
+    auto found = co_await measuring;
+    currentTarget = std::nullopt;
+    items = std::move(found);
+    phase = Phase::review;
+}
+
+Task<> CleanupViewModel::cleanSelected() {
+    auto selected = selectedItems();
+    if (phase() == Phase::cleaning || selected.empty()) co_return;
+    phase = Phase::cleaning;
+    cleanProgress = 0.0;
+    freeSpaceBefore = scanner_.availableCapacity();
+    nextStep_ = CleaningStep::goOn;
+
+    CleaningObserver observer;
+    observer.progressed = [this](double part) {
+        cleanProgress = part;
+        return nextStep_;
+    };
+    auto cleaning = cleanItems(scanner_, std::move(selected), observer);
+    auto outcome = co_await cleaning;
+    freedBytes = outcome.freedBytes;
+    failedTitles = std::move(outcome.failedTitles);
+    freeSpaceAfter = scanner_.availableCapacity();
+
+    auto storing = background([defaults = defaults_, freed = outcome.freedBytes, at = now()] {
+        storeCleanup(defaults, freed, at);
+        return true;
+    });
+    co_await storing;
+    phase = Phase::done;
+}
+
+void CleanupViewModel::reset() {
+    items = CleanupItems{};
+    scanProgress = 0.0;
+    cleanProgress = 0.0;
+    freedBytes = 0;
+    failedTitles = std::vector<std::string>{};
+    freeSpaceBefore = scanner_.availableCapacity();
+    phase = Phase::idle;
+}
+
+}  // namespace tidewell

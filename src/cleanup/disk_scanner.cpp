@@ -1,0 +1,129 @@
+#include "cleanup/disk_scanner.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "cleanup/target_catalogue.h"
+#include "platform/disk_usage.h"
+#include "platform/files.h"
+#include "platform/path_text.h"
+#include "platform/volume.h"
+
+namespace tidewell {
+
+namespace {
+
+/// Entries that a sweep never touches, in either swept folder: other programs' state that only
+/// looks like a cache.
+constexpr std::array<std::string_view, 6> sweepAlwaysExcluded = {
+    "CloudKit", "com.apple.HomeKit", "FamilyCircle", "huggingface", "torch", "lm-studio",
+};
+
+/// A target's measure while it grows: the paths that hold something, and their sizes together.
+struct Found {
+    std::vector<std::string> paths;
+    ByteCount size = 0;
+
+    void add(std::string path, ByteCount pathSize) {
+        if (pathSize < 1) return;
+        paths.push_back(std::move(path));
+        size = addSaturating(size, pathSize);
+    }
+};
+
+std::string standardForm(std::string_view path, const Host& host) {
+    return standardizedPath(host.expandTilde(path));
+}
+
+bool isNeverSwept(std::string_view name) {
+    return std::ranges::find(sweepAlwaysExcluded, name) != sweepAlwaysExcluded.end();
+}
+
+}  // namespace
+
+DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
+
+std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target) const {
+    Found found;
+    for (const auto& stored : target.paths) {
+        const auto path = host_.expandTilde(stored);
+        if (!fileExists(path)) continue;
+        switch (target.kind) {
+            case TargetKind::plain:
+                found.add(path, measurePath(path));
+                break;
+            case TargetKind::sweep:
+                for (auto& child : sweptChildren(path)) {
+                    const auto size = measurePath(child);
+                    found.add(std::move(child), size);
+                }
+                break;
+        }
+    }
+    if (found.paths.empty()) return std::nullopt;
+    return CleanupItem{.target = target,
+                       .resolvedPaths = std::move(found.paths),
+                       .sizeBytes = found.size,
+                       .isSelected = target.safety == SafetyLevel::safe};
+}
+
+std::vector<std::string> DiskScanner::sweptChildren(const std::string& sweptFolder) const {
+    const auto claimed = sweepExclusions(sweptFolder);
+    std::vector<std::string> children;
+    for (const auto& name : folderNames(sweptFolder).value_or(std::vector<std::string>{}))
+        if (!claimed.contains(name) && !isNeverSwept(name))
+            children.push_back(joinPath(sweptFolder, name));
+    return children;
+}
+
+std::set<std::string, std::less<>> DiskScanner::sweepExclusions(
+    std::string_view sweptFolder) const {
+    const auto root = standardForm(sweptFolder, host_);
+    std::set<std::string, std::less<>> claimed;
+    for (const auto& target : cleanupCatalogue(host_)) {
+        if (target.isSweep()) continue;
+        for (const auto& stored : target.paths) {
+            const auto path = standardForm(stored, host_);
+            if (isBelow(path, root))
+                claimed.emplace(pathPieces(pathRelativeTo(path, root)).front());
+        }
+    }
+    return claimed;
+}
+
+DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
+    auto outcome = Removal::complete;
+    ByteCount left = 0;
+    for (const auto& path : item.resolvedPaths)
+        if (cleanPath(path) == Removal::incomplete) outcome = Removal::incomplete;
+    for (const auto& path : item.resolvedPaths) left = addSaturating(left, measurePath(path));
+    CleanResult result{.freedBytes = std::max<ByteCount>(item.sizeBytes - left, 0),
+                       .failedTitle = std::nullopt};
+    if (outcome == Removal::incomplete) result.failedTitle = item.target.title;
+    return result;
+}
+
+Removal DiskScanner::cleanPath(const std::string& path) const {
+    if (!guard_.isDeletable(path)) return Removal::incomplete;
+    const auto kind = fileKind(path);
+    if (kind == FileKind::missing) return Removal::complete;
+    const auto approved = guard_.approve(path);
+    if (!approved) return Removal::incomplete;
+    if (kind == FileKind::other) return removeItem(*approved);
+    return emptyFolder(*approved, [this, &approved](std::string_view name) {
+        return guard_.approveChild(*approved, name);
+    });
+}
+
+ByteCount DiskScanner::measurePath(const std::string& path) const {
+    return allocatedSize(path);
+}
+
+ByteCount DiskScanner::availableCapacity() const {
+    const auto capacity = volumeCapacity(host_.home);
+    return capacity ? capacity->available : 0;
+}
+
+}  // namespace tidewell

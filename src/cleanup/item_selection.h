@@ -1,0 +1,45 @@
+#pragma once
+
+#include <vector>
+
+#include "cleanup/cleanup_model.h"
+
+namespace tidewell {
+
+// Sums and ticks of measured items, as the Clean tool and Dev Mode both use them.
+
+using CleanupItems = std::vector<CleanupItem>;
+
+/// The ticked items, in their order.
+CleanupItems selectedItems(const CleanupItems& items);
+
+/// The sizes of all items together, ticked or not.
+ByteCount totalBytes(const CleanupItems& items);
+
+enum class Tick { on, off };
+
+inline Tick tickOf(bool isSelected) {
+    return isSelected ? Tick::on : Tick::off;
+}
+
+/// Ticks or unticks each item that `isMeant` names, without asking what it is.
+template <class Predicate>
+void setTicks(CleanupItems& items, Tick tick, Predicate isMeant) {
+    for (auto& item : items)
+        if (isMeant(item)) item.isSelected = tick == Tick::on;
+}
+
+/// Gives each item that `isMeant` names the tick that it had after the scan: safe ones alone.
+template <class Predicate>
+void tickSafeOnly(CleanupItems& items, Predicate isMeant) {
+    for (auto& item : items)
+        if (isMeant(item)) item.isSelected = item.target.safety == SafetyLevel::safe;
+}
+
+/// The item of that target id; null if there is none.
+const CleanupItem* findItem(const CleanupItems& items, std::string_view id);
+
+/// Largest first; items of equal size keep their order.
+void sortBySize(CleanupItems& items);
+
+}  // namespace tidewell
