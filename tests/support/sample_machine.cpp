@@ -2,8 +2,12 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <bit>
+#include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -37,7 +41,16 @@ std::string infoDictionary(const std::vector<std::pair<std::string, std::string>
 }  // namespace
 
 SampleMachine::SampleMachine() {
-    const auto root = folder_.path();
+    folder_.emplace();
+    layOut(folder_->path());
+}
+
+SampleMachine::SampleMachine(const std::string& root) {
+    if (!fs::create_directory(root)) throw std::runtime_error(root + " is there already");
+    layOut(root);
+}
+
+void SampleMachine::layOut(const std::string& root) {
     fs::create_directories(root + "/Users/ada");
     fs::create_directories(root + "/Users/Shared");
     fs::create_directories(root + "/Applications");
@@ -90,6 +103,15 @@ void SampleMachine::application(std::string_view machinePath,
 void SampleMachine::age(std::string_view machinePath, int days) const {
     const auto then = fs::file_time_type::clock::now() - std::chrono::hours(24) * days;
     fs::last_write_time(path(machinePath), then);
+}
+
+void SampleMachine::lastUsed(std::string_view machinePath, int days) const {
+    const auto then = std::chrono::system_clock::now() - std::chrono::hours(24) * days;
+    const std::int64_t stamp[2] = {std::chrono::system_clock::to_time_t(then), 0};
+    static_assert(std::endian::native == std::endian::little);
+    if (::lsetxattr(path(machinePath).c_str(), "user.com.apple.lastuseddate#PS", stamp,
+                    sizeof stamp, 0) != 0)
+        throw std::runtime_error("this file system keeps no extended attributes");
 }
 
 bool SampleMachine::has(std::string_view machinePath) const {

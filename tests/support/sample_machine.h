@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -20,7 +21,10 @@ inline constexpr ByteCount megabyte = 1024 * kilobyte;
 /// needed.
 class SampleMachine {
  public:
+    /// In a temporary folder, gone with the object.
     SampleMachine();
+    /// In a folder that is made for it and stays. Throws if the folder is there already.
+    explicit SampleMachine(const std::string& root);
 
     const Host& host() const { return host_; }
     const std::string& root() const { return host_.root; }
@@ -42,13 +46,17 @@ class SampleMachine {
                      ByteCount allocated = 4096) const;
     /// Sets when the entry was last changed, in days before now.
     void age(std::string_view machinePath, int days) const;
+    /// Sets when a bundle was last opened, in days before now.
+    void lastUsed(std::string_view machinePath, int days) const;
 
     /// Whether an entry stands there, links not followed.
     bool has(std::string_view machinePath) const;
     std::string contentOf(std::string_view machinePath) const;
 
  private:
-    TemporaryFolder folder_;
+    void layOut(const std::string& root);
+
+    std::optional<TemporaryFolder> folder_;
     Host host_;
 };
 

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cleanup/cleanup_view_model.h"
+
+namespace tidewell {
+
+// Every word, figure and condition of the review screen, from the view model's values. Pure.
+
+inline constexpr std::string_view nothingToCleanTitle = "Nothing to clean";
+inline constexpr std::string_view nothingToCleanLine = "Zero junk found. Your Mac's already tidy.";
+inline constexpr std::string_view nothingToCleanSymbol = "checkmark.seal.fill";
+inline constexpr std::string_view reviewSubtitle =
+    "Green is safe and pre-ticked. Nothing goes until you hit Clean Up.";
+inline constexpr std::string_view safeOnlyTooltip =
+    "Select every safe item, deselect the review-gated ones";
+inline constexpr std::string_view nothingPickedHint =
+    "Nothing picked yet. Tap rows or hit “Safe only”.";
+inline constexpr std::string_view reviewBadge = "Review";
+
+/// How a check stands for several ticks.
+enum class CheckMark { off, on, mixed };
+
+CheckMark checkMark(std::size_t selected, std::size_t count);
+/// The symbol in the check's box; empty for an empty box.
+std::string_view symbol(CheckMark mark);
+/// What a click on a category's check does: a mixed category becomes full.
+Tick toggledCategory(std::size_t selected, std::size_t count);
+
+std::string_view symbol(CleanupCategory category);
+
+struct CategoryRowContent {
+    CleanupCategory category;
+    std::string_view symbol;
+    std::string_view title;
+    std::string line;  ///< "1 of 3 · 2.5 GB"
+    CheckMark mark;
+    std::size_t count;
+    std::size_t selectedCount;
+    ByteCount bytes;
+    bool isViewing;
+};
+
+struct ItemChipContent {
+    std::string id;
+    std::string title;
+    std::string detail;
+    std::string size;
+    bool isOn;
+    bool hasReviewBadge;
+};
+
+struct ReviewContent {
+    std::string headline;  ///< "Found 2.5 GB of junk."
+    std::vector<CategoryRowContent> categories;
+    std::optional<CleanupCategory> viewing;
+    std::vector<ItemChipContent> chips;       ///< of the category in view, largest first
+    std::optional<std::string> selectedSize;  ///< absent while nothing is picked
+    std::string pickedLine;                   ///< "2 of 5 picked"
+    std::string freeAfterLine;                ///< "120 GB free after this"
+    bool isEmpty;
+    bool canClean;
+};
+
+/// `viewing` is the category that the user chose to see; one without items falls back to the first
+/// that has some. `freeBytes` is the free space as the theme read it last.
+ReviewContent reviewContent(const CleanupViewModel& model, std::optional<CleanupCategory> viewing,
+                            ByteCount freeBytes);
+
+}  // namespace tidewell

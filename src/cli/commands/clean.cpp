@@ -1,0 +1,118 @@
+#include "cleanup/cleanup_view_model.h"
+#include "cleanup/screens/review_content.h"
+#include "cleanup/screens/scan_content.h"
+#include "cli/commands/commands.h"
+#include "cli/interruption.h"
+#include "cli/item_list.h"
+#include "cli/progress_line.h"
+#include "cli/report.h"
+#include "cli/shapes.h"
+#include "kit/byte_text.h"
+
+namespace tidewell::cli {
+
+namespace {
+
+using Model = std::shared_ptr<CleanupViewModel>;
+
+void scan(const Context& context, const Model& model) {
+    ProgressLine progress;
+    const auto showing = onChanged(model->willChange, [&progress, &model] {
+        const auto searching = std::string("looking for project artifacts");
+        progress.show(model->scanProgress(), model->currentTarget().value_or(searching));
+    });
+    runToEnd(context.loop, model->startScan());
+}
+
+std::optional<WrongCall> select(const Model& model, const SelectionWish& wish) {
+    const auto wanted = selectedIds(model->items(), wish);
+    if (const auto* wrong = std::get_if<WrongCall>(&wanted)) return *wrong;
+    const auto& ids = std::get<std::set<std::string>>(wanted);
+    setTicks(model->items.mutate(), Tick::off, [](const auto&) { return true; });
+    setTicks(model->items.mutate(), Tick::on,
+             [&ids](const auto& item) { return ids.contains(item.target.id); });
+    return std::nullopt;
+}
+
+/// Cleans what is ticked; a first Ctrl-C ends it behind the item in hand.
+ExitStatus clean(const Context& context, const Model& model) {
+    const InterruptionWatch watch;
+    ProgressLine progress;
+    const auto watching = model->willChange.subscribe([&watch, &model] {
+        if (watch.wasInterrupted()) model->stopAfterItemInHand();
+    });
+    const auto showing = onChanged(model->willChange, [&progress, &model] {
+        progress.show(model->cleanProgress(), cleaningTitle);
+    });
+    runToEnd(context.loop, model->cleanSelected());
+    const bool leftSomething = !model->failedTitles().empty() || watch.wasInterrupted();
+    return leftSomething ? ExitStatus::leftBehind : ExitStatus::done;
+}
+
+void printReview(const Model& model, Consent consent) {
+    const auto review = reviewContent(*model, std::nullopt, model->freeSpaceBefore());
+    if (review.isEmpty) {
+        printLine(inked(nothingToCleanTitle, Ink::strong));
+        printLine(nothingToCleanLine);
+        return;
+    }
+    printLine(inked(review.headline, Ink::strong));
+    for (const auto& row : review.categories) {
+        printLine();
+        printLine(inked(row.title, Ink::strong) + "  " + inked(row.line, Ink::faint));
+        printItems(model->itemsIn(row.category));
+    }
+    printLine();
+    printLine(review.pickedLine + ": " +
+              inked(review.selectedSize.value_or("nothing"), Ink::strong));
+    if (consent == Consent::given) return;
+    printLine(
+        "Just looking: nothing was deleted. With --yes, what is picked (✓) is deleted for good.");
+}
+
+void printResult(const Model& model) {
+    const auto result = cleanedContent(*model);
+    printLine();
+    if (result.reclaimed) {
+        printLine(inked(allCleanTitle, Ink::good) + " " + byteText(*result.reclaimed) +
+                  " reclaimed.");
+    } else {
+        printLine(inked(result.ringLine, Ink::strong) + ".");
+    }
+    printLine(result.freeBefore + " → " + result.freeAfter);
+    if (!result.failureNote) return;
+    printLine(inked(notCleanedTitle, Ink::careful));
+    printLine("  " + *result.failureNote);
+}
+
+Value document(const Model& model, Consent consent) {
+    auto shape = shapeOf(*model);
+    if (consent == Consent::given) {
+        const bool hasCleaned = model->phase() == CleanupViewModel::Phase::done;
+        shape.emplace_back("freedBytes", model->freedBytes());
+        shape.emplace_back("failedTitles", textList(model->failedTitles()));
+        shape.emplace_back("freeSpaceBefore", model->freeSpaceBefore());
+        shape.emplace_back("freeSpaceAfter",
+                           hasCleaned ? model->freeSpaceAfter() : model->freeSpaceBefore());
+    }
+    return shape;
+}
+
+}  // namespace
+
+Outcome runClean(const Context& context, const CleanCall& call) {
+    const auto model = std::make_shared<CleanupViewModel>(context.host);
+    scan(context, model);
+    if (const auto wrong = select(model, call.selection)) return *wrong;
+    if (context.form == OutputForm::text) printReview(model, call.consent);
+    auto status = ExitStatus::done;
+    if (call.consent == Consent::given) status = clean(context, model);
+    if (context.form == OutputForm::json) {
+        printDocument(document(model, call.consent));
+    } else if (model->phase() == CleanupViewModel::Phase::done) {
+        printResult(model);
+    }
+    return status;
+}
+
+}  // namespace tidewell::cli

@@ -1,0 +1,50 @@
+#include <exception>
+#include <iostream>
+
+#include "cli/arguments.h"
+#include "cli/context.h"
+
+namespace tidewell::cli {
+
+namespace {
+
+int end(ExitStatus status) {
+    std::cout.flush();
+    return static_cast<int>(status);
+}
+
+int endWrongCall(const std::string& problem) {
+    std::cerr << "tidewell-cli: " << problem << '\n';
+    return end(ExitStatus::wrongCall);
+}
+
+int run(const Call& call) {
+    auto found = findHost(call.host);
+    if (!found.host) return endWrongCall(found.problem);
+    RunLoop loop;
+    const auto outcome = call.run({std::move(*found.host), call.form, loop});
+    if (const auto* wrong = std::get_if<WrongCall>(&outcome)) return endWrongCall(wrong->problem);
+    return end(std::get<ExitStatus>(outcome));
+}
+
+int runWords(int count, char** words) {
+    const auto parsed = parseArguments(count, words);
+    if (const auto* call = std::get_if<Call>(&parsed)) return run(*call);
+    const auto& ending = std::get<Ending>(parsed);
+    (ending.status == ExitStatus::done ? std::cout : std::cerr) << ending.text;
+    return end(ending.status);
+}
+
+}  // namespace
+
+}  // namespace tidewell::cli
+
+int main(int count, char** words) {
+    try {
+        return tidewell::cli::runWords(count, words);
+    } catch (const std::exception& problem) {
+        std::cerr << "tidewell-cli: something went wrong inside the program: " << problem.what()
+                  << '\n';
+        return static_cast<int>(tidewell::cli::ExitStatus::internalError);
+    }
+}

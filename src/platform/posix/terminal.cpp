@@ -1,0 +1,42 @@
+#include "platform/terminal.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string_view>
+
+namespace tidewell {
+
+namespace {
+
+constexpr int usualWidth = 100;
+
+int descriptorOf(StandardStream stream) {
+    return stream == StandardStream::output ? STDOUT_FILENO : STDERR_FILENO;
+}
+
+std::string_view environmentValue(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+}  // namespace
+
+bool isTerminal(StandardStream stream) {
+    return ::isatty(descriptorOf(stream)) == 1;
+}
+
+int terminalWidth(StandardStream stream) {
+    struct winsize size;
+    if (::ioctl(descriptorOf(stream), TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
+        return usualWidth;
+    return size.ws_col;
+}
+
+bool mayColour(StandardStream stream) {
+    return isTerminal(stream) && environmentValue("NO_COLOR").empty() &&
+           environmentValue("TERM") != "dumb";
+}
+
+}  // namespace tidewell
