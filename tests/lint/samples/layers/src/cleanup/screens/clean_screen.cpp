@@ -1,0 +1,3 @@
+#include <QObject>
+#include <QtQml/qqml.h>
+#include <unistd.h>  // caught

@@ -1,0 +1,2 @@
+#include <sys/types.h>  // caught
+#include <string>

@@ -1,0 +1,2 @@
+#include <linux/openat2.h>  // caught
+#include <sys/stat.h>
