@@ -1,0 +1,83 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "advisor/advisor_view_model.h"
+#include "platform/files.h"
+
+namespace tidewell {
+
+// The words, figures and conditions of the Advisor's screen. Pure; any thread.
+
+enum class AdvisorControlState { ready, busy, disabled };
+
+/// One runtime on the first card, with its button "Delete…".
+struct AdvisorRuntimeRow {
+    std::string id;
+    std::string name;
+    std::string build;
+    std::string size;
+    std::optional<std::string> lastUsed;  ///< "Last used 3 weeks ago"; absent without a date
+    std::string usedBy;
+    AdvisorControlState deleteButton = AdvisorControlState::ready;
+};
+
+enum class AdvisorAction { removeUnavailableSims, thinSnapshots };
+
+/// A button that acts at once. It is never disabled.
+struct AdvisorActionButton {
+    AdvisorAction action = AdvisorAction::removeUnavailableSims;
+    std::string_view label;
+    AdvisorControlState state = AdvisorControlState::ready;
+};
+
+/// One kind of finding.
+struct AdvisorCard {
+    std::string_view symbol;
+    std::string_view title;
+    std::string body;
+    std::optional<std::string> size;
+    std::vector<AdvisorRuntimeRow> runtimes;
+    std::optional<AdvisorActionButton> button;
+};
+
+/// A symbol over words, where there are no cards: the start, the scan, and the all-clear, the only
+/// one with a title.
+struct AdvisorNotice {
+    std::string_view symbol;
+    std::string_view title;
+    std::string_view line;
+};
+
+struct AdvisorContent {
+    AdvisorViewModel::Phase phase = AdvisorViewModel::Phase::idle;
+    std::string headline;                ///< of the list
+    std::optional<std::string> message;  ///< of the list: the strip, until it is dismissed
+    std::optional<AdvisorNotice> notice;
+    std::vector<AdvisorCard> cards;
+};
+
+inline constexpr std::string_view advisorScanLabel = "Check My Mac";
+inline constexpr std::string_view advisorRescanLabel = "Rescan";
+inline constexpr std::string_view advisorSubtitle =
+    "Runs Apple's own tools as you. No admin password, nothing hidden.";
+inline constexpr std::string_view advisorMessageSymbol = "info.circle.fill";
+inline constexpr std::string_view advisorDismissSymbol = "xmark";
+inline constexpr std::string_view advisorDeleteLabel = "Delete…";
+
+AdvisorContent advisorContent(const AdvisorViewModel& model, Date now);
+
+/// What is asked before a runtime is deleted.
+struct RuntimeDeleteConfirmation {
+    static constexpr std::string_view title = "Delete this Simulator runtime?";
+    static constexpr std::string_view confirmLabel = "Delete Runtime";
+    static constexpr std::string_view cancelLabel = "Cancel";
+    std::string message;
+};
+
+RuntimeDeleteConfirmation runtimeDeleteConfirmation(const SimRuntime& runtime);
+
+}  // namespace tidewell
