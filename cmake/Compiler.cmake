@@ -21,6 +21,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(tidewell_compile_options INTERFACE -Wno-restrict)
 endif()
 target_link_libraries(tidewell_compile_options INTERFACE Threads::Threads)
+# What the sanitizers add to the code makes g++ see values that are never set where there are none.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND TIDEWELL_SANITIZE)
+  target_compile_options(tidewell_compile_options INTERFACE -Wno-maybe-uninitialized)
+endif()
 if(TIDEWELL_SANITIZE)
   target_compile_options(tidewell_compile_options INTERFACE
     -fsanitize=${TIDEWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
