@@ -69,18 +69,20 @@ class DeletionGuard {
     bool isDeletable(std::string_view path) const { return allows(rule(path)); }
 
     /// Asks twice: for the path as it is named, and for its real location. So a `~/.cache` that is
-    /// a link into Documents is refused. Absent also if the folder that holds the path is missing.
+    /// a link into Documents is refused, and so are keys that a link was followed to, from either
+    /// side. Absent also if the folder that holds the path is missing.
     std::optional<DeletablePath> approve(const std::string& path) const;
 
-    /// The same for an entry of an approved folder, without looking at the disk again.
-    std::optional<DeletablePath> approveChild(const DeletablePath& folder,
-                                              std::string_view name) const;
+    /// The same question for each entry of an approved folder, from what the disk holds now. An
+    /// entry is removed with all in it, so one that holds a protected path is refused as well.
+    ChildGuard childGuard(const DeletablePath& folder) const;
 
  private:
-    std::optional<DeletablePath> approveAt(std::string named, std::string real) const;
+    bool allowsReal(std::string_view real, const std::vector<std::string>& keys) const;
 
     std::string home_;
     std::vector<std::string> roots_;
+    std::vector<std::string> realRoots_;  ///< where the roots lay when the guard was made
 };
 
 }  // namespace tidewell

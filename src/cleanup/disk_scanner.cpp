@@ -112,9 +112,7 @@ Removal DiskScanner::cleanPath(const std::string& path) const {
     const auto approved = guard_.approve(path);
     if (!approved) return Removal::incomplete;
     if (kind == FileKind::other) return removeItem(*approved);
-    return emptyFolder(*approved, [this, &approved](std::string_view name) {
-        return guard_.approveChild(*approved, name);
-    });
+    return emptyFolder(*approved, guard_.childGuard(*approved));
 }
 
 ByteCount DiskScanner::measurePath(const std::string& path) const {

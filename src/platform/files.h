@@ -41,4 +41,7 @@ std::optional<std::string> extendedAttribute(const std::string& path, const std:
 /// not resolved. Absent if the parent does not exist, or the path has no last component.
 std::optional<std::string> realLocation(const std::string& path);
 
+/// What the path leads to in the end, with all links resolved; absent if nothing stands there.
+std::optional<std::string> resolvedPath(const std::string& path);
+
 }  // namespace tidewell

@@ -67,15 +67,21 @@ bool canOpenForReading(const std::string& path) {
     return static_cast<bool>(file);
 }
 
+std::optional<std::string> resolvedPath(const std::string& path) {
+    const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(path.c_str(), nullptr),
+                                                          std::free);
+    if (!resolved) return std::nullopt;
+    return resolved.get();
+}
+
 std::optional<std::string> realLocation(const std::string& path) {
     const auto standardized = standardizedPath(path);
     const auto name = lastPathComponent(standardized);
     if (name.empty() || name == "." || name == "..") return std::nullopt;
     const auto parent = std::string(parentPath(standardized));
-    const std::unique_ptr<char, void (*)(void*)> resolved(
-        ::realpath(parent.empty() ? "." : parent.c_str(), nullptr), std::free);
+    const auto resolved = resolvedPath(parent.empty() ? "." : parent);
     if (!resolved) return std::nullopt;
-    return joinPath(resolved.get(), name);
+    return joinPath(*resolved, name);
 }
 
 }  // namespace tidewell
