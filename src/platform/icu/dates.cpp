@@ -63,6 +63,15 @@ constexpr std::array relativeUnits{
     RelativeUnit{UCAL_MINUTE, UDAT_REL_UNIT_MINUTE},
 };
 
+/// Whole milliseconds from one moment to a later one. Nanoseconds would overflow over centuries,
+/// and cutting each moment down by itself would make a second of a little less than one.
+milliseconds wholeMilliseconds(Date earlier, Date later) {
+    const auto start = std::chrono::floor<milliseconds>(earlier);
+    const auto end = std::chrono::floor<milliseconds>(later);
+    const bool lastIsPartial = later - end < earlier - start;
+    return end - start - milliseconds(lastIsPartial ? 1 : 0);
+}
+
 /// How far away a moment is, in its largest unit: negative for the past, and for no distance at
 /// all.
 struct Distance {
@@ -72,9 +81,8 @@ struct Distance {
 
 Distance distance(Date date, Date relativeTo) {
     const auto [earlier, later] = std::minmax(date, relativeTo);
-    // Both cut to milliseconds by themselves would make a second of a little less than one.
     const auto start = icuDate(earlier);
-    const auto span = std::chrono::floor<milliseconds>(later - earlier);
+    const auto span = wholeMilliseconds(earlier, later);
     const auto end = start + static_cast<UDate>(span.count());
     const double sign = date > relativeTo && span.count() >= 1000 ? 1.0 : -1.0;
     for (const auto& unit : relativeUnits)
