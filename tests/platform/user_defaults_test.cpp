@@ -83,9 +83,9 @@ TEST_F(UserDefaultsTest, SetsADamagedFileAsideAndGoesOn) {
         EXPECT_EQ(content(file + ".damaged"), damage);
         EXPECT_FALSE(fs::exists(file));
 
-        write(damage);
+        write("again " + std::string(damage));
         EXPECT_EQ(defaults.add("freed", 3), Written::yes);
-        EXPECT_EQ(content(file + ".damaged"), damage);
+        EXPECT_EQ(content(file + ".damaged"), "again " + std::string(damage));
         EXPECT_EQ(defaults.integer("freed"), 3);
     }
 }
@@ -163,6 +163,7 @@ TEST_F(UserDefaultsTest, KeepsTheOldValuesWhereItMayNotWriteOrRead) {
     }));
 
     fs::permissions(folder, fs::perms(0777));
+    fs::permissions(folder + "/defaults.lock", fs::perms(0666));
     fs::permissions(file, fs::perms(isAdministrator ? 0600 : 0000));
     EXPECT_TRUE(asPlainUser([this] {
         return defaults.integer("freed") == 0 && defaults.add("freed", 2) == Written::no;
