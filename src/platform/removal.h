@@ -54,16 +54,19 @@ enum class Removal {
 };
 
 /// Removes a file, a link (the link itself) or a folder with all in it. Goes on after a failure, so
-/// that all that can be removed is removed. Changes no permissions to get its way, and enters no
-/// file system that is mounted inside the tree: that is a failure of that entry.
+/// that all that can be removed is removed; what is gone already is no failure. Changes no
+/// permissions to get its way, and enters no file system that is mounted at the item or inside it:
+/// that is a failure of that entry.
 Removal removeItem(const DeletablePath& item);
 
 /// Says of a child, by its name, whether it may be removed; asked right before its removal, on any
-/// thread.
+/// thread, but never on two at once. An answer that does not lie directly in the folder is a
+/// refusal.
 using ChildGuard = std::function<std::optional<DeletablePath>(std::string_view name)>;
 
 /// Removes the children of a folder that the guard approves, and leaves the folder itself. The
-/// folder is opened once and all is done below that descriptor. A child that the guard refuses, or
+/// folder is opened once, if it is no link and nothing is mounted there, and all is done below that
+/// descriptor. A child that the guard refuses, or
 /// that cannot be removed, makes the result incomplete; so does a folder that cannot be listed,
 /// which loses nothing.
 Removal emptyFolder(const DeletablePath& folder, const ChildGuard& guard);
