@@ -1,6 +1,7 @@
 #pragma once
 
 #include <coroutine>
+#include <cstdlib>
 #include <deque>
 #include <memory>
 #include <type_traits>
@@ -38,12 +39,16 @@ class BackgroundGroup {
     /// How many calls have been started whose value has not been taken.
     int running() const { return running_; }
 
-    /// `co_await group.next()`: the value of the call that ends next. Some call must be running.
+    /// `co_await group.next()`: the value of the call that ends next. Some call must be running, and
+    /// nobody else may be waiting; a wait that cannot end ends the process.
     auto next() {
         struct Awaiter {
             BackgroundGroup* group;
             bool await_ready() const noexcept { return !group->state_->finished.empty(); }
-            void await_suspend(std::coroutine_handle<> caller) { group->state_->waiting = caller; }
+            void await_suspend(std::coroutine_handle<> caller) {
+                if (group->running_ == 0 || group->state_->waiting) std::abort();
+                group->state_->waiting = caller;
+            }
             Value await_resume() {
                 --group->running_;
                 Value value = std::move(group->state_->finished.front());

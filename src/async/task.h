@@ -1,6 +1,7 @@
 #pragma once
 
 #include <coroutine>
+#include <cstdlib>
 #include <exception>
 #include <optional>
 #include <utility>
@@ -9,11 +10,11 @@ namespace tidewell {
 
 /// An awaitable operation: `Task<> startScan();` runs when somebody awaits it, once, and resumes
 /// that caller when it ends. Failures never travel as errors in this program, so an exception
-/// that leaves a task ends the process.
+/// that leaves a task ends the process, and so does a second await.
 ///
 /// Two habits keep g++ 12 from destroying things twice: what is awaited has a name whenever it
 /// holds a lambda or braces, and a coroutine is a named function, or a lambda that captures
-/// nothing. tests/lint/co_await.sh enforces the first.
+/// nothing. tests/lint/co_await.pl enforces the first.
 template <class Value = void>
 class Task;
 
@@ -76,6 +77,7 @@ class [[nodiscard]] Task {
 
     bool await_ready() const noexcept { return false; }
     std::coroutine_handle<> await_suspend(std::coroutine_handle<> caller) noexcept {
+        if (!handle_ || handle_.done()) std::abort();
         handle_.promise().caller = caller;
         return handle_;
     }

@@ -43,7 +43,7 @@ sub isPlainAfter {
         my $sign = $1;
         if ($sign eq '(') { ++$depth }
         elsif ($sign eq ')') { return $isCondition if --$depth < 0 }
-        elsif ($sign eq ';') { return !$isCondition }
+        elsif ($sign eq ';') { return 1 }
         elsif ($sign ne ',' || $depth == 0) { return 0 }
     }
     return 0;

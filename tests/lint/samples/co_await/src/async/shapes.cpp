@@ -34,6 +34,7 @@ Task<int> allowed(Group& group, std::shared_ptr<Object> kept) {
     } else if (const auto found = co_await check(2)) {
         co_return 1;
     }
+    if (const auto found = co_await check(3); found.isGood()) use();
     while (!co_await ended()) use();
     for (const auto& row : co_await read(2)) use(row);
     for (const auto& [key, number] : co_await read(3)) use(key);

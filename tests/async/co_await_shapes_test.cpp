@@ -1,0 +1,173 @@
+// The shapes of co_await that this program is written in, each around an object that counts how
+// often it is destroyed. g++ 12 compiles some others (a lambda with captures, braces or "?:" in the
+// same expression) into code that destroys such an object twice or never.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "async/background.h"
+#include "support/test_loop.h"
+
+namespace tidewell::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+int alive = 0;
+
+/// Counts itself, and owns memory that a second destruction would free again.
+struct Counted {
+    explicit Counted(int number = 1) : value(std::make_unique<int>(number)) { ++alive; }
+    Counted(const Counted& other) : value(std::make_unique<int>(*other.value)) { ++alive; }
+    Counted(Counted&& other) noexcept : value(std::move(other.value)) { ++alive; }
+    Counted& operator=(Counted other) {
+        value.swap(other.value);
+        return *this;
+    }
+    ~Counted() { --alive; }
+
+    std::unique_ptr<int> value;
+};
+
+struct Pair {
+    Counted left;
+    Counted right;
+};
+
+Task<Counted> give(Counted given) {
+    co_await sleepFor(1ms);
+    co_return given;
+}
+
+Task<bool> holds(Counted given, std::function<bool(int)> test) {
+    co_await sleepFor(1ms);
+    co_return test(*given.value);
+}
+
+Task<Pair> givePair(std::shared_ptr<Counted> shared) {
+    co_await sleepFor(1ms);
+    Pair pair{*shared, *shared};
+    co_return pair;
+}
+
+Task<std::vector<Counted>> giveRows(const Counted& row) {
+    std::vector<Counted> rows(3, row);
+    co_await sleepFor(1ms);
+    co_return rows;
+}
+
+Task<int> temporaries() {
+    auto first = co_await give(Counted(1));
+    first = co_await give(std::move(first));
+    co_await give(first);
+    const auto shared = co_await givePair(std::make_shared<Counted>(2));
+    co_return *first.value + *shared.right.value;
+}
+
+Task<int> namedLambdas() {
+    const Counted captured(3);
+    auto working = background([captured] { return captured; });
+    auto value = co_await working;
+    const std::function<bool(int)> test = [captured](int number) {
+        return number == *captured.value;
+    };
+    auto holding = holds(value, test);
+    const bool isHeld = co_await holding;
+    co_return isHeld ? *value.value : 0;
+}
+
+Task<int> conditions() {
+    const auto isOne = [](int number) { return number == 1; };
+    int rounds = 0;
+    if (co_await holds(Counted(1), isOne)) ++rounds;
+    while (co_await holds(Counted(rounds), isOne)) ++rounds;
+    if (const auto given = co_await give(Counted(1)); given.value) ++rounds;
+    co_return rounds;
+}
+
+Task<int> loopsAndBindings() {
+    const Counted row(1);
+    int sum = 0;
+    for (const auto& counted : co_await giveRows(row)) sum += *counted.value;
+    const auto [left, right] = co_await givePair(std::make_shared<Counted>(1));
+    co_return sum + *left.value + *right.value;
+}
+
+Task<Counted> result(int depth) {
+    const Counted local(depth);
+    if (depth == 0) co_return local;
+    co_return co_await result(depth - 1);
+}
+
+Task<int> earlyReturns() {
+    for (int depth = 0; depth < 4; ++depth) {
+        const auto given = co_await result(depth);
+        if (depth == 2) co_return *given.value;
+    }
+    co_return -1;
+}
+
+using Shape = Task<int> (*)();
+
+Task<> run(Shape shape, int& outcome) {
+    auto task = shape();
+    outcome = co_await task;
+}
+
+struct Row {
+    const char* name;
+    Shape shape;
+    int outcome;
+};
+
+constexpr Row rows[] = {
+    {"temporaries", temporaries, 3},    {"named lambdas", namedLambdas, 3},
+    {"conditions", conditions, 3},      {"loops and bindings", loopsAndBindings, 5},
+    {"early returns", earlyReturns, 0},
+};
+
+TEST(CoAwaitShapesTest, DestroyEverythingOnceWhenTheyEnd) {
+    for (const auto& row : rows) {
+        alive = 0;
+        int outcome = -1;
+        {
+            TestLoop loop;
+            spawn(run(row.shape, outcome));
+            for (int step = 0; step < 20; ++step) {
+                loop.runAll();
+                loop.advance(1ms);
+            }
+            EXPECT_EQ(alive, 0) << row.name;
+        }
+        EXPECT_EQ(outcome, row.outcome) << row.name;
+        EXPECT_EQ(alive, 0) << row.name;
+    }
+}
+
+TEST(CoAwaitShapesTest, DestroyEverythingOnceWhereverTheyAreDropped) {
+    for (const auto& row : rows) {
+        for (int steps = 0; steps < 8; ++steps) {
+            alive = 0;
+            int outcome = -1;
+            {
+                TestLoop loop;
+                spawn(run(row.shape, outcome));
+                for (int step = 0; step < steps; ++step) {
+                    loop.runAll();
+                    loop.advance(1ms);
+                }
+            }
+            EXPECT_EQ(alive, 0) << row.name << ", dropped after " << steps << " steps";
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace tidewell::test
