@@ -39,8 +39,8 @@ class BackgroundGroup {
     /// How many calls have been started whose value has not been taken.
     int running() const { return running_; }
 
-    /// `co_await group.next()`: the value of the call that ends next. Some call must be running, and
-    /// nobody else may be waiting; a wait that cannot end ends the process.
+    /// `co_await group.next()`: the value of the call that ends next. Some call must be running,
+    /// and nobody else may be waiting; a wait that cannot end ends the process.
     auto next() {
         struct Awaiter {
             BackgroundGroup* group;

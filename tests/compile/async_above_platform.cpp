@@ -1,0 +1,4 @@
+#include "async/task.h"
+#ifdef WRONG
+#include "platform/files.h"
+#endif

@@ -1,0 +1,15 @@
+list(TRANSFORM INCLUDES PREPEND "-I")
+set(compile ${COMPILER} -std=c++20 -fsyntax-only ${INCLUDES} ${SOURCE})
+
+execute_process(COMMAND ${compile} RESULT_VARIABLE right ERROR_VARIABLE errors)
+if(NOT right EQUAL 0)
+  message(FATAL_ERROR "does not compile as it should:\n${errors}")
+endif()
+
+execute_process(COMMAND ${compile} -DWRONG RESULT_VARIABLE wrong ERROR_VARIABLE errors)
+if(wrong EQUAL 0)
+  message(FATAL_ERROR "compiles, and must not")
+endif()
+if(NOT errors MATCHES "${MESSAGE}")
+  message(FATAL_ERROR "does not compile for another reason:\n${errors}")
+endif()

@@ -1,0 +1,4 @@
+#include "platform/files.h"
+#ifdef WRONG
+#include "cleanup/cleanup_model.h"
+#endif
