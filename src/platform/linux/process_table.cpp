@@ -1,0 +1,129 @@
+#include "platform/linux/process_table.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <charconv>
+#include <climits>
+#include <tuple>
+
+#include "platform/files.h"
+
+namespace tidewell::linux_system {
+
+namespace {
+
+constexpr std::size_t longestStatus = 64 * 1024;
+
+template <class Number>
+std::optional<Number> numberIn(std::string_view text) {
+    Number number{};
+    const auto* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+    return number;
+}
+
+std::string processFolder(std::int32_t id) {
+    return "/proc/" + std::to_string(id);
+}
+
+std::optional<ProcessStatus> readStatus(std::int32_t id) {
+    const auto line = readFile(processFolder(id) + "/stat", longestStatus);
+    const auto status = line ? parseProcessStatus(*line) : std::nullopt;
+    constexpr std::string_view ended = "ZXx";
+    if (!status || ended.find(status->state) != std::string_view::npos) return std::nullopt;
+    return status;
+}
+
+bool belongsToUser(std::int32_t id) {
+    struct stat status;
+    return ::stat(processFolder(id).c_str(), &status) == 0 && status.st_uid == ::getuid();
+}
+
+/// A program whose file was replaced by an update goes on running under its old name.
+std::string withoutDeletionMark(std::string path) {
+    constexpr std::string_view mark = " (deleted)";
+    if (path.ends_with(mark) && !fileExists(path)) path.resize(path.size() - mark.size());
+    return path;
+}
+
+std::optional<std::string> executableOf(std::int32_t id) {
+    char path[PATH_MAX];
+    const auto link = processFolder(id) + "/exe";
+    const auto length = ::readlink(link.c_str(), path, sizeof path);
+    if (length <= 0 || path[0] != '/') return std::nullopt;
+    return withoutDeletionMark(std::string(path, static_cast<std::size_t>(length)));
+}
+
+std::optional<Process> readProcess(std::int32_t id) {
+    if (!belongsToUser(id)) return std::nullopt;
+    auto executable = executableOf(id);
+    const auto status = executable ? readStatus(id) : std::nullopt;
+    if (!status) return std::nullopt;
+    return Process{.identity = {.id = id, .startTime = status->startTime},
+                   .parent = status->parent,
+                   .executable = std::move(*executable)};
+}
+
+}  // namespace
+
+std::vector<Process> ownProcesses() {
+    std::vector<Process> processes;
+    const auto names = folderNames("/proc");
+    if (!names) return processes;
+    for (const auto& name : *names) {
+        const auto id = numberIn<std::int32_t>(name);
+        auto process = id ? readProcess(*id) : std::nullopt;
+        if (process) processes.push_back(std::move(*process));
+    }
+    std::ranges::sort(processes, {}, [](const Process& process) {
+        return std::tuple(process.identity.startTime, process.identity.id);
+    });
+    return processes;
+}
+
+std::optional<std::uint64_t> startTime(std::int32_t id) {
+    const auto status = readStatus(id);
+    return status ? std::optional(status->startTime) : std::nullopt;
+}
+
+std::optional<ProcessStatus> parseProcessStatus(std::string_view line) {
+    const auto nameEnd = line.rfind(')');
+    if (nameEnd == std::string_view::npos) return std::nullopt;
+    // The fields behind the name, which is the second one.
+    constexpr std::size_t stateField = 0;
+    constexpr std::size_t parentField = 1;
+    constexpr std::size_t startTimeField = 19;
+    std::vector<std::string_view> fields;
+    auto rest = line.substr(nameEnd + 1);
+    while (fields.size() <= startTimeField) {
+        const auto begin = rest.find_first_not_of(" \n");
+        if (begin == std::string_view::npos) return std::nullopt;
+        rest.remove_prefix(begin);
+        fields.push_back(rest.substr(0, rest.find_first_of(" \n")));
+        rest.remove_prefix(fields.back().size());
+    }
+    const auto parent = numberIn<std::int32_t>(fields[parentField]);
+    const auto start = numberIn<std::uint64_t>(fields[startTimeField]);
+    if (!parent || !start) return std::nullopt;
+    return ProcessStatus{
+        .state = fields[stateField].front(), .parent = *parent, .startTime = *start};
+}
+
+std::optional<ByteCount> labelledByteCount(std::string_view text, std::string_view label) {
+    while (!text.empty()) {
+        auto line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        if (!line.starts_with(label)) continue;
+        line.remove_prefix(label.size());
+        line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+        if (!line.ends_with(" kB")) return std::nullopt;
+        const auto count = numberIn<std::uint32_t>(line.substr(0, line.size() - 3));
+        return count ? std::optional(ByteCount{*count} * 1024) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+}  // namespace tidewell::linux_system

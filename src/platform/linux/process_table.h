@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/byte_count.h"
+#include "platform/running_applications.h"
+
+namespace tidewell::linux_system {
+
+/// A process whose program is known.
+struct Process {
+    ProcessIdentity identity;
+    std::int32_t parent = 0;
+    std::string executable;  ///< its real location, also if the file has been replaced meanwhile
+};
+
+/// The user's own processes in the order of their start. Those that end while they are read are
+/// left out, and so are those whose program is hidden from the user.
+std::vector<Process> ownProcesses();
+
+/// Absent once the process has ended, also while its parent has not taken note of it.
+std::optional<std::uint64_t> startTime(std::int32_t id);
+
+struct ProcessStatus {
+    char state = 0;
+    std::int32_t parent = 0;
+    std::uint64_t startTime = 0;
+};
+
+/// Reads one line of "stat". The program's name in it may hold any characters.
+std::optional<ProcessStatus> parseProcessStatus(std::string_view line);
+
+/// The count behind `label` at the start of a line such as "MemTotal:   24683620 kB", in bytes.
+std::optional<ByteCount> labelledByteCount(std::string_view text, std::string_view label);
+
+}  // namespace tidewell::linux_system

@@ -1,0 +1,148 @@
+#include "platform/running_applications.h"
+
+#include <signal.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <map>
+#include <set>
+
+#include "platform/bundle.h"
+#include "platform/files.h"
+#include "platform/linux/desktop_entries.h"
+#include "platform/linux/process_table.h"
+#include "platform/path_text.h"
+#include "platform/posix/descriptor.h"
+
+namespace tidewell {
+
+namespace {
+
+using linux_system::DesktopEntry;
+using linux_system::Process;
+
+constexpr std::size_t longestRollup = 64 * 1024;
+
+/// The innermost bundle whose "Contents/MacOS" holds the executable; empty if there is none.
+std::string bundleHolding(std::string_view executable) {
+    constexpr std::string_view extension = ".app";
+    constexpr std::string_view inside = ".app/Contents/MacOS/";
+    const auto at = executable.rfind(inside);
+    return std::string(at == std::string_view::npos ? std::string_view{}
+                                                    : executable.substr(0, at + extension.size()));
+}
+
+/// Info dictionaries hold their flags as booleans, numbers and texts alike.
+bool isSet(const Value* flag) {
+    if (!flag) return false;
+    if (flag->boolean()) return *flag->boolean();
+    if (flag->integer()) return *flag->integer() != 0;
+    constexpr std::string_view yes = "1yYtT";
+    return flag->text() && !flag->text()->empty() && yes.find(flag->text()->front()) != yes.npos;
+}
+
+std::optional<std::string> bundleName(const Bundle& bundle, std::string_view path) {
+    for (const auto* key : {"CFBundleDisplayName", "CFBundleName"})
+        if (auto name = bundle.info.textAt(key); name && !name->empty()) return name;
+    auto name = lastPathComponent(path);
+    name.remove_suffix(std::string_view(".app").size());
+    return name.empty() ? std::nullopt : std::optional(std::string(name));
+}
+
+RunningApplication bundleApplication(const ProcessIdentity& process, const std::string& path) {
+    auto bundle = readBundle(path).value_or(Bundle{});
+    const bool isBackground =
+        isSet(bundle.info.find("LSUIElement")) || isSet(bundle.info.find("LSBackgroundOnly"));
+    return {.process = process,
+            .name = bundleName(bundle, path),
+            .bundleIdentifier = std::move(bundle.identifier),
+            .bundlePath = path,
+            .activationPolicy =
+                isBackground ? ActivationPolicy::background : ActivationPolicy::regular};
+}
+
+RunningApplication entryApplication(const ProcessIdentity& process, const DesktopEntry& entry) {
+    return {.process = process,
+            .name = entry.name,
+            .bundleIdentifier = entry.id,
+            .bundlePath = std::nullopt,
+            .activationPolicy = ActivationPolicy::regular};
+}
+
+/// What runs on a machine, sorted out by what each process is a part of.
+class ApplicationList {
+ public:
+    explicit ApplicationList(const Host& host) : root_(host.root) {
+        if (host.root != "/") return;
+        for (auto& entry : linux_system::visibleDesktopEntries(host))
+            entries_.emplace(entry.executable, entry);
+    }
+
+    std::vector<RunningApplication> applications() const {
+        const auto processes = linux_system::ownProcesses();
+        std::map<std::int32_t, std::string> ownerOf;
+        for (const auto& process : processes) ownerOf[process.identity.id] = owner(process);
+        std::vector<RunningApplication> result;
+        std::set<std::string> seen;
+        for (const auto& process : processes) {
+            const auto& own = ownerOf.at(process.identity.id);
+            const auto parent = ownerOf.find(process.parent);
+            const bool isHelper = parent != ownerOf.end() && parent->second == own;
+            if (!own.empty() && !isHelper && seen.insert(own).second)
+                result.push_back(application(process, own));
+        }
+        return result;
+    }
+
+ private:
+    /// The bundle or the executable of the entry that a process belongs to, empty if to none.
+    std::string owner(const Process& process) const {
+        if (!isBelow(process.executable, root_)) return {};
+        auto bundle = bundleHolding(process.executable);
+        if (!bundle.empty()) return bundle;
+        return entries_.contains(process.executable) ? process.executable : std::string();
+    }
+    RunningApplication application(const Process& process, const std::string& owner) const {
+        const auto entry = entries_.find(owner);
+        return entry != entries_.end() ? entryApplication(process.identity, entry->second)
+                                       : bundleApplication(process.identity, owner);
+    }
+
+    std::string root_;
+    std::map<std::string, DesktopEntry> entries_;  ///< by executable; of several, the first
+};
+
+}  // namespace
+
+std::vector<RunningApplication> runningApplications(const Host& host) {
+    return ApplicationList(host).applications();
+}
+
+bool isApplicationRunning(const Host& host, std::string_view bundleIdentifier) {
+    return std::ranges::any_of(runningApplications(host), [=](const auto& application) {
+        return application.bundleIdentifier == bundleIdentifier;
+    });
+}
+
+ByteCount physicalFootprint(const ProcessIdentity& process) {
+    const auto path = "/proc/" + std::to_string(process.id) + "/smaps_rollup";
+    const auto text = readFile(path, longestRollup);
+    if (!text || linux_system::startTime(process.id) != process.startTime) return 0;
+    const auto present = linux_system::labelledByteCount(*text, "Pss:");
+    const auto swapped = linux_system::labelledByteCount(*text, "SwapPss:");
+    return present.value_or(0) + swapped.value_or(0);
+}
+
+Termination terminate(const ProcessIdentity& process) {
+    // The descriptor stands for whatever process has the number now, and for no later one.
+    const posix::Descriptor held(static_cast<int>(::syscall(SYS_pidfd_open, process.id, 0)));
+    if (!held) return errno == ESRCH ? Termination::alreadyEnded : Termination::refused;
+    if (linux_system::startTime(process.id) != process.startTime) return Termination::alreadyEnded;
+    if (::syscall(SYS_pidfd_send_signal, held.get(), SIGTERM, nullptr, 0) == 0)
+        return Termination::asked;
+    return errno == ESRCH ? Termination::alreadyEnded : Termination::refused;
+}
+
+}  // namespace tidewell
