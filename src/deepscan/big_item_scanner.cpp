@@ -1,0 +1,132 @@
+#include "deepscan/big_item_scanner.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/files.h"
+#include "platform/path_text.h"
+#include "platform/removal.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> libraryRoots = {
+    "Library/Caches",           "Library/Application Support", "Library/Containers",
+    "Library/Group Containers", "Library/Developer",
+};
+
+/// Folders of the home folder that are no roots: parts of the one are, and the other has a tool of
+/// its own.
+constexpr std::array<std::string_view, 2> homeRootExclusions = {"Library", "Applications"};
+
+bool isHomeRootName(std::string_view name) {
+    return !name.starts_with('.') &&
+           std::ranges::find(homeRootExclusions, name) == homeRootExclusions.end();
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+    return folderNames(folder).value_or(std::vector<std::string>{});
+}
+
+bool isInPersonalFolder(std::string_view path, std::string_view home) {
+    if (!isBelow(path, home)) return false;
+    const auto pieces = pathPieces(pathRelativeTo(path, home));
+    return !pieces.empty() &&
+           std::ranges::find(personalFolders, pieces.front()) != personalFolders.end();
+}
+
+}  // namespace
+
+BigItem::Kind classifyBigItem(std::string_view path, std::string_view home) {
+    const auto name = lastPathComponent(path);
+    if (isArtifactFolderName(name) || isBuildFolderName(name)) return BigItem::Kind::rebuildable;
+    // Without a slash behind it, so that "Caches 2" beside it counts as well.
+    if (path.starts_with(joinPath(home, "Library/Caches")) || name == "Cache" || name == "Caches")
+        return BigItem::Kind::cache;
+    if (isBelow(path, joinPath(home, "Library"))) return BigItem::Kind::appData;
+    if (isInPersonalFolder(path, home)) return BigItem::Kind::personal;
+    return BigItem::Kind::other;
+}
+
+BigItem::Kind finalKind(BigItem::Kind classified,
+                        const std::optional<FolderKnowledge::Fact>& fact) {
+    if (!fact) return classified;
+    switch (fact->verdict) {
+        case FolderKnowledge::Verdict::keepUserData:
+            return BigItem::Kind::personal;
+        case FolderKnowledge::Verdict::safeToClear:
+            return BigItem::Kind::cache;
+        case FolderKnowledge::Verdict::mixed:
+        case FolderKnowledge::Verdict::systemRecreated:
+            return classified;
+    }
+    return classified;
+}
+
+BigItemScanner::BigItemScanner(Host host) : host_(std::move(host)), disk_(host_), guard_(host_) {}
+
+std::vector<std::string> BigItemScanner::roots() const {
+    std::vector<std::string> roots;
+    for (const auto root : libraryRoots) roots.push_back(joinPath(host_.home, root));
+    for (const auto& name : namesIn(host_.home)) {
+        auto path = joinPath(host_.home, name);
+        if (isHomeRootName(name) && fileKind(path) == FileKind::folder)
+            roots.push_back(std::move(path));
+    }
+    return roots;
+}
+
+/// No path can come twice: no two roots are the same folder, and each lists its own entries only.
+std::vector<std::string> BigItemScanner::candidates() const {
+    std::vector<std::string> paths;
+    for (const auto& root : roots()) {
+        for (const auto& name : namesIn(root)) {
+            auto path = joinPath(root, name);
+            if (fileExists(path)) paths.push_back(std::move(path));
+        }
+    }
+    return paths;
+}
+
+BigItem BigItemScanner::describe(const std::string& path, ByteCount size) const {
+    const auto name = lastPathComponent(path);
+    const auto fact = FolderKnowledge::fact(name);
+    BigItem item{.id = path,
+                 .name = std::string(name),
+                 .location = std::string(host_.relativeToHome(parentPath(path))),
+                 .sizeBytes = size,
+                 .isDirectory = fileKind(path) == FileKind::folder,
+                 .kind = finalKind(classifyBigItem(path, host_.home), fact),
+                 .note = std::nullopt,
+                 .reclaimCommand = std::nullopt};
+    if (fact) item.note = std::string(fact->note);
+    return item;
+}
+
+std::vector<BigItem> BigItemScanner::scan(const Progress& progress) const {
+    const auto paths = candidates();
+    std::vector<BigItem> items;
+    std::size_t measured = 0;
+    for (const auto& path : paths) {
+        const auto size = disk_.measurePath(path);
+        ++measured;
+        if (progress) progress(static_cast<double>(measured) / static_cast<double>(paths.size()));
+        if (isBigItem(size)) items.push_back(describe(path, size));
+    }
+    sortBySize(items);
+    return items;
+}
+
+bool BigItemScanner::moveToTrashIfApproved(const BigItem& item) const {
+    const auto approved = guard_.approve(item);
+    return approved && moveToTrash(*approved, host_.home) == Trashing::moved;
+}
+
+BigItemScanner::TrashOutcome BigItemScanner::trash(const BigItem& item) const {
+    const bool moved = moveToTrashIfApproved(item);
+    return {.name = item.name, .freedBytes = moved ? item.sizeBytes : 0, .success = moved};
+}
+
+}  // namespace tidewell

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cleanup/disk_scanner.h"
+#include "deepscan/big_item.h"
+#include "deepscan/big_item_trash_guard.h"
+#include "deepscan/folder_knowledge.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// What an entry must occupy to be listed; "80 MB" to the user.
+inline constexpr ByteCount bigItemThreshold = ByteCount{80} * 1024 * 1024;
+
+constexpr bool isBigItem(ByteCount size) {
+    return size >= bigItemThreshold;
+}
+
+/// What an entry is by its name and its place in the home folder alone.
+BigItem::Kind classifyBigItem(std::string_view path, std::string_view home);
+
+/// The same once the folder is known: a fact overrules it where losing the folder hurts, and where
+/// it surely does not.
+BigItem::Kind finalKind(BigItem::Kind classified, const std::optional<FolderKnowledge::Fact>& fact);
+
+/// Finds what takes the room in the home folder, whatever it is, and moves single items to the
+/// Trash. Has no state but the machine that it works on; every operation blocks, may be called from
+/// any thread but the main one, and never fails towards its caller: what cannot be read is passed
+/// over.
+class BigItemScanner {
+ public:
+    struct TrashOutcome {
+        std::string name;  ///< the item's
+        ByteCount freedBytes = 0;
+        bool success = false;
+    };
+
+    /// Gets the share of the candidates that are measured, from above 0 to exactly 1.
+    using Progress = std::function<void(double)>;
+
+    explicit BigItemScanner(Host host);
+
+    /// The entries that occupy enough, of five folders of the user's Library and of every visible
+    /// folder of the home folder but Library and Applications. Largest first; of equal size in the
+    /// order of the walk. An entry is one item however deep it goes. `progress` is called on the
+    /// caller's thread after each measure.
+    std::vector<BigItem> scan(const Progress& progress = {}) const;
+
+    /// Refuses what the guard refuses; a refusal and a failure look the same. Nothing is measured
+    /// again: a moved item frees its size as it was found.
+    TrashOutcome trash(const BigItem& item) const;
+
+ private:
+    std::vector<std::string> roots() const;
+    std::vector<std::string> candidates() const;
+    BigItem describe(const std::string& path, ByteCount size) const;
+    bool moveToTrashIfApproved(const BigItem& item) const;
+
+    Host host_;
+    DiskScanner disk_;
+    BigItemTrashGuard guard_;
+};
+
+}  // namespace tidewell

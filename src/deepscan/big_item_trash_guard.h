@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "deepscan/big_item.h"
+#include "platform/host.h"
+#include "platform/removal.h"
+
+namespace tidewell {
+
+/// Whether an item of this kind may go to the Trash at all. A virtual disk may not: everything
+/// inside it would go too.
+bool isTrashable(BigItem::Kind kind);
+
+/// Whether a path lies below the home folder, and not directly: a top folder such as Documents is
+/// never moved as a whole. Looks at the standardised text alone.
+bool isDeepInHome(std::string_view path, std::string_view home);
+
+/// Decides which found items may be moved to the Trash. Any thread.
+class BigItemTrashGuard {
+ public:
+    explicit BigItemTrashGuard(const Host& host) : home_(host.home) {}
+
+    /// Asks for the item's depth twice: as its path is named, and at its real location. So neither
+    /// a folder that is a link out of the home folder, nor one that is a link back up to it, gets
+    /// anything past the guard. Absent also if the folder that holds the item is missing.
+    std::optional<TrashablePath> approve(const BigItem& item) const;
+
+ private:
+    std::string home_;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cleanup/disk_scanner.h"
+#include "cleanup/target_catalogue.h"
+#include "deepscan/big_item.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// What a tool's disks must occupy to be listed.
+inline constexpr ByteCount containerMinimumSize = ByteCount{100} * 1024 * 1024;
+
+/// Finds the disks of container and virtual machine tools, which are freed from inside the tool and
+/// never trashed. Has no state but the machine that it works on; blocks; any thread but the main
+/// one. What cannot be read is passed over.
+class ContainerScanner {
+ public:
+    /// A tool, as constant data. Each list is tried in its order.
+    struct Engine {
+        std::string_view name;
+        CataloguePaths detect;   ///< the tool is there if any of these exists
+        CataloguePaths measure;  ///< the first that exists is what is measured
+        CataloguePaths reveal;   ///< the first that exists is what is shown to the user
+        std::string_view note;
+        std::optional<std::string_view> command;  ///< frees the room
+    };
+
+    static std::span<const Engine> engines();
+
+    explicit ContainerScanner(Host host);
+
+    /// At most one item for each tool, largest first; of equal size in the order of the table.
+    std::vector<BigItem> scan() const;
+
+    /// Folders that the walk for big items meets too, whole: their room is already told by a tool's
+    /// item, or is the tool's own business.
+    std::vector<std::string> walkExclusionPaths() const;
+
+ private:
+    std::optional<BigItem> find(const Engine& engine) const;
+    std::optional<std::string> firstExisting(const CataloguePaths& paths) const;
+
+    Host host_;
+    DiskScanner disk_;
+};
+
+}  // namespace tidewell

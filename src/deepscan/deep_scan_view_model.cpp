@@ -1,0 +1,70 @@
+#include "deepscan/deep_scan_view_model.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <utility>
+
+#include "async/background.h"
+#include "platform/path_text.h"
+
+namespace tidewell {
+
+std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigItem> installers,
+                                   std::vector<BigItem> containers,
+                                   const std::vector<std::string>& excludedPaths) {
+    std::set<std::string> installerIds;
+    for (const auto& installer : installers) installerIds.insert(installer.id);
+    std::erase_if(walked, [&](const BigItem& item) {
+        return installerIds.contains(item.id) ||
+               std::ranges::any_of(excludedPaths, [&item](const std::string& excluded) {
+                   return isAtOrBelow(item.path(), excluded);
+               });
+    });
+    auto& merged = walked;
+    std::ranges::move(installers, std::back_inserter(merged));
+    std::ranges::move(containers, std::back_inserter(merged));
+    sortBySize(merged);
+    return std::move(merged);
+}
+
+DeepScanViewModel::DeepScanViewModel(const Host& host)
+    : scanner_(host), installerScanner_(host), containerScanner_(host) {}
+
+Task<> DeepScanViewModel::scan() {
+    if (phase() == Phase::scanning) co_return;
+    phase = Phase::scanning;
+    scanProgress = 0.0;
+    lastResult = std::nullopt;
+
+    auto scanning = background([walk = scanner_, installers = installerScanner_,
+                                containers = containerScanner_, progress = progressHop()] {
+        auto walked = walk.scan(progress);
+        auto foundInstallers = installers.scan();
+        auto foundContainers = containers.scan();
+        return mergeDeepScan(std::move(walked), std::move(foundInstallers),
+                             std::move(foundContainers), containers.walkExclusionPaths());
+    });
+    auto found = co_await scanning;
+    items = std::move(found);
+    phase = Phase::list;
+}
+
+Task<> DeepScanViewModel::trash(BigItem item) {
+    auto trashing = background([scanner = scanner_, item] { return scanner.trash(item); });
+    auto outcome = co_await trashing;
+    if (outcome.success)
+        std::erase_if(items.mutate(),
+                      [&item](const BigItem& listed) { return listed.id == item.id; });
+    lastResult = std::move(outcome);
+}
+
+BigItemScanner::Progress DeepScanViewModel::progressHop() {
+    return [weak = weak_from_this(), &executor = Executor::main()](double fraction) {
+        executor.post([weak, fraction] {
+            if (const auto self = weak.lock()) self->scanProgress = fraction;
+        });
+    };
+}
+
+}  // namespace tidewell

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "async/observable.h"
+#include "async/task.h"
+#include "deepscan/big_item.h"
+#include "deepscan/big_item_scanner.h"
+#include "deepscan/container_scanner.h"
+#include "deepscan/installer_scanner.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// One list of what the three scanners found, largest first. A walked item that is also an
+/// installer gives way to it; one at or below an excluded path goes. At equal sizes walked items
+/// come before installers, and those before containers.
+std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigItem> installers,
+                                   std::vector<BigItem> containers,
+                                   const std::vector<std::string>& excludedPaths);
+
+/// The state of the Deep Scan tool: runs the three scanners as one scan, keeps the list, moves one
+/// item at a time to the Trash. Main thread only; the slow work runs in the background.
+class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel> {
+ public:
+    enum class Phase { idle, scanning, list };
+
+    explicit DeepScanViewModel(const Host& host);
+
+    /// Fired before each change of what follows.
+    Signal willChange;
+
+    Published<Phase> phase{willChange, Phase::idle};
+    /// What the last scan found, largest first, without what was trashed since. During a scan still
+    /// the list of the one before.
+    Published<std::vector<BigItem>> items{willChange};
+    /// The share of the walk's candidates that are measured; installers and containers come after
+    /// the walk and move nothing.
+    Published<double> scanProgress{willChange, 0.0};
+    /// How the last move to the Trash ended, until the next scan.
+    Published<std::optional<BigItemScanner::TrashOutcome>> lastResult{willChange};
+
+    ByteCount totalBytes() const { return tidewell::totalBytes(items()); }
+
+    /// Does nothing during a scan. Ends when the scan has ended.
+    Task<> scan();
+    /// Ends when the Trash has answered. An item that could not be moved stays in the list.
+    Task<> trash(BigItem item);
+
+    /// Sets scanProgress in a later turn, unless the view model is gone by then. Made on the main
+    /// thread, called on any.
+    BigItemScanner::Progress progressHop();
+
+ private:
+    const BigItemScanner scanner_;
+    const InstallerScanner installerScanner_;
+    const ContainerScanner containerScanner_;
+};
+
+}  // namespace tidewell

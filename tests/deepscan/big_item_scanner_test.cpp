@@ -1,0 +1,78 @@
+#include "deepscan/big_item_scanner.h"
+
+#include <gtest/gtest.h>
+
+#include "support/sample_machine.h"
+
+namespace tidewell::test {
+namespace {
+
+using Kind = BigItem::Kind;
+using FolderKnowledge::Verdict;
+
+TEST(BigItemScanner, ClassifiesByNameThenPlaceAndLetsAClearFactOverruleIt) {
+    const std::pair<std::string_view, Kind> rows[] = {
+        {"/h/Downloads/node_modules", Kind::rebuildable},
+        {"/h/Library/Caches/build", Kind::rebuildable},
+        {"/h/Library/Caches 2", Kind::cache},
+        {"/h/Documents/Caches", Kind::cache},
+        {"/h/Library/caches/x", Kind::appData},
+        {"/h/Documents/Target", Kind::personal},
+        {"/h/Music/MyCache", Kind::personal},
+        {"/h/Library2/x", Kind::other},
+        {"/h/documents/x", Kind::other},
+        {"/h/Projects/Documents", Kind::other},
+        {"/h2/Documents/x", Kind::other},
+    };
+    for (const auto& [path, kind] : rows) EXPECT_EQ(classifyBigItem(path, "/h"), kind) << path;
+
+    const auto with = [](Verdict verdict) {
+        return finalKind(Kind::appData, FolderKnowledge::Fact{verdict, ""});
+    };
+    EXPECT_EQ(with(Verdict::keepUserData), Kind::personal);
+    EXPECT_EQ(with(Verdict::safeToClear), Kind::cache);
+    EXPECT_EQ(with(Verdict::mixed), Kind::appData);
+    EXPECT_EQ(with(Verdict::systemRecreated), Kind::appData);
+}
+
+TEST(BigItemScanner, ListsTheBigEntriesOfFiveLibraryFoldersAndOfVisibleFoldersAsWholes) {
+    EXPECT_TRUE(isBigItem(83'886'080));
+    EXPECT_FALSE(isBigItem(83'886'079));
+    const SampleMachine machine;
+    machine.file("~/Library/Caches/Google/a/b/blob", 100 * megabyte);
+    machine.file("~/Library/Containers/com.apple.mail/box", 90 * megabyte);
+    machine.file("~/Downloads/.big", 95 * megabyte);
+    machine.file("~/Downloads/small", 79 * megabyte);
+    machine.file("~/Work/film.mov", 90 * megabyte);
+    machine.file("~/.hidden/deep/blob", 90 * megabyte);
+    machine.file("~/Applications/Game.app/data", 90 * megabyte);
+    machine.file("~/Library/Mail/box", 90 * megabyte);
+    machine.file("~/film.mov", 90 * megabyte);
+    machine.link("~/Downloads/dangling", "nowhere");
+    machine.link("~/Movies/lnk", machine.path("~/.hidden"));
+    machine.link("~/Pictures", ".hidden");
+    std::vector<double> progress;
+
+    const auto items = BigItemScanner(machine.host()).scan([&progress](double fraction) {
+        progress.push_back(fraction);
+    });
+
+    std::vector<std::string> lines;
+    for (const auto& item : items)
+        lines.push_back(item.location + "|" + item.name + (item.isDirectory ? "|folder" : "|file") +
+                        (item.note ? "|known" : "") + "|" +
+                        std::to_string(item.sizeBytes / megabyte));
+    EXPECT_EQ(lines, (std::vector<std::string>{
+                         "Library/Caches|Google|folder|known|100",
+                         "Downloads|.big|file|95",
+                         "Library/Containers|com.apple.mail|folder|known|90",
+                         "Work|film.mov|file|90",
+                     }));
+    EXPECT_EQ(items[0].kind, Kind::cache);
+    EXPECT_EQ(items[2].kind, Kind::personal) << "a fact overrules its place";
+    EXPECT_EQ(items[3].id, machine.path("~/Work/film.mov"));
+    EXPECT_EQ(progress, (std::vector{1 / 6., 2 / 6., 3 / 6., 4 / 6., 5 / 6., 1.}));
+}
+
+}  // namespace
+}  // namespace tidewell::test

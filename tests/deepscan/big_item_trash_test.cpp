@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include "deepscan/big_item_scanner.h"
+#include "deepscan/big_item_support.h"
+#include "support/sample_machine.h"
+
+namespace tidewell::test {
+namespace {
+
+using Kind = BigItem::Kind;
+
+struct BigItemTrash : testing::Test {
+    BigItemScanner::TrashOutcome trash(std::string_view path, Kind kind = Kind::personal) const {
+        return BigItemScanner(machine.host()).trash(bigItem(machine.path(path), kind, 5000));
+    }
+    void expectRefused(std::string_view path, Kind kind = Kind::personal) const {
+        const auto outcome = trash(path, kind);
+        EXPECT_FALSE(outcome.success) << path;
+        EXPECT_EQ(outcome.freedBytes, 0) << path;
+    }
+
+    SampleMachine machine;
+};
+
+TEST(BigItemTrashGuard, TakesOnlyWhatLiesTwoLevelsBelowHome) {
+    for (const auto path : {"/h/Documents/x", "/h/Documents/../Music/x", "/h//Documents//x/"})
+        EXPECT_TRUE(isDeepInHome(path, "/h")) << path;
+    for (const auto path :
+         {"/h", "/h/Documents/", "/h//Documents", "/h/./Documents", "/h/Documents/x/..",
+          "/home/Documents/x", "/h/../other/x/y", "/", "", "Documents/x"})
+        EXPECT_FALSE(isDeepInHome(path, "/h")) << path;
+}
+
+TEST_F(BigItemTrash, MovesAnItemWithAllInItAndKeepsWhatIsInTheTrash) {
+    machine.text("~/.Trash/X.data", "older");
+    machine.text("~/Library/Caches/X.data/deep/file", "newer");
+
+    const auto outcome = trash("~/Library/Caches/X.data", Kind::cache);
+
+    EXPECT_TRUE(outcome.success);
+    EXPECT_EQ(outcome.freedBytes, 5000);
+    EXPECT_EQ(outcome.name, "X.data");
+    EXPECT_FALSE(machine.has("~/Library/Caches/X.data"));
+    EXPECT_EQ(machine.contentOf("~/.Trash/X.data"), "older");
+    EXPECT_EQ(machine.contentOf("~/.Trash/X 2.data/deep/file"), "newer");
+    expectRefused("~/Library/Caches/X.data");  // it is gone
+}
+
+TEST_F(BigItemTrash, RefusesVirtualDisksAndWhatIsNotTwoLevelsBelowHome) {
+    machine.text("~/Documents/x", "kept");
+    machine.text("/Users/Shared/folder/x", "kept");
+    machine.link("/Users/Shared/in", machine.path("~/Documents"));
+    expectRefused("~/Documents/x", Kind::container);
+    for (const auto path : {"~", "~/Documents", "~/Documents/x/..", "/Users/Shared/folder/x",
+                            "~/../Shared/folder/x", "/Users/Shared/in/x"})
+        expectRefused(path);
+    EXPECT_TRUE(machine.has("~/Documents/x"));
+    EXPECT_TRUE(machine.has("/Users/Shared/folder/x"));
+    EXPECT_FALSE(machine.has("~/.Trash"));
+}
+
+TEST_F(BigItemTrash, LetsNoLinkCarryItPastTheGuard) {
+    machine.text("/Users/Shared/folder/x", "kept");
+    machine.link("~/Downloads", machine.path("/Users/Shared"));
+    expectRefused("~/Downloads/folder");
+    machine.link("~/Movies/deep", machine.path("/Users/Shared"));
+    expectRefused("~/Movies/deep/folder/x");
+    machine.text("~/Documents/thesis", "kept");
+    machine.link("~/Music/up", machine.home());
+    expectRefused("~/Music/up/Documents");
+    EXPECT_TRUE(machine.has("/Users/Shared/folder/x"));
+    EXPECT_TRUE(machine.has("~/Documents/thesis"));
+
+    EXPECT_TRUE(trash("~/Movies/deep").success) << "a link may go, but alone";
+    EXPECT_FALSE(machine.has("~/Movies/deep"));
+    EXPECT_TRUE(machine.has("/Users/Shared/folder/x"));
+}
+
+TEST_F(BigItemTrash, LeavesAnItemWhereTheTrashIsALink) {
+    machine.folder("~/Elsewhere");
+    machine.link("~/.Trash", "Elsewhere");
+    machine.text("~/Documents/x", "kept");
+    expectRefused("~/Documents/x");
+    EXPECT_TRUE(machine.has("~/Documents/x"));
+}
+
+}  // namespace
+}  // namespace tidewell::test
