@@ -52,8 +52,10 @@ void ValueBuilder::end(Open::Kind kind) {
 void keepLastOfEachKey(Value::Object& members) {
     std::vector<std::size_t> byKey(members.size());
     std::iota(byKey.begin(), byKey.end(), std::size_t{0});
-    std::ranges::stable_sort(
-        byKey, {}, [&](std::size_t place) -> const std::string& { return members[place].first; });
+    std::ranges::sort(byKey, [&](std::size_t left, std::size_t right) {
+        const auto order = members[left].first <=> members[right].first;
+        return order == 0 ? left < right : order < 0;
+    });
     std::vector<bool> isRepeated(members.size());
     auto anyRepeated = false;
     for (std::size_t i = 1; i < byKey.size(); ++i)
