@@ -125,8 +125,7 @@ class Reader {
         if (number >= trailer_.objectCount) return std::nullopt;
         const auto offset =
             bigEndian(offsets_.substr(number * trailer_.offsetSize, trailer_.offsetSize));
-        if (offset < binaryPropertyListMark.size() || offset >= objects_.size())
-            return std::nullopt;
+        if (offset >= objects_.size()) return std::nullopt;
         const auto first = static_cast<unsigned char>(objects_[offset]);
         return Object{
             .type = Type{first / 16U}, .count = first % 16U, .rest = objects_.substr(offset + 1)};

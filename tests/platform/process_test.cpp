@@ -1,10 +1,12 @@
 #include "platform/process.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -76,11 +78,17 @@ TEST_F(Process, OutputLargerThanAPipeIsReadWhole) {
 }
 
 TEST_F(Process, AToolFindsNothingOnItsStandardStreamsAndTheEnvironmentAsItIs) {
+    const int ownInput = ::dup(STDIN_FILENO);
+    const int other = ::open(machine_.root().c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(::dup2(other, STDIN_FILENO), STDIN_FILENO);
     ::setenv("TIDEWELL_TEST_VARIABLE", "kept", 1);
     const auto run = this->run(
         "[ /dev/fd/0 -ef /dev/null ] && [ /dev/fd/2 -ef /dev/null ] && "
         "echo noise >&2 && echo $TIDEWELL_TEST_VARIABLE");
     ::unsetenv("TIDEWELL_TEST_VARIABLE");
+    ::dup2(ownInput, STDIN_FILENO);
+    ::close(ownInput);
+    ::close(other);
     ASSERT_TRUE(run);
     EXPECT_EQ(run->output, "kept\n");
 }
@@ -109,7 +117,9 @@ TEST_F(Process, SignalsThatArriveMeanwhileDisturbNothing) {
     ASSERT_EQ(::sigaction(SIGALRM, &interrupt, &before), 0);
     const itimerval often = {.it_interval = {0, 500}, .it_value = {0, 500}};
     ASSERT_EQ(::setitimer(ITIMER_REAL, &often, nullptr), 0);
-    const auto run = this->run("for i in 1 2 3 4; do head -c 500000 /dev/zero; done; exit 6");
+    const auto run = this->run(
+        "for i in 1 2 3 4; do head -c 500000 /dev/zero; done; exec >&-; "
+        "i=0; while [ $i -lt 30000 ]; do i=$((i + 1)); done; exit 6");
     const itimerval never = {};
     ::setitimer(ITIMER_REAL, &never, nullptr);
     ::sigaction(SIGALRM, &before, nullptr);
