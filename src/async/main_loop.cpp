@@ -6,7 +6,7 @@
 
 namespace tidewell {
 
-MainLoop::~MainLoop() {
+void MainLoop::end() {
     dropTasks();
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return workers_ == 0; });

@@ -27,8 +27,9 @@ class MainLoop : public Executor {
 
  protected:
     explicit MainLoop(std::function<void()> wake) : wake_(std::move(wake)) {}
-    /// Drops the spawned tasks, then waits for the background calls under way.
-    ~MainLoop() override;
+    /// Drops the spawned tasks, then waits for the background calls under way. For the destructors
+    /// of the derived classes: what those calls post finds the object whole until they have ended.
+    void end();
 
     /// Blocks until a turn is due.
     void waitForTurn();
@@ -46,6 +47,7 @@ class MainLoop : public Executor {
 class RunLoop final : public MainLoop {
  public:
     RunLoop() : MainLoop([] {}) {}
+    ~RunLoop() override { end(); }
 
     void run();
     /// Ends run() after the turn in hand. Main thread only.
@@ -60,6 +62,7 @@ class RunLoop final : public MainLoop {
 class GuestLoop final : public MainLoop {
  public:
     explicit GuestLoop(std::function<void()> wake) : MainLoop(std::move(wake)) {}
+    ~GuestLoop() override { end(); }
 };
 
 }  // namespace tidewell
