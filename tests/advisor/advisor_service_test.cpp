@@ -94,23 +94,11 @@ TEST(AdvisorService, GoodOutputOfAToolThatFailsInTheEndIsDiscarded) {
     EXPECT_EQ(service.simRuntimes().size(), 1);
     EXPECT_EQ(service.unavailableSimCount(), 1);
     EXPECT_EQ(service.localSnapshotCount(), 1);
+    EXPECT_TRUE(service.thinSnapshots()) << "an empty output is no failure";
     for (const auto* end : {"exit 1\n", "exit 72\n", "kill -TERM $$\n", "kill -KILL $$\n"}) {
         replaceTools(machine, end);
         expectNothing(service, end);
         expectRefusals(service, end);
-    }
-}
-
-TEST(AdvisorService, AnActionSucceedsByItsEndAndNotByItsWords) {
-    const SampleMachine machine;
-    const AdvisorService service(machine.host());
-    for (const auto* script : {"exit 0\n", "echo 'An error was encountered'; exit 0\n"}) {
-        machine.tool("/usr/bin/xcrun", script);
-        machine.tool("/usr/bin/tmutil", script);
-        EXPECT_TRUE(service.deleteRuntime(withId("X"))) << script;
-        EXPECT_TRUE(service.removeUnavailableSims()) << script;
-        EXPECT_TRUE(service.thinSnapshots()) << script;
-        expectNothing(service, script);
     }
 }
 

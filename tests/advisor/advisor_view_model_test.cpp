@@ -47,7 +47,7 @@ class AdvisorViewModelTest : public testing::Test {
         std::make_shared<AdvisorViewModel>(machine.host());
 };
 
-TEST_F(AdvisorViewModelTest, AScanGathersEverythingAndOneAtATimeIsEnough) {
+TEST_F(AdvisorViewModelTest, AScanGathersEverythingAndASecondOneMeanwhileDoesNothing) {
     EXPECT_EQ(model->phase(), Phase::idle);
     EXPECT_FALSE(model->hasFindings());
     begin(&AdvisorViewModel::scan);
@@ -62,17 +62,11 @@ TEST_F(AdvisorViewModelTest, AScanGathersEverythingAndOneAtATimeIsEnough) {
     EXPECT_EQ(model->findings().snapshotCount, 2);
     EXPECT_EQ(model->reclaimableBytes(), 12000);
     EXPECT_TRUE(model->hasFindings());
-}
 
-TEST_F(AdvisorViewModelTest, ARescanClearsTheMessageAndKeepsTheFindingsUntilTheNewOnesAreThere) {
-    perform(&AdvisorViewModel::scan);
-    perform(&AdvisorViewModel::thinSnapshots);
-    tools.runtime("C", "{}");
+    model->lastMessage = "the outcome of an action";
     begin(&AdvisorViewModel::scan);
     EXPECT_FALSE(model->lastMessage());
-    EXPECT_EQ(model->findings().runtimes.size(), 2);
-    loop.runAll();
-    EXPECT_EQ(model->findings().runtimes.size(), 3);
+    EXPECT_EQ(model->findings().runtimes.size(), 2) << "until the new ones are there";
 }
 
 TEST_F(AdvisorViewModelTest,
@@ -106,6 +100,11 @@ TEST_F(AdvisorViewModelTest,
               "macOS is purging snapshots now. Space shows up over the next few minutes.");
     EXPECT_EQ(model->findings().snapshotCount, 0);
     EXPECT_EQ(model->phase(), Phase::list);
+
+    perform(&AdvisorViewModel::deleteRuntime, model->findings().runtimes.front());
+    EXPECT_FALSE(model->hasFindings());
+    EXPECT_EQ(model->lastMessage(),
+              "Deleted iOS 16.4. If the space doesn't show up, a restart releases it.");
 }
 
 TEST_F(AdvisorViewModelTest, AFailedActionSaysSoAndLeavesTheFindingsAlone) {
@@ -152,40 +151,18 @@ TEST_F(AdvisorViewModelTest, ARemovalReportsTheCountAsItStandsWhenItEnds) {
     EXPECT_EQ(model->lastMessage(), "Removed 1 unavailable simulator.");
 }
 
-TEST_F(AdvisorViewModelTest, DeletingTheLastFindingLeavesNothingButTheMessage) {
-    tools.devices(R"({"devices":{}})");
-    tools.snapshots("");
-    perform(&AdvisorViewModel::scan);
-    while (!model->findings().runtimes.empty())
-        perform(&AdvisorViewModel::deleteRuntime, model->findings().runtimes.front());
-    EXPECT_EQ(model->reclaimableBytes(), 0);
-    EXPECT_FALSE(model->hasFindings());
-    EXPECT_TRUE(model->lastMessage());
-}
-
 TEST_F(AdvisorViewModelTest, EveryKindOfFindingCountsAndOnlyRuntimesAreReclaimable) {
-    model->findings.mutate().dockerBytes = 1;
-    EXPECT_TRUE(model->hasFindings());
-    EXPECT_EQ(model->reclaimableBytes(), 0);
-    model->findings = Findings{};
-    model->findings.mutate().snapshotCount = 1;
-    EXPECT_TRUE(model->hasFindings());
-    model->findings = Findings{};
-    model->findings.mutate().unavailableSims = 1;
-    EXPECT_TRUE(model->hasFindings());
+    for (const auto kind :
+         {&Findings::unavailableSims, &Findings::snapshotCount, &Findings::dockerBytes}) {
+        model->findings = Findings{};
+        model->findings.mutate().*kind = 1;
+        EXPECT_TRUE(model->hasFindings());
+        EXPECT_EQ(model->reclaimableBytes(), 0);
+    }
     SimRuntime hostile;
     hostile.sizeBytes = std::numeric_limits<ByteCount>::max();
     model->findings.mutate().runtimes = {hostile, hostile};
     EXPECT_EQ(model->reclaimableBytes(), hostile.sizeBytes);
-}
-
-TEST_F(AdvisorViewModelTest, AMachineWithoutTheToolsReachesAnEmptyList) {
-    const SampleMachine bare;
-    const auto empty = std::make_shared<AdvisorViewModel>(bare.host());
-    spawn(empty, &AdvisorViewModel::scan);
-    loop.runAll();
-    EXPECT_EQ(empty->phase(), Phase::list);
-    EXPECT_FALSE(empty->hasFindings());
 }
 
 }  // namespace

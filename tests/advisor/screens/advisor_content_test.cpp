@@ -34,17 +34,9 @@ class AdvisorContentTest : public testing::Test {
 TEST_F(AdvisorContentTest, BeforeAndDuringAScanThereIsOnlyANotice) {
     findings().dockerBytes = 1;
     model.lastMessage = "Removed 1 unavailable simulator.";
-    const struct {
-        Phase phase;
-        std::string_view line;
-    } rows[] = {
-        {Phase::idle, "Pro cleanups with Apple's own tools. No admin, nothing hidden."},
-        {Phase::scanning, "Checking simulators, snapshots, Docker…"},
-    };
-    for (const auto& [phase, line] : rows) {
+    for (const auto phase : {Phase::idle, Phase::scanning}) {
         model.phase = phase;
         ASSERT_TRUE(content().notice);
-        EXPECT_EQ(content().notice->line, line);
         EXPECT_EQ(content().notice->symbol, "wand.and.stars");
         EXPECT_TRUE(content().cards.empty());
         EXPECT_FALSE(content().message);
@@ -77,32 +69,21 @@ TEST_F(AdvisorContentTest, EachFindingHasItsCardInAFixedOrder) {
     EXPECT_EQ(cards[0].runtimes.size(), 2);
     EXPECT_EQ(cards[1].body, "3 simulators whose runtime is gone. Dead weight.");
     EXPECT_EQ(cards[1].button->label, "Remove All");
-    EXPECT_EQ(cards[2].body,
-              "2 local snapshots counted as “System Data”. macOS decides what's safe to purge. "
-              "Your real backups on other drives stay untouched.");
+    EXPECT_TRUE(cards[2].body.starts_with("2 local snapshots counted as “System Data”."));
     EXPECT_EQ(cards[2].button->label, "Thin Snapshots");
-    EXPECT_EQ(cards[3].body,
-              "Docker keeps all images and containers in one 64 GB virtual disk. Reclaim space "
-              "safely from Docker itself: open Docker Desktop ▸ Troubleshoot ▸ Clean / Purge data, "
-              "or run “docker system prune” in Terminal.");
+    EXPECT_TRUE(cards[3].body.starts_with(
+        "Docker keeps all images and containers in one 64 GB virtual disk. Reclaim"));
     EXPECT_FALSE(cards[3].button);
     EXPECT_FALSE(cards[3].size);
 }
 
-TEST_F(AdvisorContentTest, OneOfAKindIsWordedInTheSingular) {
-    findings() = {{}, 1, 1, 0};
+TEST_F(AdvisorContentTest, OneOfAKindIsWordedInTheSingularAndNothingOfUnknownSizeIsSummed) {
+    findings() = {{}, 1, 1, 64'000'000'000};
     const auto cards = content().cards;
-    ASSERT_EQ(cards.size(), 2);
+    ASSERT_EQ(cards.size(), 3);
     EXPECT_TRUE(cards[0].body.starts_with("1 simulator whose"));
     EXPECT_TRUE(cards[1].body.starts_with("1 local snapshot counted"));
     EXPECT_EQ(content().headline, "A few easy wins found.");
-}
-
-TEST_F(AdvisorContentTest, ADockerDiskAloneIsAWinOfNoKnownSize) {
-    findings().dockerBytes = 1;
-    EXPECT_EQ(content().headline, "A few easy wins found.");
-    ASSERT_EQ(content().cards.size(), 1);
-    EXPECT_EQ(content().cards[0].symbol, "shippingbox");
 }
 
 TEST_F(AdvisorContentTest, ARuntimesRowTellsWhenItWasUsedAndByWhat) {
