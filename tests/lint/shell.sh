@@ -2,4 +2,5 @@
 # shell.sh TREE: the shell scripts are without what shellcheck warns of.
 set -eu
 cd "$1"
-shellcheck run test .ci/run tools/build tools/configure tools/install_packages tests/lint/*.sh
+grep -rlZE '^#!/bin/(ba)?sh' run test .ci tools tests benchmarks packaging 2>/dev/null |
+    xargs -0 shellcheck
