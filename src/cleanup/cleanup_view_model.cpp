@@ -13,8 +13,6 @@ namespace tidewell {
 
 namespace {
 
-constexpr auto everyItem = [](const CleanupItem&) { return true; };
-
 auto isIn(CleanupCategory category) {
     return [category](const CleanupItem& item) { return item.target.category == category; };
 }
@@ -54,20 +52,7 @@ ByteCount CleanupViewModel::bytesIn(CleanupCategory category) const {
     return tidewell::totalBytes(itemsIn(category));
 }
 
-bool CleanupViewModel::SelectionBinding::get() const {
-    const auto model = model_.lock();
-    const auto* item = model ? findItem(model->items(), id_) : nullptr;
-    return item && item->isSelected;
-}
-
-void CleanupViewModel::SelectionBinding::set(Tick tick) const {
-    const auto model = model_.lock();
-    if (!model || !findItem(model->items(), id_)) return;
-    setTicks(model->items.mutate(), tick,
-             [this](const CleanupItem& item) { return item.target.id == id_; });
-}
-
-CleanupViewModel::SelectionBinding CleanupViewModel::selectionBinding(const CleanupItem& item) {
+TickBinding<CleanupViewModel> CleanupViewModel::selectionBinding(const CleanupItem& item) {
     return {weak_from_this(), item.target.id};
 }
 

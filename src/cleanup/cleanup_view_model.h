@@ -54,20 +54,8 @@ class CleanupViewModel : public std::enable_shared_from_this<CleanupViewModel> {
     /// The bytes of all items of the category, selected or not.
     ByteCount bytesIn(CleanupCategory category) const;
 
-    /// One row's tick, looked up by its id at each access; false, and no effect, once the item or
-    /// the view model is gone.
-    class SelectionBinding {
-     public:
-        SelectionBinding(std::weak_ptr<CleanupViewModel> model, std::string id)
-            : model_(std::move(model)), id_(std::move(id)) {}
-        bool get() const;
-        void set(Tick tick) const;
-
-     private:
-        std::weak_ptr<CleanupViewModel> model_;
-        std::string id_;
-    };
-    SelectionBinding selectionBinding(const CleanupItem& item);
+    /// One row's tick; see cleanup/item_selection.h.
+    TickBinding<CleanupViewModel> selectionBinding(const CleanupItem& item);
 
     void selectAll(Tick tick);
     void setCategory(CleanupCategory category, Tick tick);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cleanup/cleanup_model.h"
@@ -22,6 +26,8 @@ inline Tick tickOf(bool isSelected) {
     return isSelected ? Tick::on : Tick::off;
 }
 
+inline constexpr auto everyItem = [](const CleanupItem&) { return true; };
+
 /// Ticks or unticks each item that `isMeant` names, without asking what it is.
 template <class Predicate>
 void setTicks(CleanupItems& items, Tick tick, Predicate isMeant) {
@@ -38,6 +44,31 @@ void tickSafeOnly(CleanupItems& items, Predicate isMeant) {
 
 /// The item of that target id; null if there is none.
 const CleanupItem* findItem(const CleanupItems& items, std::string_view id);
+
+/// One row's tick, looked up by its target's id at each access: off, and without effect, once the
+/// item or the view model is gone.
+template <class ViewModel>
+class TickBinding {
+ public:
+    TickBinding(std::weak_ptr<ViewModel> model, std::string id)
+        : model_(std::move(model)), id_(std::move(id)) {}
+
+    bool get() const {
+        const auto model = model_.lock();
+        const auto* item = model ? findItem(model->items(), id_) : nullptr;
+        return item && item->isSelected;
+    }
+    void set(Tick tick) const {
+        const auto model = model_.lock();
+        if (!model || !findItem(model->items(), id_)) return;
+        setTicks(model->items.mutate(), tick,
+                 [this](const CleanupItem& item) { return item.target.id == id_; });
+    }
+
+ private:
+    std::weak_ptr<ViewModel> model_;
+    std::string id_;
+};
 
 /// Largest first; items of equal size keep their order.
 void sortBySize(CleanupItems& items);

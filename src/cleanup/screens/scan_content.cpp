@@ -12,15 +12,6 @@ constexpr std::string_view failureAdvice =
     " macOS may need Full Disk Access for these. Grant it in System Settings ▸ Privacy & "
     "Security.";
 
-std::string failureSentence(const std::vector<std::string>& titles) {
-    std::string sentence;
-    for (const auto& title : titles) {
-        if (!sentence.empty()) sentence += ", ";
-        sentence += title;
-    }
-    return sentence + "." + std::string(failureAdvice);
-}
-
 }  // namespace
 
 std::string percentText(double fraction) {
@@ -38,6 +29,16 @@ ScanContent scanContent(const CleanupViewModel& model, ByteCount totalFreedBytes
     return content;
 }
 
+std::optional<std::string> failureNote(const std::vector<std::string>& failedTitles) {
+    if (failedTitles.empty()) return std::nullopt;
+    std::string titles;
+    for (const auto& title : failedTitles) {
+        if (!titles.empty()) titles += ", ";
+        titles += title;
+    }
+    return titles + "." + std::string(failureAdvice);
+}
+
 CleanedContent cleanedContent(const CleanupViewModel& model) {
     const bool hasFreed = model.freedBytes() >= 1;
     CleanedContent content{
@@ -46,11 +47,10 @@ CleanedContent cleanedContent(const CleanupViewModel& model) {
         .ringLine = hasFreed ? "reclaimed" : "All done",
         .freeBefore = byteText(model.freeSpaceBefore()),
         .freeAfter = byteText(model.freeSpaceAfter()) + " free",
-        .failureNote = std::nullopt,
+        .failureNote = failureNote(model.failedTitles()),
         .isCleaning = model.phase() == CleanupViewModel::Phase::cleaning,
     };
     if (hasFreed) content.reclaimed = model.freedBytes();
-    if (!model.failedTitles().empty()) content.failureNote = failureSentence(model.failedTitles());
     return content;
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cleanup/cleanup_view_model.h"
 
@@ -29,6 +30,9 @@ struct ScanContent {
 
 /// `totalFreedBytes` is the sum kept over all cleans.
 ScanContent scanContent(const CleanupViewModel& model, ByteCount totalFreedBytes);
+
+/// What to tell about titles that could not be removed; absent if there are none.
+std::optional<std::string> failureNote(const std::vector<std::string>& failedTitles);
 
 struct CleanedContent {
     std::string percent;                     ///< while the clean runs
