@@ -48,6 +48,7 @@ Task<> AdvisorViewModel::deleteRuntime(SimRuntime runtime) {
         background([service = service_, runtime] { return service.deleteRuntime(runtime); });
     const bool deleted = co_await deleting;
     busyAction = std::nullopt;
+    lastOutcome_ = deleted ? ActionOutcome::succeeded : ActionOutcome::failed;
     if (!deleted) {
         lastMessage =
             "Couldn't delete " + runtime.name + ". Try Xcode ▸ Settings ▸ Components instead.";
@@ -64,6 +65,7 @@ Task<> AdvisorViewModel::removeUnavailableSims() {
     auto removing = background([service = service_] { return service.removeUnavailableSims(); });
     const bool removed = co_await removing;
     busyAction = std::nullopt;
+    lastOutcome_ = removed ? ActionOutcome::succeeded : ActionOutcome::failed;
     if (!removed) {
         lastMessage = "Couldn't remove unavailable simulators.";
         co_return;
@@ -77,6 +79,7 @@ Task<> AdvisorViewModel::thinSnapshots() {
     auto thinning = background([service = service_] { return service.thinSnapshots(); });
     const bool thinned = co_await thinning;
     busyAction = std::nullopt;
+    lastOutcome_ = thinned ? ActionOutcome::succeeded : ActionOutcome::failed;
     if (!thinned) {
         lastMessage = "Couldn't thin local snapshots.";
         co_return;

@@ -26,6 +26,7 @@ struct Findings {
 class AdvisorViewModel {
  public:
     enum class Phase { idle, scanning, list };
+    enum class ActionOutcome { succeeded, failed };
 
     /// The `busyAction` of the actions that concern no single runtime.
     static constexpr std::string_view unavailableSimsAction = "unavailable-sims";
@@ -40,6 +41,8 @@ class AdvisorViewModel {
     Published<std::optional<std::string>> busyAction{willChange};
     /// The outcome of the last action, until the next scan or the next outcome.
     Published<std::optional<std::string>> lastMessage{willChange};
+    /// How that action ended; absent before the first.
+    std::optional<ActionOutcome> lastOutcome() const { return lastOutcome_; }
 
     bool hasFindings() const;
     /// The sizes of the runtimes alone: nobody knows the snapshots', and Docker's is reclaimed in
@@ -54,6 +57,7 @@ class AdvisorViewModel {
 
  private:
     const AdvisorService service_;
+    std::optional<ActionOutcome> lastOutcome_;
 };
 
 }  // namespace tidewell
