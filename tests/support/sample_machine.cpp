@@ -114,6 +114,12 @@ void SampleMachine::lastUsed(std::string_view machinePath, int days) const {
         throw std::runtime_error("this file system keeps no extended attributes");
 }
 
+void SampleMachine::remove(std::string_view machinePath) const {
+    const auto where = path(machinePath);
+    if (!isBelow(where, root())) throw std::runtime_error("not of this machine: " + where);
+    fs::remove_all(where);
+}
+
 bool SampleMachine::has(std::string_view machinePath) const {
     return fs::exists(fs::symlink_status(path(machinePath)));
 }

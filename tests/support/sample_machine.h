@@ -48,6 +48,8 @@ class SampleMachine {
     void age(std::string_view machinePath, int days) const;
     /// Sets when a bundle was last opened, in days before now.
     void lastUsed(std::string_view machinePath, int days) const;
+    /// Takes an entry away, with all in it; of a link, the link alone.
+    void remove(std::string_view machinePath) const;
 
     /// Whether an entry stands there, links not followed.
     bool has(std::string_view machinePath) const;
