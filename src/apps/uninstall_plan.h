@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "apps/installed_app.h"
+
+namespace tidewell {
+
+/// The category of a leftover that the system may have started: it is unloaded before it is moved.
+inline constexpr std::string_view launchAgentCategory = "Launch Agent";
+
+/// A file or folder that belongs to an application and lies outside its bundle.
+struct LeftoverFile {
+    std::string id;   ///< random: two searches give the same file different ids
+    std::string url;  ///< its path, standardised
+    std::string category;
+    ByteCount sizeBytes = 0;
+};
+
+/// What goes to the Trash together.
+struct UninstallPlan {
+    InstalledApp app;
+    std::vector<LeftoverFile> leftovers;  ///< largest first
+
+    ByteCount totalBytes() const;
+};
+
+/// What an uninstall did. All sizes are those of the plan.
+struct UninstallResult {
+    std::string appName;
+    std::int64_t movedCount = 0;
+    ByteCount freedBytes = 0;
+    std::vector<std::string> failed;  ///< names of what stayed, or why nothing was begun
+    bool appBundleMoved = false;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,40 @@
+#include "apps/helper_note.h"
+
+#include <gtest/gtest.h>
+
+namespace tidewell::test {
+
+namespace {
+
+TEST(HelperNote, ExplainsHelpersByNameOrIdentifierFirstMatchWins) {
+    struct Row {
+        const char* name;
+        std::optional<std::string> bundleID;
+        std::string_view begin;  ///< of the note; empty for none
+    };
+    const Row rows[] = {
+        {"Universe", {}, "Red Giant plugin."},
+        {"My Universe", {}, ""},
+        {"Trapcode", "com.redgiant.trapcode", "Red Giant plugin."},
+        {"Trapcode", {}, ""},
+        {"U", "net.maxon.universe.agent", "Red Giant plugin."},
+        {"Adobe Media Encoder 2026", {}, "Renders exports"},
+        {"Adobe Media Encoder", "com.redgiant.x", "Red Giant plugin."},
+        {"aescripts + aeplugins", {}, "Manages After Effects"},
+        {"Aescripts", {}, ""},
+        {"Mister Horse Product Manager", {}, "Installs Animation Composer"},
+        {"Creative Cloud", {}, "Part of Adobe's"},
+        {"Creative Cloud Uninstaller", {}, ""},
+        {"Adobe Content Synchronizer 2", {}, "Part of Adobe's"},
+        {"redgiant", {}, ""},
+    };
+    for (const auto& [name, bundleID, begin] : rows) {
+        const auto note = helperNote(name, bundleID).value_or("");
+        EXPECT_EQ(note.empty(), begin.empty()) << name;
+        EXPECT_TRUE(note.starts_with(begin)) << name << ": " << note;
+    }
+}
+
+}  // namespace
+
+}  // namespace tidewell::test
