@@ -1,0 +1,76 @@
+#include "apps/uninstaller.h"
+
+#include <string_view>
+
+#include "apps/uninstall_guard.h"
+#include "platform/path_text.h"
+#include "platform/process.h"
+#include "platform/removal.h"
+#include "platform/running_applications.h"
+
+namespace tidewell {
+
+namespace {
+
+enum class ItemKind { bundle, leftover, launchAgent };
+
+struct WorkItem {
+    std::string path;  ///< as the plan names it
+    ByteCount sizeBytes;
+    ItemKind kind;
+};
+
+std::vector<WorkItem> workList(const UninstallPlan& plan) {
+    std::vector<WorkItem> items = {{plan.app.url, plan.app.sizeBytes, ItemKind::bundle}};
+    for (const auto& leftover : plan.leftovers) {
+        const auto kind =
+            leftover.category == launchAgentCategory ? ItemKind::launchAgent : ItemKind::leftover;
+        items.push_back({leftover.url, leftover.sizeBytes, kind});
+    }
+    return items;
+}
+
+/// What people know the item by, also if the path ends in a slash.
+std::string nameOf(std::string_view path) {
+    const auto pieces = pathPieces(path);
+    return std::string(pieces.empty() ? path : pieces.back());
+}
+
+/// The agent may not be loaded, and the tool may be missing: the file goes to the Trash all the
+/// same.
+void unloadAgent(const std::string& path, const Host& host) {
+    (void)runTool(host.systemPath("/bin/launchctl"), {"unload", path}, ToolOutput::discard);
+}
+
+Trashing moveItem(const WorkItem& item, const UninstallGuard& guard, const Host& host) {
+    const auto approved = guard.approve(item.path);
+    if (!approved) return Trashing::failed;
+    if (item.kind == ItemKind::launchAgent) unloadAgent(item.path, host);
+    return moveToTrash(*approved, host.home);
+}
+
+}  // namespace
+
+UninstallResult uninstall(const UninstallPlan& plan, const Host& host) {
+    UninstallResult result;
+    result.appName = plan.app.name;
+    // The bundle is what moves next, so nothing is gained by asking again later. An application
+    // that starts in between runs on from the Trash and loses no file.
+    if (plan.app.bundleID && isApplicationRunning(host, *plan.app.bundleID)) {
+        result.failed = {plan.app.name + " is still running. Quit it and try again"};
+        return result;
+    }
+    const UninstallGuard guard(host);
+    for (const auto& item : workList(plan)) {
+        if (moveItem(item, guard, host) == Trashing::failed) {
+            result.failed.push_back(nameOf(item.path));
+            continue;
+        }
+        ++result.movedCount;
+        result.freedBytes = addSaturating(result.freedBytes, item.sizeBytes);
+        if (item.kind == ItemKind::bundle) result.appBundleMoved = true;
+    }
+    return result;
+}
+
+}  // namespace tidewell

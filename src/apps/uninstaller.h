@@ -1,0 +1,13 @@
+#pragma once
+
+#include "apps/uninstall_plan.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// Moves an application and then its leftovers to the Trash, one by one, each behind the guard.
+/// Nothing is deleted, and a failure of one item stops none of the others. Does nothing while the
+/// application runs. Blocks; any thread but the main one.
+UninstallResult uninstall(const UninstallPlan& plan, const Host& host);
+
+}  // namespace tidewell
