@@ -1,0 +1,61 @@
+#include "apps/apps_view_model.h"
+
+#include <utility>
+
+#include "async/background.h"
+#include "platform/dates.h"
+
+namespace tidewell {
+
+AppsViewModel::AppsViewModel(const Host& host) : scanner(host, applicationFolders(host)) {}
+
+std::vector<InstalledApp> AppsViewModel::sortedApps() const {
+    return sorted(apps(), sortOrder(), now());
+}
+
+ByteCount AppsViewModel::totalAppBytes() const {
+    ByteCount sum = 0;
+    for (const auto& app : apps()) sum = addSaturating(sum, app.sizeBytes);
+    return sum;
+}
+
+Task<> AppsViewModel::scan() {
+    if (phase() == Phase::scanning) co_return;
+    phase = Phase::scanning;
+    scanProgress = 0.0;
+    lastResult = std::nullopt;
+    auto& executor = Executor::main();
+    const auto report = [weak = weak_from_this(), &executor](double fraction) {
+        executor.post([weak, fraction] {
+            if (const auto self = weak.lock()) self->scanProgress = fraction;
+        });
+    };
+    auto scanning = background([scanner = scanner, report] { return scanner.scan(report); });
+    auto found = co_await scanning;
+    apps = std::move(found);
+    scanProgress = 1.0;
+    phase = Phase::list;
+}
+
+Task<> AppsViewModel::prepareUninstall(InstalledApp app) {
+    isBuildingPlan = true;
+    auto searching = background([scanner = scanner, app] { return scanner.findLeftovers(app); });
+    auto leftovers = co_await searching;
+    isBuildingPlan = false;
+    pendingPlan = UninstallPlan{.app = std::move(app), .leftovers = std::move(leftovers)};
+}
+
+Task<> AppsViewModel::confirmUninstall() {
+    if (!pendingPlan()) co_return;
+    const auto plan = *pendingPlan();
+    // The sheet closes before the work starts.
+    pendingPlan = std::nullopt;
+    auto uninstalling = background([scanner = scanner, plan] { return scanner.uninstall(plan); });
+    auto result = co_await uninstalling;
+    if (result.appBundleMoved)
+        std::erase_if(apps.mutate(),
+                      [&](const InstalledApp& app) { return app.id == plan.app.id; });
+    lastResult = std::move(result);
+}
+
+}  // namespace tidewell
