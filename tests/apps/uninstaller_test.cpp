@@ -136,13 +136,17 @@ TEST_F(Uninstaller, MovesNothingThatALinkLeadsTo) {
     machine.link("~/Applications", machine.path("~/Documents/My Apps"));
     machine.file("~/Documents/com.acme.notes/thesis.tex");
     machine.link("~/Library/WebKit", machine.path("~/Documents"));
+    machine.link("~/Documents/caches", machine.path("~/Library/Caches"));
     machine.application("/Volumes/External/Tool.app", {});
     machine.link("/Applications/Tool.app", machine.path("/Volumes/External/Tool.app"));
-    const auto result = uninstall(planFor(
-        machine.path("~/Applications/Mine.app"),
-        {machine.path("~/Library/WebKit/com.acme.notes"), machine.path("/Applications/Tool.app/"),
-         machine.path("~/Library/../Documents/com.acme.notes")}));
-    EXPECT_EQ(result.failed, (Names{"Mine.app", "com.acme.notes", "com.acme.notes"}));
+    const auto result = uninstall(planFor(machine.path("~/Applications/Mine.app"),
+                                          {machine.path("~/Library/WebKit/com.acme.notes"),
+                                           machine.path("~/Library/../Documents/com.acme.notes"),
+                                           machine.path("~/Documents/caches/com.acme.notes"),
+                                           machine.path("/Applications/Tool.app/")}));
+    EXPECT_EQ(result.failed,
+              (Names{"Mine.app", "com.acme.notes", "com.acme.notes", "com.acme.notes"}));
+    EXPECT_TRUE(machine.has("~/Library/Caches/com.acme.notes/db"));
     EXPECT_TRUE(machine.has("~/Documents/My Apps/Mine.app/Contents/Info.plist"));
     EXPECT_TRUE(machine.has("~/Documents/com.acme.notes/thesis.tex"));
     // The link itself is what goes, never what it points to.
@@ -163,6 +167,9 @@ TEST_F(Uninstaller, AllowsOnlyWhatLiesInTheApplicationsFoldersAndTheOwnLibrary) 
           "/Volumes/E/Applications/X.app"})
         EXPECT_FALSE(guard.isAllowed(machine.path(path))) << path;
     EXPECT_FALSE(guard.isAllowed(machine.path("~/Library/Caches") + std::string("/\0x", 3)));
+    auto sealed = machine.host();
+    sealed.home = machine.path("/System/Users/ada");
+    EXPECT_FALSE(UninstallGuard(sealed).isAllowed(sealed.home + "/Library/Caches/x"));
     // Absolute paths of the machine that the program runs on are not those of the sample.
     EXPECT_FALSE(guard.isAllowed("/Applications/X.app"));
 }
