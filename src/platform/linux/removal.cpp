@@ -153,6 +153,7 @@ class Worker {
     void remove(const std::shared_ptr<Folder>& folder, const NumberedEntry& entry);
     bool enter(const std::shared_ptr<Folder>& folder, int place, const NumberedEntry& entry);
     bool putOff(const NumberedEntry& entry);
+    bool putOffFinishing(const std::shared_ptr<Folder>& folder);
     void finish(std::shared_ptr<Folder> folder);
     bool removeEmptied(const std::shared_ptr<Folder>& folder);
 
@@ -251,11 +252,12 @@ void Worker::step() {
     }
 }
 
-/// Gives away half of the oldest work: it is the largest.
+/// Gives away half of the oldest work, since it is the largest. In folders that are closed for now
+/// it waits until the way back leads there: another thread would have to walk down from the top.
 void Worker::share() {
     for (auto& piece : pieces_) {
         const auto least = &piece == &pieces_.back() ? 2 * sharingInterval : 1;
-        if (piece.left() < least) continue;
+        if (piece.left() < least || !piece.folder->descriptor()) continue;
         const auto middle =
             piece.entries.begin() + static_cast<std::ptrdiff_t>(piece.next + piece.left() / 2);
         Piece half{.folder = piece.folder, .entries = {}};
@@ -336,6 +338,15 @@ bool Worker::putOff(const NumberedEntry& entry) {
     return false;
 }
 
+bool Worker::putOffFinishing(const std::shared_ptr<Folder>& folder) {
+    folder->workLeft = 1;
+    pieces_.push_back({.folder = folder, .entries = {}});
+    if (work_.leaveForLater(pieces_)) return true;
+    pieces_.pop_back();
+    folder->workLeft = 0;
+    return false;
+}
+
 void Worker::finish(std::shared_ptr<Folder> folder) {
     while (--folder->workLeft == 0 && folder->parent && removeEmptied(folder))
         folder = folder->parent;
@@ -344,11 +355,12 @@ void Worker::finish(std::shared_ptr<Folder> folder) {
 /// False if there is more to do in the folder: what came in while it was emptied is removed as
 /// well, once.
 bool Worker::removeEmptied(const std::shared_ptr<Folder>& folder) {
+    const auto place = removal_.openParentOf(*folder);
+    if (!place && lacksDescriptors() && putOffFinishing(folder)) return false;
     if (folder->isKept) {
         folder->parent->isKept = true;
         return true;
     }
-    const auto place = removal_.openParentOf(*folder);
     if (place && isGone(::unlinkat(place->get(), folder->name.c_str(), AT_REMOVEDIR))) return true;
     const auto own =
         place && errno == ENOTEMPTY && !folder->isReadAgain ? removal_.open(*folder) : nullptr;

@@ -1,0 +1,123 @@
+#include "cleanup/deletion_guard.h"
+
+#include <gtest/gtest.h>
+
+#include "support/sample_machine.h"
+
+namespace tidewell {
+namespace {
+
+using test::SampleMachine;
+
+TEST(DeletionGuard, DecidesByTheFirstRuleThatApplies) {
+    struct Row {
+        const char* path;
+        DeletionRule rule;
+    };
+    const std::vector<std::string> roots = {"/var/T", "/home/ada/.ssh/T", "/home/ada/Music/T"};
+    for (const auto& [path, rule] : {
+             Row{"/home/ada/.ssh", DeletionRule::protectedPath},
+             Row{"/home/ada/.ssh/known_hosts", DeletionRule::protectedPath},
+             Row{"/home/ada/.ssh/T/x", DeletionRule::protectedPath},
+             Row{"/home/ada/.cache/huggingface/token", DeletionRule::protectedPath},
+             Row{"/home/ada/.cache/huggingface/tokens", DeletionRule::openFolder},
+             Row{"/home/ada/.sshd", DeletionRule::openFolder},
+             Row{"/home/ada/.cargo/x/../credentials", DeletionRule::protectedPath},
+             Row{"/home/ada//.gnupg/./", DeletionRule::protectedPath},
+             Row{"/var/T", DeletionRule::deletableRoot},
+             Row{"/var/T/x", DeletionRule::deletableRoot},
+             Row{"/var/Tx", DeletionRule::outsideHome},
+             Row{"/var/T/../x", DeletionRule::outsideHome},
+             Row{"/home/ada/Music/T/x", DeletionRule::deletableRoot},
+             Row{"/tmp/x", DeletionRule::outsideHome},
+             Row{"/home/ada", DeletionRule::outsideHome},
+             Row{"/home/ada/x/..", DeletionRule::outsideHome},
+             Row{"/home/adam/x", DeletionRule::outsideHome},
+             Row{"Library/Caches", DeletionRule::outsideHome},
+             Row{"", DeletionRule::outsideHome},
+             Row{"/home/ada/Library", DeletionRule::openFolder},
+             Row{"/home/ada/documents/x", DeletionRule::openFolder},
+             Row{"/home/ada/Documents", DeletionRule::personalFolder},
+             Row{"/home/ada/Documents/report", DeletionRule::personalFolder},
+             Row{"/home/ada/Documents/builds/x", DeletionRule::personalFolder},
+             Row{"/home/ada/Sites/Node_modules", DeletionRule::personalFolder},
+             Row{"/home/ada/Documents/node_modules/../x", DeletionRule::personalFolder},
+             Row{"/home/ada/Documents/app/node_modules/left-pad", DeletionRule::buildFolder},
+             Row{"/home/ada/Desktop/target", DeletionRule::buildFolder},
+         })
+        EXPECT_EQ(deletionRule(path, "/home/ada", roots), rule) << path;
+    EXPECT_EQ(deletionRule("/usr/lib", "/", {}), DeletionRule::outsideHome);
+    EXPECT_FALSE(allows(DeletionRule::protectedPath) || allows(DeletionRule::outsideHome) ||
+                 allows(DeletionRule::personalFolder));
+    EXPECT_TRUE(allows(DeletionRule::deletableRoot) && allows(DeletionRule::openFolder) &&
+                allows(DeletionRule::buildFolder));
+}
+
+TEST(DeletionGuard, HasTheScratchFoldersOfTheMachineInTheirOrder) {
+    Host host;
+    EXPECT_TRUE(deletableRoots(host).empty());
+    host.temporaryDirectory = "/var/./T/";
+    EXPECT_EQ(deletableRoots(host), std::vector<std::string>{"/var/T"});
+    host.userCacheDirectory = "/var/C";
+    EXPECT_EQ(deletableRoots(host), (std::vector<std::string>{"/var/T", "/var/C"}));
+}
+
+TEST(DeletionGuard, AsksAgainForTheRealLocation) {
+    const SampleMachine machine;
+    machine.text("~/Documents/thesis/text", "x");
+    machine.text("~/.ssh/id", "x");
+    machine.text("~/keys/aws/credentials", "x");
+    machine.text("/private/scratch/file", "x");
+    machine.folder("~/Library/Caches");
+    machine.link("~/.cache", machine.path("~/Documents"));
+    machine.link("~/open", machine.path("~/.ssh"));
+    machine.link("~/.aws", machine.path("~/keys/aws"));
+    machine.link("~/elsewhere", machine.path("/private"));
+    machine.link("~/up", machine.home());
+    machine.link("/var/folders/zz/ada/T/documents", machine.path("~/Documents"));
+    const DeletionGuard guard(machine.host());
+    for (const auto* path : {"~/.cache/thesis", "~/open/id", "~/keys/aws", "~/keys/aws/credentials",
+                             "~/elsewhere/scratch", "~/up/Documents", "~/missing/file",
+                             "/var/folders/zz/ada/T/documents/thesis"})
+        EXPECT_FALSE(guard.approve(machine.path(path))) << path;
+    for (const auto* path : {"~/.cache", "~/open", "~/keys", "~/up/Library", "~/Library/missing",
+                             "/var/folders/zz/ada/T", "/var/folders/zz/ada/T/documents"})
+        EXPECT_TRUE(guard.approve(machine.path(path))) << path;
+    using namespace std::string_literals;
+    EXPECT_FALSE(guard.approve(machine.path("~/Documents\0/target"s)));
+    const auto approved = guard.approve(machine.path("~/up/Library/x"));
+    ASSERT_TRUE(approved);
+    EXPECT_EQ(approved->named(), machine.path("~/up/Library/x"));
+    EXPECT_EQ(approved->real(), machine.path("~/Library/x"));
+}
+
+TEST(DeletionGuard, KeepsAChildThatHoldsKeys) {
+    const SampleMachine machine;
+    machine.text("~/.config/gh/hosts", "x");
+    machine.text("~/.config/composer/auth.json", "x");
+    machine.text("~/.config/store/keys/id", "x");
+    machine.folder("~/.config/other");
+    machine.link("~/.gnupg", machine.path("~/.config/store/keys"));
+    const DeletionGuard guard(machine.host());
+    const auto folder = guard.approve(machine.path("~/.config"));
+    ASSERT_TRUE(folder);
+    const auto child = guard.childGuard(*folder);
+    EXPECT_FALSE(child("gh") || child("composer") || child("store"));
+    ASSERT_TRUE(child("other"));
+    EXPECT_EQ(child("other")->real(), machine.path("~/.config/other"));
+}
+
+TEST(DeletionGuard, OpensNothingByAScratchFolderThatHoldsPersonalFolders) {
+    const SampleMachine machine;
+    machine.text("~/Documents/thesis", "x");
+    auto host = machine.host();
+    for (const auto* scratch : {"~", "/Users", "~/Documents"}) {
+        host.temporaryDirectory = machine.path(scratch);
+        const DeletionGuard guard(host);
+        EXPECT_FALSE(guard.approve(machine.path("~/Documents/thesis"))) << scratch;
+        EXPECT_FALSE(guard.approve(machine.home())) << scratch;
+    }
+}
+
+}  // namespace
+}  // namespace tidewell

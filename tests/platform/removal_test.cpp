@@ -1,0 +1,345 @@
+#include "platform/removal.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cstddef>
+#include <filesystem>
+#include <thread>
+
+#include "cleanup/deletion_guard.h"
+#include "support/sample_machine.h"
+
+namespace tidewell {
+namespace {
+
+using test::SampleMachine;
+namespace fs = std::filesystem;
+
+constexpr uid_t nobody = 65534;
+
+DeletablePath approved(const SampleMachine& machine, std::string_view path) {
+    return DeletionGuard(machine.host()).approve(machine.path(path)).value();
+}
+
+Removal removeAt(const SampleMachine& machine, std::string_view path) {
+    return removeItem(approved(machine, path));
+}
+
+Removal emptyAt(const SampleMachine& machine, std::string_view path) {
+    const auto folder = approved(machine, path);
+    return emptyFolder(folder, DeletionGuard(machine.host()).childGuard(folder));
+}
+
+enum class Verdict { held, failed, notPossible };
+
+/// Runs a part in a process of its own, which may change its user, its mounts and its limits.
+template <class Part>
+Verdict apart(Part part) {
+    const auto child = ::fork();
+    if (child == 0) ::_exit(static_cast<int>(part()));
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? static_cast<Verdict>(WEXITSTATUS(status)) : Verdict::failed;
+}
+
+Verdict held(bool condition) {
+    return condition ? Verdict::held : Verdict::failed;
+}
+
+bool hasOwnMounts() {
+    return ::unshare(CLONE_NEWNS) == 0 &&
+           ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+bool mountAgain(const std::string& source, const std::string& target) {
+    return ::mount(source.c_str(), target.c_str(), nullptr, MS_BIND, nullptr) == 0;
+}
+
+/// Makes the process live on a kernel without the call that opens a path confined.
+bool loseConfinedOpen() {
+    sock_filter rules[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat2, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program{.len = std::size(rules), .filter = rules};
+    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+/// One level below another, each with a file, until it is too deep for any path.
+void makeChain(const std::string& top, int depth) {
+    fs::create_directories(top);
+    int at = ::open(top.c_str(), O_PATH | O_DIRECTORY);
+    for (int level = 0; level < depth; ++level) {
+        ::close(::openat(at, "file", O_CREAT | O_WRONLY, 0600));
+        ::mkdirat(at, "folder", 0700);
+        const int next = ::openat(at, "folder", O_PATH | O_DIRECTORY);
+        ::close(at);
+        at = next;
+    }
+    ::close(at);
+}
+
+void makeFlat(const SampleMachine& machine, const std::string& top, int folders, int files) {
+    for (int folder = 0; folder < folders; ++folder)
+        for (int file = 0; file < files; ++file)
+            machine.file(top + "/" + std::to_string(folder) + "/" + std::to_string(file), 0);
+}
+
+TEST(Removal, RemovesWhateverStandsThereAndFollowsNothing) {
+    const SampleMachine machine;
+    machine.text("~/Documents/thesis", "x");
+    machine.file("~/Library/file");
+    machine.link("~/Library/file-link", machine.path("~/Documents/thesis"));
+    machine.link("~/Library/folder-link", machine.path("~/Documents"));
+    machine.link("~/Library/home-link", machine.home());
+    machine.link("~/Library/dangling", "nowhere");
+    machine.file("~/Library/tree/a/b/\xff\xfe\n\x01 name");
+    machine.link("~/Library/tree/a/home", machine.home());
+    machine.link("~/Library/tree/loop", ".");
+    ::mkfifo(machine.path("~/Library/tree/fifo").c_str(), 0600);
+    ::mkfifo(machine.path("~/Library/fifo").c_str(), 0600);
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    machine.path("~/Library/tree/s").copy(address.sun_path, sizeof address.sun_path - 1);
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(::bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    ::close(socket);
+    for (const auto* path :
+         {"~/Library/file", "~/Library/file-link", "~/Library/folder-link", "~/Library/home-link",
+          "~/Library/dangling", "~/Library/tree", "~/Library/fifo", "~/Library/missing"}) {
+        EXPECT_EQ(removeAt(machine, path), Removal::complete) << path;
+        EXPECT_FALSE(machine.has(path)) << path;
+    }
+    EXPECT_TRUE(machine.has("~/Documents/thesis") && machine.has("~/Library"));
+}
+
+TEST(Removal, EmptiesAFolderAndLeavesItStanding) {
+    const SampleMachine machine;
+    machine.text("~/Documents/thesis", "x");
+    machine.file("~/Library/Caches/a/b/c");
+    machine.file("~/Library/Caches/.hidden");
+    machine.link("~/Library/Caches/out", machine.path("~/Documents"));
+    machine.link("~/Library/Linked", machine.path("~/Documents"));
+    EXPECT_EQ(emptyAt(machine, "~/Library/Caches"), Removal::complete);
+    EXPECT_TRUE(fs::is_empty(machine.path("~/Library/Caches")));
+    EXPECT_EQ(emptyAt(machine, "~/Library/Linked"), Removal::incomplete);
+    EXPECT_EQ(emptyAt(machine, "~/Library/missing"), Removal::incomplete);
+    EXPECT_TRUE(machine.has("~/Documents/thesis"));
+}
+
+TEST(Removal, AsksTheGuardForEachChildAndBelievesOnlyAnAnswerAboutIt) {
+    const SampleMachine machine;
+    for (const auto* name : {"a/x", "kept/x", "mistaken/x", "b"})
+        machine.file("~/.cache/" + std::string(name));
+    machine.file("~/Library/other/mistaken");
+    const auto folder = approved(machine, "~/.cache");
+    const auto other = approved(machine, "~/Library/other");
+    const DeletionGuard guard(machine.host());
+    const auto answer = [&](std::string_view name) -> std::optional<DeletablePath> {
+        if (name == "kept") return std::nullopt;
+        return guard.childGuard(name == "mistaken" ? other : folder)(name);
+    };
+    EXPECT_EQ(emptyFolder(folder, answer), Removal::incomplete);
+    EXPECT_TRUE(machine.has("~/.cache/kept/x") && machine.has("~/.cache/mistaken/x"));
+    EXPECT_TRUE(machine.has("~/Library/other/mistaken"));
+    EXPECT_FALSE(machine.has("~/.cache/a") || machine.has("~/.cache/b"));
+}
+
+TEST(Removal, IsNotLedAwayByALinkPutInPlaceMeanwhile) {
+    const SampleMachine machine;
+    machine.text("~/Documents/app/file", "x");
+    machine.text("~/Documents/file", "x");
+    for (const auto* top : {"~/first", "~/second", "~/third"})
+        machine.file(std::string(top) + "/app/file");
+    const auto swap = [&](std::string_view path, const char* target) {
+        fs::rename(machine.path(path), machine.path(path) + ".moved");
+        machine.link(path, machine.path(target));
+    };
+    const auto item = approved(machine, "~/first/app");
+    swap("~/first", "~/Documents");
+    EXPECT_EQ(removeItem(item), Removal::incomplete);
+    const auto folder = approved(machine, "~/second/app");
+    swap("~/second", "~/Documents");
+    const DeletionGuard guard(machine.host());
+    EXPECT_EQ(emptyFolder(folder, guard.childGuard(folder)), Removal::incomplete);
+    // Swapped when it was listed already, and is about to be removed.
+    const auto third = approved(machine, "~/third");
+    EXPECT_EQ(emptyFolder(third,
+                          [&](std::string_view name) {
+                              swap("~/third/app", "~/Documents");
+                              return guard.childGuard(third)(name);
+                          }),
+              Removal::complete);
+    EXPECT_FALSE(machine.has("~/third/app"));
+    EXPECT_TRUE(machine.has("~/third/app.moved/file") && machine.has("~/first.moved/app/file"));
+    EXPECT_TRUE(machine.has("~/Documents/app/file") && machine.has("~/Documents/file"));
+}
+
+/// A folder far down is swapped for a link, and back, all the while.
+Verdict surviveSwaps() {
+    const SampleMachine machine;
+    machine.folder("~/Library");
+    for (int file = 0; file < 200; ++file) machine.file("~/Documents/" + std::to_string(file), 0);
+    const auto folder = machine.path("~/Library/tree/x");
+    const auto link = machine.path("~/Library/link");
+    std::atomic<bool> isOver = false;
+    std::atomic<int> swaps = 0;
+    std::thread swapping([&] {
+        ::symlink(machine.path("~/Documents").c_str(), link.c_str());
+        while (!isOver) {
+            if (::syscall(SYS_renameat2, AT_FDCWD, folder.c_str(), AT_FDCWD, link.c_str(), 2) == 0)
+                ++swaps;
+            ::symlink(machine.path("~/Documents").c_str(), link.c_str());
+        }
+    });
+    for (int round = 0; swaps < 3000 && round < 20000; ++round) {
+        ::mkdir(machine.path("~/Library/tree").c_str(), 0700);
+        ::mkdir(folder.c_str(), 0700);
+        for (int file = 0; file < 5; ++file)
+            ::close(::open((folder + "/" + std::to_string(file)).c_str(),
+                           O_CREAT | O_WRONLY | O_NOFOLLOW, 0600));
+        removeAt(machine, "~/Library/tree");
+    }
+    isOver = true;
+    swapping.join();
+    int victims = 200;
+    for (int file = 0; file < 200; ++file)
+        victims -= machine.has("~/Documents/" + std::to_string(file));
+    return held(victims == 0 && swaps > 100);
+}
+
+TEST(Removal, LosesNothingToThousandsOfSwapsWhileItRuns) {
+    EXPECT_EQ(surviveSwaps(), Verdict::held);
+}
+
+/// Bind mounts of one disk, which its number does not tell apart: as a child, far down, as a file,
+/// and in place of the folder that is emptied.
+Verdict surviveMounts() {
+    const SampleMachine machine;
+    machine.text("~/Documents/thesis", "x");
+    for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
+        machine.folder(folder);
+    machine.file("~/Library/tree/a/file");
+    machine.file("~/.cache/file");
+    if (!hasOwnMounts()) return Verdict::notPossible;
+    for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
+        if (!mountAgain(machine.path("~/Documents"), machine.path(folder)))
+            return Verdict::notPossible;
+    bool isWell = removeAt(machine, "~/Library/tree") == Removal::incomplete;
+    isWell &= emptyAt(machine, "~/.cache") == Removal::incomplete;
+    isWell &= emptyAt(machine, "~/.npm") == Removal::incomplete;
+    isWell &= removeAt(machine, "~/.npm") == Removal::incomplete;
+    isWell &= machine.has("~/Documents/thesis");
+    for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
+        ::umount2(machine.path(folder).c_str(), MNT_DETACH);
+    return held(isWell && machine.has("~/Documents/thesis") &&
+                !machine.has("~/Library/tree/a/file") && !machine.has("~/.cache/file"));
+}
+
+TEST(Removal, DoesNotEnterWhatIsMountedThere) {
+    const auto verdict = apart(surviveMounts);
+    if (verdict == Verdict::notPossible) GTEST_SKIP() << "may not mount";
+    EXPECT_EQ(verdict, Verdict::held);
+}
+
+TEST(Removal, KeepsItsPromisesOnAKernelThatCannotOpenConfined) {
+    const auto swaps =
+        apart([] { return loseConfinedOpen() ? surviveSwaps() : Verdict::notPossible; });
+    const auto mounts =
+        apart([] { return loseConfinedOpen() ? surviveMounts() : Verdict::notPossible; });
+    if (swaps == Verdict::notPossible) GTEST_SKIP() << "may not filter system calls";
+    EXPECT_EQ(swaps, Verdict::held);
+    if (mounts == Verdict::notPossible) GTEST_SKIP() << "may not mount";
+    EXPECT_EQ(mounts, Verdict::held);
+}
+
+TEST(Removal, ReachesAnyDepthWithFewDescriptors) {
+    const auto verdict = apart([] {
+        const SampleMachine machine;
+        makeChain(machine.path("~/Library/chain"), 2500);
+        const rlimit few{.rlim_cur = 16, .rlim_max = 16};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+        const auto removal = removeAt(machine, "~/Library/chain");
+        return held(removal == Removal::complete && !machine.has("~/Library/chain"));
+    });
+    EXPECT_EQ(verdict, Verdict::held);
+}
+
+TEST(Removal, GoesOnAfterAFailureAndChangesNoPermissions) {
+    const auto verdict = apart([] {
+        if (::getuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
+            return Verdict::notPossible;
+        const SampleMachine machine;
+        makeFlat(machine, "~/Library/tree", 20, 20);
+        makeChain(machine.path("~/Library/tree/chain"), 100);
+        for (const auto* folder : {"locked", "unlisted", "empty-unlisted"})
+            machine.folder("~/Library/tree/7/" + std::string(folder));
+        machine.file("~/Library/tree/7/locked/file");
+        machine.file("~/Library/tree/7/unlisted/file");
+        fs::permissions(machine.path("~/Library/tree/7/locked"), fs::perms(0500));
+        fs::permissions(machine.path("~/Library/tree/7/unlisted"), fs::perms(0300));
+        fs::permissions(machine.path("~/Library/tree/7/empty-unlisted"), fs::perms(0));
+        const auto removal = removeAt(machine, "~/Library/tree");
+        std::vector<std::string> left;
+        for (const auto& entry : fs::recursive_directory_iterator(
+                 machine.path("~/Library/tree"), fs::directory_options::skip_permission_denied))
+            left.push_back(entry.path().filename());
+        const bool isUnchanged =
+            (fs::status(machine.path("~/Library/tree/7/locked")).permissions() == fs::perms(0500));
+        return held(removal == Removal::incomplete && isUnchanged && left.size() == 4 &&
+                    machine.has("~/Library/tree/7/locked/file") &&
+                    machine.has("~/Library/tree/7/unlisted/file"));
+    });
+    if (verdict == Verdict::notPossible) GTEST_SKIP() << "may not become another user";
+    EXPECT_EQ(verdict, Verdict::held);
+}
+
+TEST(Removal, SharesATreeWithAnotherRemovalAndWithNewFiles) {
+    const SampleMachine machine;
+    makeFlat(machine, "~/Library/tree", 40, 100);
+    makeFlat(machine, "~/Library/tree/flat", 1, 5000);
+    const auto item = approved(machine, "~/Library/tree");
+    auto results = std::array{Removal::incomplete, Removal::incomplete};
+    std::thread other([&] { results[1] = removeItem(item); });
+    results[0] = removeItem(item);
+    other.join();
+    EXPECT_EQ(results[0], Removal::complete);
+    EXPECT_EQ(results[1], Removal::complete);
+    EXPECT_FALSE(machine.has("~/Library/tree"));
+
+    // A folder that gets a file after it was read is read once more.
+    machine.file("~/.cache/a/file");
+    const auto folder = approved(machine, "~/.cache");
+    const auto made = machine.path("~/.cache/a/new");
+    machine.file("~/.cache/b");
+    std::atomic<bool> isOver = false;
+    std::thread adding([&] {
+        while (!isOver) ::close(::open(made.c_str(), O_CREAT | O_WRONLY, 0600));
+    });
+    for (int round = 0; round < 200; ++round) {
+        machine.folder("~/.cache/a");
+        emptyAt(machine, "~/.cache");
+    }
+    isOver = true;
+    adding.join();
+    EXPECT_EQ(emptyAt(machine, "~/.cache"), Removal::complete);
+}
+
+}  // namespace
+}  // namespace tidewell
