@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/byte_count.h"
+#include "platform/files.h"
+#include "shell/mode.h"
+#include "shell/smart_scan_controller.h"
+
+namespace tidewell {
+
+// Every word, figure and condition of the Home screen. Pure.
+
+inline constexpr std::string_view homeTitle = "Overview";
+inline constexpr std::string_view homeSubtitle = "Free up space, safely";
+inline constexpr std::string_view smartScanLabel = "Scan My Mac";
+inline constexpr std::string_view smartScanSymbol = "sparkles";
+
+inline constexpr std::string_view accessBannerSymbol = "lock.shield.fill";
+inline constexpr std::string_view accessBannerTitle = "Turn on Full Disk Access";
+inline constexpr std::string_view accessBannerLine =
+    "macOS hides some junk until you allow access. Flip it on in Settings and Tidewell picks it up "
+    "automatically.";
+inline constexpr std::string_view openSettingsLabel = "Open Settings";
+inline constexpr std::string_view revealAppLabel = "Reveal App";
+
+inline constexpr std::string_view freeFigureLabel = "FREE RIGHT NOW";
+inline constexpr std::string_view gaugeCaption = "used";
+inline constexpr std::string_view winningsSymbol = "arrow.up.right.circle.fill";
+inline constexpr std::string_view scheduleSymbol = "sparkles";
+
+/// What the screen shows beside the tools' results.
+struct HomeReadings {
+    ByteCount freeBytes = 0;  ///< of the home folder's volume, as is the next
+    ByteCount volumeBytes = 0;
+    bool hasFullDiskAccess = false;
+    ByteCount totalFreedBytes = 0;  ///< the sum kept over all cleans
+    double lastCleanupAt = 0;       ///< in seconds since 1970; 0 if there was none
+};
+
+struct StatCellContent {
+    std::string_view label;
+    std::string value;
+};
+
+/// A tool's card with its latest result. A tap opens the section.
+struct HomeToolContent {
+    Mode section = Mode::clean;
+    std::string_view symbol;
+    std::string_view title;
+    std::string_view description;  ///< two lines
+    std::string value;
+};
+
+struct HomeContent {
+    bool showsSmartScan = false;  ///< its screen stands in the place of all that follows
+    bool showsAccessBanner = false;
+    ByteCount freeBytes = 0;  ///< a figure that counts up
+    double usedFraction = 0;
+    std::string usedPercent;
+    std::vector<StatCellContent> stats;
+    std::string winnings;
+    std::array<HomeToolContent, SmartScanController::allTools.size()> tools;
+    std::string lastCleanup;
+    std::string nextScan;
+};
+
+HomeContent homeContent(const SmartScanController& smartScan, const HomeReadings& readings,
+                        Date now);
+
+}  // namespace tidewell
