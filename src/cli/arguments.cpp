@@ -45,21 +45,92 @@ void addSelection(CLI::App& command, SelectionWish& wish) {
         ->allow_extra_args(false);
 }
 
-void addCommands(CLI::App& app, Call& call) {
+void addScanningCommands(CLI::App& app, Call& call) {
     CLI::App* command = nullptr;
+    addCommand<ScanCall>(app, call, "scan", "The smart scan: Clean, Apps, Deep Scan and Advisor",
+                         runScan, command);
+
     auto& clean = addCommand<CleanCall>(
         app, call, "clean", "Find what programs can rebuild; with --yes, delete what is picked",
         runClean, command);
     addSelection(*command, clean.selection);
     addConsent(*command, clean.consent);
 
+    auto& dev = addCommand<DevCall>(
+        app, call, "dev", "The same for what developer and AI tools pile up", runDev, command);
+    addSelection(*command, dev.selection);
+    addConsent(*command, dev.consent);
+
+    addCommand<DeepScanCall>(app, call, "deep-scan", "List everything big in the home folder",
+                             runDeepScan, command);
+
+    auto& trash = addCommand<TrashCall>(app, call, "trash",
+                                        "With --yes, move items of the deep scan to the Trash",
+                                        runTrash, command);
+    command->add_option("ids", trash.ids, "Ids from deep-scan")->required()->type_name("ID");
+    addConsent(*command, trash.consent);
+}
+
+void addAppCommands(CLI::App& app, Call& call) {
+    static const std::map<std::string, SortOrder> orders = {{"least-used", SortOrder::leastUsed},
+                                                            {"largest", SortOrder::largest},
+                                                            {"name", SortOrder::name}};
+    CLI::App* command = nullptr;
+    auto& apps = addCommand<AppsCall>(app, call, "apps", "List the installed applications", runApps,
+                                      command);
+    command->add_option("--sort", apps.order, "least-used (default), largest or name")
+        ->transform(CLI::Transformer(orders))
+        ->type_name("ORDER");
+
+    auto& leftovers = addCommand<LeftoversCall>(app, call, "leftovers",
+                                                "Say what an application would leave behind",
+                                                runLeftovers, command);
+    command->add_option("app", leftovers.app, "An id from apps, or a bundle's path")
+        ->required()
+        ->type_name("APP-ID");
+
+    auto& uninstall = addCommand<UninstallCall>(
+        app, call, "uninstall", "With --yes, move an application and its leftovers to the Trash",
+        runUninstall, command);
+    command->add_option("app", uninstall.app, "An id from apps, or a bundle's path")
+        ->required()
+        ->type_name("APP-ID");
+    addConsent(*command, uninstall.consent);
+}
+
+void addAdvisorCommand(CLI::App& app, Call& call) {
+    CLI::App* command = nullptr;
+    auto& advisor = addCommand<AdvisorCall>(
+        app, call, "advisor", "Cleanups with the platform's own tools", runAdvisor, command);
+    command->add_option("--delete-runtime", advisor.deleteRuntime, "Delete a Simulator runtime")
+        ->type_name("ID");
+    command->add_flag("--remove-unavailable", advisor.removeUnavailable,
+                      "Remove simulators whose runtime is gone");
+    command->add_flag("--thin-snapshots", advisor.thinSnapshots,
+                      "Ask the system to purge local snapshots");
+    addConsent(*command, advisor.consent);
+}
+
+void addKnowledgeCommands(CLI::App& app, Call& call) {
+    CLI::App* command = nullptr;
     auto& measure = addCommand<MeasureCall>(
         app, call, "measure", "Say how much room paths take on disk", runMeasure, command);
     command->add_option("paths", measure.paths, "Files or folders")->required()->type_name("PATH");
 
-    addCommand<CatalogueCall>(app, call, "catalogue",
-                              "List everything that Clean knows how to clean", runCatalogue,
-                              command);
+    auto& explain = addCommand<ExplainCall>(
+        app, call, "explain", "Say what is known of a path, and whether Clean may remove it",
+        runExplain, command);
+    command->add_option("path", explain.path, "It need not exist")->required()->type_name("PATH");
+
+    addCommand<CatalogueCall>(app, call, "catalogue", "List everything that Clean can clean",
+                              runCatalogue, command);
+}
+
+void addCommands(CLI::App& app, Call& call) {
+    addScanningCommands(app, call);
+    addAppCommands(app, call);
+    addAdvisorCommand(app, call);
+    addKnowledgeCommands(app, call);
 }
 
 }  // namespace

@@ -1,8 +1,21 @@
 #include "cli/shapes.h"
 
+#include "apps/helper_note.h"
+#include "platform/dates.h"
+
 namespace tidewell::cli {
 
 namespace {
+
+/// Adds a member unless its value is absent.
+template <class Held>
+void addIfPresent(Value::Object& shape, std::string key, const std::optional<Held>& value) {
+    if (value) shape.emplace_back(std::move(key), Value(*value));
+}
+
+void addDate(Value::Object& shape, std::string key, const std::optional<Date>& date) {
+    if (date) shape.emplace_back(std::move(key), iso8601(*date));
+}
 
 Value categoryShape(const CleanupViewModel& model, CleanupCategory category) {
     return Value::Object{
@@ -15,6 +28,10 @@ Value categoryShape(const CleanupViewModel& model, CleanupCategory category) {
 
 }  // namespace
 
+Value textList(const std::vector<std::string>& texts) {
+    return Value::List(texts.begin(), texts.end());
+}
+
 std::string_view nameOf(SafetyLevel safety) {
     switch (safety) {
         case SafetyLevel::safe:
@@ -25,11 +42,65 @@ std::string_view nameOf(SafetyLevel safety) {
     return {};
 }
 
-Value textList(const std::vector<std::string>& texts) {
-    return Value::List(texts.begin(), texts.end());
+std::string_view nameOf(BigItem::Kind kind) {
+    switch (kind) {
+        case BigItem::Kind::container:
+            return "container";
+        case BigItem::Kind::installer:
+            return "installer";
+        case BigItem::Kind::cache:
+            return "cache";
+        case BigItem::Kind::rebuildable:
+            return "rebuildable";
+        case BigItem::Kind::appData:
+            return "appData";
+        case BigItem::Kind::personal:
+            return "personal";
+        case BigItem::Kind::other:
+            return "other";
+    }
+    return {};
 }
 
-Value shapeOf(const CleanupItem& item) {
+std::string_view nameOf(RiskBucket bucket) {
+    switch (bucket) {
+        case RiskBucket::safe:
+            return "safe";
+        case RiskBucket::installer:
+            return "installer";
+        case RiskBucket::container:
+            return "container";
+        case RiskBucket::review:
+            return "review";
+        case RiskBucket::personal:
+            return "personal";
+        case RiskBucket::other:
+            return "other";
+    }
+    return {};
+}
+
+std::string_view nameOf(Mode section) {
+    switch (section) {
+        case Mode::home:
+            return "home";
+        case Mode::clean:
+            return "clean";
+        case Mode::devMode:
+            return "devMode";
+        case Mode::apps:
+            return "apps";
+        case Mode::performance:
+            return "performance";
+        case Mode::deepScan:
+            return "deepScan";
+        case Mode::advisor:
+            return "advisor";
+    }
+    return {};
+}
+
+Value itemShape(const CleanupItem& item) {
     return Value::Object{
         {"id", item.target.id},
         {"title", item.target.title},
@@ -42,21 +113,89 @@ Value shapeOf(const CleanupItem& item) {
     };
 }
 
-Value shapeOf(const CleanupItems& items) {
-    Value::List list;
-    for (const auto& item : items) list.push_back(shapeOf(item));
-    return list;
+Value bigItemShape(const BigItem& item) {
+    Value::Object shape = {
+        {"id", item.id},
+        {"name", item.name},
+        {"location", item.location},
+        {"sizeBytes", item.sizeBytes},
+        {"isDirectory", item.isDirectory},
+        {"kind", nameOf(item.kind)},
+        {"bucket", nameOf(riskBucket(item.kind))},
+    };
+    addIfPresent(shape, "note", item.note);
+    addIfPresent(shape, "reclaimCommand", item.reclaimCommand);
+    return shape;
 }
 
-Value::Object shapeOf(const CleanupViewModel& model) {
+Value appShape(const InstalledApp& app) {
+    Value::Object shape = {{"id", app.id}, {"name", app.name}, {"path", app.url}};
+    addIfPresent(shape, "bundleID", app.bundleID);
+    addIfPresent(shape, "version", app.version);
+    shape.emplace_back("sizeBytes", app.sizeBytes);
+    addDate(shape, "lastUsed", app.lastUsed);
+    shape.emplace_back("lastUsedLabel", lastUsedLabel(app, now()));
+    shape.emplace_back("monthsIdle", monthsIdle(app, now()));
+    addIfPresent(shape, "helperNote", helperNote(app.name, app.bundleID));
+    return shape;
+}
+
+Value leftoverShape(const LeftoverFile& leftover) {
+    return Value::Object{
+        {"path", leftover.url}, {"category", leftover.category}, {"sizeBytes", leftover.sizeBytes}};
+}
+
+Value runtimeShape(const SimRuntime& runtime) {
+    Value::Object shape = {
+        {"id", runtime.id},
+        {"name", runtime.name},
+        {"build", runtime.build},
+        {"sizeBytes", runtime.sizeBytes},
+        {"deletable", runtime.deletable},
+    };
+    addDate(shape, "lastUsed", runtime.lastUsed);
+    shape.emplace_back("deviceNames", textList(runtime.deviceNames));
+    shape.emplace_back("usedByLabel", runtime.usedByLabel());
+    return shape;
+}
+
+Value modelStoreShape(const AIModelStore& store) {
+    return Value::Object{{"id", store.id},
+                         {"tool", store.tool},
+                         {"sizeBytes", store.sizeBytes},
+                         {"note", store.note}};
+}
+
+Value::Object cleanShape(const CleanupViewModel& model) {
     Value::List categories;
     for (const auto category : model.activeCategories())
         categories.push_back(categoryShape(model, category));
     return {
-        {"items", shapeOf(model.items())},
+        {"items", listOf(model.items(), itemShape)},
         {"totalBytes", model.totalBytes()},
         {"selectedBytes", model.selectedBytes()},
         {"categories", std::move(categories)},
+    };
+}
+
+Value::Object deepScanShape(const DeepScanViewModel& model) {
+    return {{"items", listOf(model.items(), bigItemShape)}, {"totalBytes", model.totalBytes()}};
+}
+
+Value::Object appsShape(const AppsViewModel& model) {
+    return {{"apps", listOf(model.sortedApps(), appShape)},
+            {"totalAppBytes", model.totalAppBytes()}};
+}
+
+Value::Object advisorShape(const AdvisorViewModel& model) {
+    const auto& findings = model.findings();
+    return {
+        {"runtimes", listOf(findings.runtimes, runtimeShape)},
+        {"unavailableSims", findings.unavailableSims},
+        {"snapshotCount", findings.snapshotCount},
+        {"dockerBytes", findings.dockerBytes},
+        {"reclaimableBytes", model.reclaimableBytes()},
+        {"hasFindings", model.hasFindings()},
     };
 }
 

@@ -1,8 +1,8 @@
 #include "cleanup/cleanup_view_model.h"
 #include "cleanup/screens/review_content.h"
 #include "cleanup/screens/scan_content.h"
+#include "cli/cleaning_tool.h"
 #include "cli/commands/commands.h"
-#include "cli/interruption.h"
 #include "cli/item_list.h"
 #include "cli/progress_line.h"
 #include "cli/report.h"
@@ -22,31 +22,6 @@ void scan(const Context& context, const Model& model) {
         progress.show(model->scanProgress(), model->currentTarget().value_or(searching));
     });
     runToEnd(context.loop, model->startScan());
-}
-
-std::optional<WrongCall> select(const Model& model, const SelectionWish& wish) {
-    const auto wanted = selectedIds(model->items(), wish);
-    if (const auto* wrong = std::get_if<WrongCall>(&wanted)) return *wrong;
-    const auto& ids = std::get<std::set<std::string>>(wanted);
-    setTicks(model->items.mutate(), Tick::off, [](const auto&) { return true; });
-    setTicks(model->items.mutate(), Tick::on,
-             [&ids](const auto& item) { return ids.contains(item.target.id); });
-    return std::nullopt;
-}
-
-/// Cleans what is ticked; a first Ctrl-C ends it behind the item in hand.
-ExitStatus clean(const Context& context, const Model& model) {
-    const InterruptionWatch watch;
-    ProgressLine progress;
-    const auto watching = model->willChange.subscribe([&watch, &model] {
-        if (watch.wasInterrupted()) model->stopAfterItemInHand();
-    });
-    const auto showing = onChanged(model->willChange, [&progress, &model] {
-        progress.show(model->cleanProgress(), cleaningTitle);
-    });
-    runToEnd(context.loop, model->cleanSelected());
-    const bool leftSomething = !model->failedTitles().empty() || watch.wasInterrupted();
-    return leftSomething ? ExitStatus::leftBehind : ExitStatus::done;
 }
 
 void printReview(const Model& model, Consent consent) {
@@ -80,13 +55,11 @@ void printResult(const Model& model) {
         printLine(inked(result.ringLine, Ink::strong) + ".");
     }
     printLine(result.freeBefore + " → " + result.freeAfter);
-    if (!result.failureNote) return;
-    printLine(inked(notCleanedTitle, Ink::careful));
-    printLine("  " + *result.failureNote);
+    printFailures(model->failedTitles());
 }
 
 Value document(const Model& model, Consent consent) {
-    auto shape = shapeOf(*model);
+    auto shape = cleanShape(*model);
     if (consent == Consent::given) {
         const bool hasCleaned = model->phase() == CleanupViewModel::Phase::done;
         shape.emplace_back("freedBytes", model->freedBytes());
@@ -103,10 +76,11 @@ Value document(const Model& model, Consent consent) {
 Outcome runClean(const Context& context, const CleanCall& call) {
     const auto model = std::make_shared<CleanupViewModel>(context.host);
     scan(context, model);
-    if (const auto wrong = select(model, call.selection)) return *wrong;
+    if (const auto wrong = tickAsWished(*model, call.selection)) return *wrong;
     if (context.form == OutputForm::text) printReview(model, call.consent);
     auto status = ExitStatus::done;
-    if (call.consent == Consent::given) status = clean(context, model);
+    if (call.consent == Consent::given)
+        status = cleanTicked(context, model, &CleanupViewModel::cleanSelected);
     if (context.form == OutputForm::json) {
         printDocument(document(model, call.consent));
     } else if (model->phase() == CleanupViewModel::Phase::done) {

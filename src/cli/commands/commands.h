@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "apps/app_order.h"
 #include "cli/context.h"
 #include "cli/selection.h"
 
@@ -22,6 +25,64 @@ struct CleanCall {
     Consent consent = Consent::notGiven;
 };
 Outcome runClean(const Context& context, const CleanCall& call);
+
+struct DevCall {
+    SelectionWish selection;
+    Consent consent = Consent::notGiven;
+};
+Outcome runDev(const Context& context, const DevCall& call);
+
+struct ScanCall {};
+Outcome runScan(const Context& context, const ScanCall& call);
+
+struct DeepScanCall {};
+Outcome runDeepScan(const Context& context, const DeepScanCall& call);
+
+struct TrashCall {
+    std::vector<std::string> ids;
+    Consent consent = Consent::notGiven;
+};
+Outcome runTrash(const Context& context, const TrashCall& call);
+
+struct AppsCall {
+    SortOrder order = SortOrder::leastUsed;
+};
+Outcome runApps(const Context& context, const AppsCall& call);
+
+struct LeftoversCall {
+    std::string app;  ///< its id, or its bundle's path
+};
+Outcome runLeftovers(const Context& context, const LeftoversCall& call);
+
+struct UninstallCall {
+    std::string app;
+    Consent consent = Consent::notGiven;
+};
+Outcome runUninstall(const Context& context, const UninstallCall& call);
+
+struct AdvisorCall {
+    std::optional<std::string> deleteRuntime;
+    bool removeUnavailable = false;
+    bool thinSnapshots = false;
+    Consent consent = Consent::notGiven;
+};
+Outcome runAdvisor(const Context& context, const AdvisorCall& call);
+
+struct PerformanceCall {};
+Outcome runPerformance(const Context& context, const PerformanceCall& call);
+
+struct QuitCall {
+    std::int32_t pid = 0;
+};
+Outcome runQuit(const Context& context, const QuitCall& call);
+
+struct ExplainCall {
+    std::string path;
+};
+Outcome runExplain(const Context& context, const ExplainCall& call);
+
+struct StatusCall {};
+Outcome runStatus(const Context& context, const StatusCall& call);
 
 struct MeasureCall {
     std::vector<std::string> paths;

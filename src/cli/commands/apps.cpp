@@ -1,0 +1,159 @@
+#include <algorithm>
+
+#include "apps/screens/apps_content.h"
+#include "cli/commands/commands.h"
+#include "cli/interruption.h"
+#include "cli/progress_line.h"
+#include "cli/report.h"
+#include "cli/shapes.h"
+#include "kit/byte_text.h"
+#include "platform/dates.h"
+#include "platform/text.h"
+
+namespace tidewell::cli {
+
+namespace {
+
+using Model = std::shared_ptr<AppsViewModel>;
+
+constexpr int nameColumns = 32;
+constexpr int sizeColumns = 10;
+
+Model scannedModel(const Context& context) {
+    const auto model = std::make_shared<AppsViewModel>(context.host);
+    ProgressLine progress;
+    const auto showing = onChanged(model->willChange, [&progress, &model] {
+        progress.show(model->scanProgress(), "reading /Applications…");
+    });
+    runToEnd(context.loop, model->scan());
+    return model;
+}
+
+void printApp(const InstalledApp& app) {
+    const auto card = appCard(app, now());
+    const auto mark = label(card.mark);
+    printLine("  " + leftAligned(terminalText(app.name), nameColumns) +
+              rightAligned(card.size, sizeColumns) + "  " + terminalText(card.line) +
+              (mark.empty() ? "" : "  " + inked(mark, Ink::careful)));
+    printLine("    " + inked(terminalText(app.id), Ink::faint) +
+              (app.id == app.url ? "" : "  " + inked(terminalText(app.url), Ink::faint)));
+}
+
+/// By its id or its bundle's path. An id that two applications share is a wrong call.
+std::variant<InstalledApp, WrongCall> findApp(const std::vector<InstalledApp>& apps,
+                                              const std::string& word) {
+    std::vector<const InstalledApp*> found;
+    for (const auto& app : apps) {
+        if (app.url == word) return app;
+        if (app.id == word || wellFormedText(app.id) == word) found.push_back(&app);
+    }
+    if (found.size() == 1) return *found.front();
+    if (found.empty())
+        return WrongCall{"There is no application with the id or path " + terminalText(word)};
+    std::string paths;
+    for (const auto* app : found) paths += "\n  " + terminalText(app->url);
+    return WrongCall{"Several applications have the id " + terminalText(word) +
+                     ": name one by its path" + paths};
+}
+
+Value::Object planShape(const UninstallPlan& plan) {
+    return {{"app", appShape(plan.app)},
+            {"leftovers", listOf(plan.leftovers, leftoverShape)},
+            {"totalBytes", plan.totalBytes()}};
+}
+
+Value resultShape(const UninstallResult& result) {
+    return Value::Object{{"appName", result.appName},
+                         {"movedCount", result.movedCount},
+                         {"freedBytes", result.freedBytes},
+                         {"failed", textList(result.failed)},
+                         {"appBundleMoved", result.appBundleMoved}};
+}
+
+void printPlan(const UninstallPlan& plan) {
+    const auto sheet = uninstallSheet(plan);
+    printLine(inked(terminalText(sheet.title), Ink::strong));
+    printLine(terminalText(sheet.line));
+    printLine("  " + rightAligned(byteText(plan.app.sizeBytes), sizeColumns) + "  " +
+              terminalText(plan.app.url));
+    for (const auto& leftover : plan.leftovers)
+        printLine("  " + rightAligned(byteText(leftover.sizeBytes), sizeColumns) + "  " +
+                  terminalText(leftover.url) + "  " + inked(leftover.category, Ink::faint));
+    if (plan.leftovers.empty()) printLine("  " + inked(sheet.emptyNote, Ink::faint));
+}
+
+/// A scan, and the plan of the one application that the call names.
+struct Planned {
+    Model model;
+    UninstallPlan plan;
+};
+
+std::variant<Planned, WrongCall> planFor(const Context& context, const std::string& word) {
+    const auto model = scannedModel(context);
+    const auto app = findApp(model->apps(), word);
+    if (const auto* wrong = std::get_if<WrongCall>(&app)) return *wrong;
+    runToEnd(context.loop, model->prepareUninstall(std::get<InstalledApp>(app)));
+    return Planned{model, *model->pendingPlan()};
+}
+
+ExitStatus carryOut(const Context& context, const Planned& planned) {
+    const InterruptionWatch watch;
+    runToEnd(context.loop, planned.model->confirmUninstall());
+    const auto& result = *planned.model->lastResult();
+    if (context.form == OutputForm::json) {
+        auto shape = planShape(planned.plan);
+        shape.emplace_back("result", resultShape(result));
+        printDocument(std::move(shape));
+    } else {
+        const auto banner = resultBanner(result);
+        printLine();
+        printLine(inked(terminalText(banner.title),
+                        banner.tone == ResultBanner::Tone::success ? Ink::good : Ink::careful));
+        printLine(terminalText(banner.line));
+    }
+    const bool leftSomething = !result.failed.empty() || watch.wasInterrupted();
+    return leftSomething ? ExitStatus::leftBehind : ExitStatus::done;
+}
+
+}  // namespace
+
+Outcome runApps(const Context& context, const AppsCall& call) {
+    const auto model = scannedModel(context);
+    model->sortOrder = call.order;
+    if (context.form == OutputForm::json) {
+        printDocument(appsShape(*model));
+        return ExitStatus::done;
+    }
+    printLine(inked(terminalText(appsContent(*model, now()).subtitle), Ink::strong));
+    for (const auto& app : model->sortedApps()) printApp(app);
+    return ExitStatus::done;
+}
+
+Outcome runLeftovers(const Context& context, const LeftoversCall& call) {
+    const auto planned = planFor(context, call.app);
+    if (const auto* wrong = std::get_if<WrongCall>(&planned)) return *wrong;
+    const auto& plan = std::get<Planned>(planned).plan;
+    if (context.form == OutputForm::json) {
+        printDocument(planShape(plan));
+    } else {
+        printPlan(plan);
+    }
+    return ExitStatus::done;
+}
+
+Outcome runUninstall(const Context& context, const UninstallCall& call) {
+    const auto found = planFor(context, call.app);
+    if (const auto* wrong = std::get_if<WrongCall>(&found)) return *wrong;
+    const auto& planned = std::get<Planned>(found);
+    if (context.form == OutputForm::text) printPlan(planned.plan);
+    if (call.consent == Consent::given) return carryOut(context, planned);
+    if (context.form == OutputForm::json) {
+        printDocument(planShape(planned.plan));
+    } else {
+        printLine();
+        printLine("Nothing was moved. With --yes, all of this goes to the Trash.");
+    }
+    return ExitStatus::done;
+}
+
+}  // namespace tidewell::cli
