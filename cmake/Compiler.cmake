@@ -20,6 +20,10 @@ target_compile_options(tidewell_compile_options INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(tidewell_compile_options INTERFACE -Wno-restrict)
 endif()
+# libstdc++ 12 sorts stably with what it marks as deprecated itself, and clang tells its callers.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  target_compile_options(tidewell_compile_options INTERFACE -Wno-deprecated-declarations)
+endif()
 target_link_libraries(tidewell_compile_options INTERFACE Threads::Threads)
 # What the sanitizers add to the code makes g++ see values that are never set where there are none.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND TIDEWELL_SANITIZE)
