@@ -13,8 +13,8 @@ function(tidewell_layer name)
       ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/src/${folder}/*.h)
     list(APPEND sources ${found})
   endforeach()
-  # A file that ends in _screen belongs to the windows, not to the engine.
-  list(FILTER sources EXCLUDE REGEX "_screen\\.(cpp|h)$")
+  # A file that ends in _screen or lies in a folder qt belongs to the window, not to the engine.
+  list(FILTER sources EXCLUDE REGEX "_screen\\.(cpp|h)$|/qt/")
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${name} PUBLIC ${include_root})

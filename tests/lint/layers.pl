@@ -11,7 +11,7 @@ use CppText;
 sub refusedHeader {
     my ($file, $header) = @_;
     if ($header =~ /^Q[A-Z]/ || $header =~ /^Qt/) {
-        return $file !~ m{^src/(?:kit|shell)/} && $file !~ m{^src/\w+/screens/};
+        return $file !~ m{^src/(?:kit|shell)/qt/} && $file !~ m{_screen\.(?:h|cpp)$};
     }
     return 0 if $file =~ m{^src/platform/linux/};
     return $header =~ m{^linux/|^sys/(?:syscall|xattr|vfs|statfs|sysinfo|pidfd|inotify)\.h$|^mntent\.h$}

@@ -1,0 +1,15 @@
+#include "kit/qt/module.h"
+
+#include <QtQml/qqmlengine.h>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TidewellPlugin)
+
+namespace tidewell {
+
+void importTidewellModule(QQmlEngine& engine) {
+    // The types of a module that is linked in lie in the resources.
+    engine.addImportPath("qrc:/");
+}
+
+}  // namespace tidewell
