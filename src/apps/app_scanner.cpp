@@ -25,7 +25,6 @@ std::vector<std::string> namesIn(const std::string& folder) {
 /// The bundles inside a folder that stands in a search folder, such as a suite of applications.
 std::vector<std::string> bundlesOneFolderDown(const std::string& folder) {
     std::vector<std::string> paths;
-    if (fileKind(folder) != FileKind::folder) return paths;
     for (const auto& name : namesIn(folder))
         if (isAppName(name)) paths.push_back(joinPath(folder, name));
     return paths;

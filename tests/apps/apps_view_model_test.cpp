@@ -67,14 +67,14 @@ TEST_F(AppsViewModelTest, ScansOnceAtATimeAndKeepsTheOldListUntilTheNewOneIsTher
 }
 
 TEST_F(AppsViewModelTest, ListsTheApplicationsInTheChosenOrder) {
-    install("apple", 1 * megabyte, 50);
-    install("Zebra", 9 * megabyte, 40);
+    install("apple", 3 * megabyte, 40);
+    install("Zebra", 1 * megabyte, 50);
     install("Banana", 4 * megabyte, 200);
     install("cherry", 4 * megabyte);
     scan();
-    EXPECT_EQ(namesOf(model->sortedApps()), (Names{"cherry", "Banana", "Zebra", "apple"}));
+    EXPECT_EQ(namesOf(model->sortedApps()), (Names{"cherry", "Banana", "apple", "Zebra"}));
     model->sortOrder = SortOrder::largest;
-    EXPECT_EQ(namesOf(model->sortedApps()), (Names{"Zebra", "Banana", "cherry", "apple"}));
+    EXPECT_EQ(namesOf(model->sortedApps()), (Names{"Banana", "cherry", "apple", "Zebra"}));
     model->sortOrder = SortOrder::name;
     EXPECT_EQ(namesOf(model->sortedApps()), (Names{"apple", "Banana", "cherry", "Zebra"}));
     EXPECT_EQ(namesOf(model->apps()), (Names{"Banana", "Zebra", "apple", "cherry"}));
