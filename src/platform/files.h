@@ -44,4 +44,7 @@ std::optional<std::string> realLocation(const std::string& path);
 /// What the path leads to in the end, with all links resolved; absent if nothing stands there.
 std::optional<std::string> resolvedPath(const std::string& path);
 
+/// A relative path taken from the folder that the program was started in; an absolute one as it is.
+std::string absolutePath(const std::string& path);
+
 }  // namespace tidewell

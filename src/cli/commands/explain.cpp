@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <filesystem>
 
 #include "cleanup/deletion_guard.h"
 #include "cleanup/disk_scanner.h"
@@ -99,7 +98,7 @@ DeletionRule decidingRule(const std::string& path, const Host& host) {
 }
 
 Explanation explain(const std::string& word, const Host& host) {
-    const auto path = standardizedPath(std::filesystem::absolute(word).string());
+    const auto path = standardizedPath(absolutePath(word));
     const auto name = lastPathComponent(path);
     const auto fact = FolderKnowledge::fact(name);
     return {

@@ -84,4 +84,10 @@ std::optional<std::string> realLocation(const std::string& path) {
     return joinPath(*resolved, name);
 }
 
+std::string absolutePath(const std::string& path) {
+    if (path.starts_with('/')) return path;
+    const std::unique_ptr<char, void (*)(void*)> current(::getcwd(nullptr, 0), std::free);
+    return current ? joinPath(current.get(), path) : path;
+}
+
 }  // namespace tidewell

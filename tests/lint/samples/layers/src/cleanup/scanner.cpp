@@ -11,7 +11,7 @@
 #include "platform/files.h"
 
 constexpr std::array folders = {
-    "/Applications",
+    "An end; of nothing",
     "/Library/Caches",
 };
 static constexpr Tool tool = {.path = "/usr/bin/xcrun"};
