@@ -63,7 +63,6 @@ std::optional<Process> readProcess(std::int32_t id) {
     const auto status = executable ? readStatus(id) : std::nullopt;
     if (!status) return std::nullopt;
     return Process{.identity = {.id = id, .startTime = status->startTime},
-                   .parent = status->parent,
                    .executable = std::move(*executable)};
 }
 
@@ -94,7 +93,6 @@ std::optional<ProcessStatus> parseProcessStatus(std::string_view line) {
     if (nameEnd == std::string_view::npos) return std::nullopt;
     // The fields behind the name, which is the second one.
     constexpr std::size_t stateField = 0;
-    constexpr std::size_t parentField = 1;
     constexpr std::size_t startTimeField = 19;
     std::vector<std::string_view> fields;
     auto rest = line.substr(nameEnd + 1);
@@ -105,11 +103,9 @@ std::optional<ProcessStatus> parseProcessStatus(std::string_view line) {
         fields.push_back(rest.substr(0, rest.find_first_of(" \n")));
         rest.remove_prefix(fields.back().size());
     }
-    const auto parent = numberIn<std::int32_t>(fields[parentField]);
     const auto start = numberIn<std::uint64_t>(fields[startTimeField]);
-    if (!parent || !start) return std::nullopt;
-    return ProcessStatus{
-        .state = fields[stateField].front(), .parent = *parent, .startTime = *start};
+    if (!start) return std::nullopt;
+    return ProcessStatus{.state = fields[stateField].front(), .startTime = *start};
 }
 
 std::optional<ByteCount> labelledByteCount(std::string_view text, std::string_view label) {

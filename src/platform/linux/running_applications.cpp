@@ -80,25 +80,21 @@ class ApplicationList {
             entries_.emplace(entry.executable, entry);
     }
 
+    /// What a bundle starts itself is started later, so that of its processes the first counts.
     std::vector<RunningApplication> applications() const {
-        const auto processes = linux_system::ownProcesses();
-        std::map<std::int32_t, std::string> ownerOf;
-        for (const auto& process : processes) ownerOf[process.identity.id] = owner(process);
         std::vector<RunningApplication> result;
         std::set<std::string> seen;
-        for (const auto& process : processes) {
-            const auto& own = ownerOf.at(process.identity.id);
-            const auto parent = ownerOf.find(process.parent);
-            const bool isHelper = parent != ownerOf.end() && parent->second == own;
-            if (!own.empty() && !isHelper && seen.insert(own).second)
-                result.push_back(application(process, own));
+        for (const auto& process : linux_system::ownProcesses()) {
+            const auto owner = ownerOf(process);
+            if (!owner.empty() && seen.insert(owner).second)
+                result.push_back(application(process, owner));
         }
         return result;
     }
 
  private:
     /// The bundle or the executable of the entry that a process belongs to, empty if to none.
-    std::string owner(const Process& process) const {
+    std::string ownerOf(const Process& process) const {
         if (!isBelow(process.executable, root_)) return {};
         auto bundle = bundleHolding(process.executable);
         if (!bundle.empty()) return bundle;
