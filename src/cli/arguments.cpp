@@ -111,6 +111,19 @@ void addAdvisorCommand(CLI::App& app, Call& call) {
     addConsent(*command, advisor.consent);
 }
 
+void addPerformanceCommands(CLI::App& app, Call& call) {
+    CLI::App* command = nullptr;
+    addCommand<PerformanceCall>(app, call, "performance",
+                                "Memory, running applications and login items", runPerformance,
+                                command);
+
+    auto& quit = addCommand<QuitCall>(app, call, "quit", "Ask a running application to quit",
+                                      runQuit, command);
+    command->add_option("pid", quit.pid, "Its number, from performance")
+        ->required()
+        ->type_name("PID");
+}
+
 void addKnowledgeCommands(CLI::App& app, Call& call) {
     CLI::App* command = nullptr;
     auto& measure = addCommand<MeasureCall>(
@@ -130,6 +143,7 @@ void addCommands(CLI::App& app, Call& call) {
     addScanningCommands(app, call);
     addAppCommands(app, call);
     addAdvisorCommand(app, call);
+    addPerformanceCommands(app, call);
     addKnowledgeCommands(app, call);
 }
 

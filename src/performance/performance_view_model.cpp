@@ -59,12 +59,13 @@ Task<> PerformanceViewModel::scan() {
     phase = Phase::list;
 }
 
-void PerformanceViewModel::quit(const RunningApp& app) {
+Termination PerformanceViewModel::quit(const RunningApp& app) {
     const auto termination = terminate(app.process);
-    if (termination == Termination::alreadyEnded) return;
+    if (termination == Termination::alreadyEnded) return termination;
     busyPID = app.id;
     lastMessage = quitMessage(app, termination);
     spawn(shared_from_this(), &PerformanceViewModel::refreshAfterQuit);
+    return termination;
 }
 
 Task<> PerformanceViewModel::refreshAfterQuit() {

@@ -49,8 +49,8 @@ class PerformanceViewModel : public std::enable_shared_from_this<PerformanceView
     /// Does nothing during a scan. The old lists stay until the new ones are there.
     Task<> scan();
     /// Asks the application to quit, never forces it, and reads the list again a little later. Does
-    /// nothing if it has already ended.
-    void quit(const RunningApp& app);
+    /// nothing if it has already ended. The answer is that of the process.
+    Termination quit(const RunningApp& app);
 
  private:
     Task<> refreshAfterQuit();
