@@ -43,7 +43,7 @@ class FolderWalk {
         : path_(std::move(folder)), hidden_(hidden), visit_(visit) {}
 
     void run() {
-        enter(openFolderAt(AT_FDCWD, path_));
+        enter(posix::openFolder(path_));
         while (!entered_.empty()) {
             if (entered_.back().next < entered_.back().entries.size()) {
                 visitNextEntry();

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <dirent.h>
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+namespace tidewell::linux_system {
+
+/// Reads what a folder holds a portion at a time, by the system's own call: a stream of the C
+/// library costs an allocation and two more calls a folder.
+class FolderReader {
+ public:
+    /// Reads on where the descriptor stands. False at the end, and when the folder cannot be read.
+    /// A portion may be of any size: only an empty one tells the end.
+    bool readPortion(int folder);
+
+    /// Calls `visit(const char* name, unsigned char type)` for each entry of the portion but "."
+    /// and ".."; the type is one of readdir's d_type. The names hold until the next portion.
+    template <class Visit>
+    void forEachEntry(const Visit& visit) const {
+        for (std::size_t at = 0; at < filled_;) {
+            const auto* record = reinterpret_cast<const Record*>(buffer_.get() + at);
+            at += record->length;
+            const std::string_view name = record->name;
+            if (name != "." && name != "..") visit(record->name, record->type);
+        }
+    }
+
+ private:
+    /// As getdents64 lays it out.
+    struct Record {
+        ino64_t inode;
+        off64_t next;
+        unsigned short length;
+        unsigned char type;
+        char name[1];
+    };
+
+    static constexpr std::size_t capacity = 32 * 1024;
+
+    std::unique_ptr<std::byte[]> buffer_ = std::make_unique_for_overwrite<std::byte[]>(capacity);
+    std::size_t filled_ = 0;
+};
+
+}  // namespace tidewell::linux_system
