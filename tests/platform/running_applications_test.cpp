@@ -63,7 +63,8 @@ TEST_F(RunningApplicationsTest, AreOneForEachBundleInTheOrderOfTheirStart) {
     const RunningProgram outside(elsewhere.path() + "/Out.app/Contents/MacOS/Out");
 
     const auto applications = runningApplications(machine.host());
-    ASSERT_EQ(idsOf(applications), (std::vector{plain.processId(), paint.processId(), agent.processId(), nested.processId()}));
+    ASSERT_EQ(idsOf(applications), (std::vector{plain.processId(), paint.processId(),
+                                                agent.processId(), nested.processId()}));
     EXPECT_EQ(applications[0].name, "Plain");
     EXPECT_EQ(applications[0].bundleIdentifier, std::nullopt);
     EXPECT_EQ(applications[0].activationPolicy, ActivationPolicy::regular);
@@ -148,7 +149,8 @@ TEST_F(RunningApplicationsTest, AreAskedToEndOnlyByTheirOwnIdentity) {
     EXPECT_EQ(terminate(earlier), Termination::alreadyEnded);
     EXPECT_EQ(physicalFootprint(earlier), 0);
     EXPECT_GT(physicalFootprint(identity), 0);
-    EXPECT_EQ(idsOf(runningApplications(machine.host())), (std::vector{paint.processId(), stubborn.processId()}));
+    EXPECT_EQ(idsOf(runningApplications(machine.host())),
+              (std::vector{paint.processId(), stubborn.processId()}));
 
     EXPECT_EQ(terminate(identity), Termination::asked);
     paint.waitForEnd();

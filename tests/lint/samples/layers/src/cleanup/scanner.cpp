@@ -14,7 +14,14 @@ constexpr std::array folders = {
     "An end; of nothing",
     "/Library/Caches",
 };
+constexpr std::array more{
+    Folder{"/Library/LaunchAgents"},
+};
 static constexpr Tool tool = {.path = "/usr/bin/xcrun"};
+
+constexpr bool isTool(std::string_view path) {
+    return path == "/usr/bin/xcrun";  // caught
+}
 
 void refused() {
     auto home = std::getenv("HOME");                // caught
