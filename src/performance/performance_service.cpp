@@ -21,7 +21,7 @@ struct LaunchFolder {
     std::string_view scope;
 };
 
-constexpr std::array launchFolders{
+constexpr std::array launchFolders = {
     LaunchFolder{"~/Library/LaunchAgents", "You"},
     LaunchFolder{"/Library/LaunchAgents", "System"},
     LaunchFolder{"/Library/LaunchDaemons", "System"},

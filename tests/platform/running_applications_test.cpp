@@ -93,14 +93,16 @@ TEST_F(RunningApplicationsTest, AreStillSeenAfterAnUpdateAndNoLongerAfterTheirEn
 
 TEST_F(RunningApplicationsTest, AreListedWhileOthersComeAndGo) {
     const RunningProgram lasting(executable("/Applications/Lasting.app"));
-    const test::ChildProcess busy([this] {
-        for (;;) RunningProgram brief(executable("/Applications/Brief.app"));
+    test::ChildProcess busy([this] {
+        for (int turn = 0; turn < 60; ++turn)
+            const RunningProgram brief(executable("/Applications/Brief.app"));
         return true;
     });
-    for (int turn = 0; turn < 100; ++turn) {
+    for (int turn = 0; turn < 60; ++turn) {
         const auto ids = idsOf(runningApplications(machine.host()));
         ASSERT_EQ(std::ranges::count(ids, lasting.processId()), 1);
     }
+    EXPECT_TRUE(busy.succeeded());
 }
 
 TEST_F(RunningApplicationsTest, AreFoundByDesktopEntriesOnTheUsersOwnMachine) {
