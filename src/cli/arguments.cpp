@@ -126,6 +126,9 @@ void addPerformanceCommands(CLI::App& app, Call& call) {
 
 void addKnowledgeCommands(CLI::App& app, Call& call) {
     CLI::App* command = nullptr;
+    addCommand<StatusCall>(app, call, "status", "Free space, and what was freed so far", runStatus,
+                           command);
+
     auto& measure = addCommand<MeasureCall>(
         app, call, "measure", "Say how much room paths take on disk", runMeasure, command);
     command->add_option("paths", measure.paths, "Files or folders")->required()->type_name("PATH");

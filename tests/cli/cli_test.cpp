@@ -7,6 +7,7 @@
 #include "platform/user_defaults.h"
 #include "support/disk_picture.h"
 #include "support/program_run.h"
+#include "support/running_program.h"
 #include "support/sample_machine.h"
 
 namespace tidewell {
@@ -65,6 +66,8 @@ void furnish(const SampleMachine& machine) {
                         {{"CFBundleName", "Notes"}, {"CFBundleIdentifier", "com.example.notes"}});
     machine.file("~/Library/Caches/com.example.notes/Cache.db", 12288);
     machine.text("~/Documents/thesis.tex", "years of work");
+    machine.text("~/Library/LaunchAgents/com.example.sync.plist",
+                 "<plist><dict><key>Label</key><string>sync</string></dict></plist>");
     machine.tool(
         "/usr/bin/xcrun",
         R"(case "$2 $3" in "runtime list") echo '{"a": {"identifier": "a", "name": "iOS 17",
@@ -119,6 +122,8 @@ TEST(CommandLine, OnlyLooksUnlessItIsToldYes) {
                            {"leftovers", "com.example.notes"},
                            {"uninstall", "com.example.notes"},
                            {"advisor", "--thin-snapshots"},
+                           {"status"},
+                           {"performance"},
                            {"measure", machine.home()},
                            {"explain", machine.home()},
                            {"catalogue"}};
@@ -210,6 +215,19 @@ TEST(CommandLine, WritesTheDocumentsThatScriptsExpect) {
 
     const auto trash = documentOf(machine, {"trash", machine.path("~/Games/big")});
     EXPECT_EQ(keysOf(trash), (Words{"outcomes", "planned"}));
+
+    const auto performance = documentOf(machine, {"performance"});
+    EXPECT_EQ(keysOf(performance), (Words{"memoryUsed", "memoryTotal", "apps", "loginItems"}));
+    EXPECT_EQ(keysOf(first(at(performance, "loginItems"))),
+              (Words{"label", "program", "plist", "scope"}));
+
+    EXPECT_EQ(keysOf(documentOf(machine, {"status"})),
+              (Words{"freeBytes", "totalBytes", "freeFraction", "health", "totalFreedBytes",
+                     "hasFullDiskAccess", "isDeveloperMachine"}));  // nothing was cleaned yet
+    run(machine, {"clean", "--only", "npm-cache", "--yes"});
+    const auto status = documentOf(machine, {"status"});
+    EXPECT_EQ(*at(status, "totalFreedBytes").integer(), 8192);
+    EXPECT_TRUE(at(status, "lastCleanupAt").text());
     const auto catalogue = documentOf(machine, {"catalogue"});
     EXPECT_EQ(at(catalogue, "targets").list()->size(), 65U);
     EXPECT_EQ(keysOf(first(at(catalogue, "targets"))),
@@ -258,6 +276,22 @@ TEST(CommandLine, FinishesTheItemInHandOnAFirstInterrupt) {
     EXPECT_NE(ended.output.find("Notes"), std::string::npos);
     EXPECT_TRUE(machine.has("~/.Trash/Notes.app"));
     EXPECT_TRUE(machine.has("~/.Trash/com.example.notes.plist"));
+}
+
+TEST(CommandLine, AsksARunningApplicationToQuit) {
+    const SampleMachine machine;
+    machine.application("/Applications/Notes.app",
+                        {{"CFBundleName", "Notes"}, {"CFBundleIdentifier", "com.example.notes"}});
+    const test::RunningProgram program(machine.path("/Applications/Notes.app/Contents/MacOS/Run"));
+    const auto performance = documentOf(machine, {"performance"});
+    const auto& app = first(at(performance, "apps"));
+    EXPECT_EQ(keysOf(app), (Words{"pid", "name", "bundleID", "path", "memoryBytes"}));
+    const auto pid = std::to_string(*at(app, "pid").integer());
+    const auto quit = documentOf(machine, {"quit", pid});
+    EXPECT_EQ(keysOf(quit), (Words{"asked", "message"}));
+    EXPECT_TRUE(*at(quit, "asked").boolean());
+    EXPECT_EQ(run(machine, {"quit", pid}).status, 2);  // it is listed no more
+    EXPECT_EQ(run(machine, {"quit", "1"}).status, 2);
 }
 
 TEST(CommandLine, EndsAtOnceWhenInterruptedDuringAScan) {

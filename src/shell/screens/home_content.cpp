@@ -79,10 +79,8 @@ HomeToolContent tool(Mode section, std::string_view description, std::string val
 }
 
 std::string lastCleanup(double lastCleanupAt, Date now) {
-    if (!(lastCleanupAt > 0)) return "No cleanups yet";
-    const std::chrono::duration<double> sinceEpoch(std::min(lastCleanupAt, latestSecond));
-    const Date date(std::chrono::duration_cast<Date::duration>(sinceEpoch));
-    return "Last cleanup: " + relativeDateAndTime(date, now);
+    const auto date = lastCleanupDate(lastCleanupAt);
+    return date ? "Last cleanup: " + relativeDateAndTime(*date, now) : "No cleanups yet";
 }
 
 /// A suggestion: nothing is scheduled. With the clock set back, the days can be more than three.
@@ -96,6 +94,12 @@ std::string nextScan(double lastCleanupAt, Date now) {
 }
 
 }  // namespace
+
+std::optional<Date> lastCleanupDate(double lastCleanupAt) {
+    if (!(lastCleanupAt > 0)) return std::nullopt;
+    const std::chrono::duration<double> sinceEpoch(std::min(lastCleanupAt, latestSecond));
+    return Date(std::chrono::duration_cast<Date::duration>(sinceEpoch));
+}
 
 HomeContent homeContent(const SmartScanController& smartScan, const HomeReadings& readings,
                         Date now) {

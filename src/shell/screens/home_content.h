@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,9 @@ struct HomeReadings {
     ByteCount totalFreedBytes = 0;  ///< the sum kept over all cleans
     double lastCleanupAt = 0;       ///< in seconds since 1970; 0 if there was none
 };
+
+/// When the last clean ended, from what is stored; absent if there was none.
+std::optional<Date> lastCleanupDate(double lastCleanupAt);
 
 struct StatCellContent {
     std::string_view label;
