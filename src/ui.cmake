@@ -34,7 +34,7 @@ qt_add_qml_module(tidewell_ui
 
 file(GLOB shaders RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS kit/shaders/*.frag)
 qt_add_shaders(tidewell_ui shaders
-  PREFIX /Tidewell/shaders BASE kit/shaders OPTIMIZED FILES ${shaders})
+  PREFIX /Tidewell/shaders BASE kit/shaders FILES ${shaders})
 
 target_link_libraries(tidewell_ui
   PUBLIC tidewell_core Qt6::Quick Qt6::Qml
