@@ -191,37 +191,39 @@ TEST(Removal, IsNotLedAwayByALinkPutInPlaceMeanwhile) {
     EXPECT_TRUE(machine.has("~/Documents/app/file") && machine.has("~/Documents/file"));
 }
 
-/// A folder far down is swapped for a link, and back, all the while.
+/// Exchanges each sub-folder of a tree with a link into Documents, over and over, while the tree is
+/// removed: a name that was listed as a folder is as likely as not a link when it is entered.
 Verdict surviveSwaps() {
     const SampleMachine machine;
-    machine.folder("~/Library");
-    for (int file = 0; file < 200; ++file) machine.file("~/Documents/" + std::to_string(file), 0);
-    const auto folder = machine.path("~/Library/tree/x");
-    const auto link = machine.path("~/Library/link");
-    std::atomic<bool> isOver = false;
+    constexpr int victims = 50;
+    constexpr int folders = 50;
     std::atomic<int> swaps = 0;
-    std::thread swapping([&] {
-        ::symlink(machine.path("~/Documents").c_str(), link.c_str());
-        while (!isOver) {
-            if (::syscall(SYS_renameat2, AT_FDCWD, folder.c_str(), AT_FDCWD, link.c_str(), 2) == 0)
-                ++swaps;
-            ::symlink(machine.path("~/Documents").c_str(), link.c_str());
+    for (int file = 0; file < victims; ++file)
+        machine.file("~/Documents/" + std::to_string(file), 0);
+    for (int round = 0; round < 10 || (swaps < 3000 && round < 200); ++round) {
+        makeFlat(machine, "~/Library/tree", folders, 2);
+        std::vector<std::pair<std::string, std::string>> pairs;
+        for (int folder = 0; folder < folders; ++folder) {
+            const auto name = std::to_string(round) + "/" + std::to_string(folder);
+            machine.link("~/Library/aside/" + name, "../../Documents");
+            pairs.emplace_back(machine.path("~/Library/tree/" + std::to_string(folder)),
+                               machine.path("~/Library/aside/" + name));
         }
-    });
-    for (int round = 0; swaps < 3000 && round < 20000; ++round) {
-        ::mkdir(machine.path("~/Library/tree").c_str(), 0700);
-        ::mkdir(folder.c_str(), 0700);
-        for (int file = 0; file < 5; ++file)
-            ::close(::open((folder + "/" + std::to_string(file)).c_str(),
-                           O_CREAT | O_WRONLY | O_NOFOLLOW, 0600));
+        std::atomic<bool> isOver = false;
+        std::thread swapping([&] {
+            while (!isOver)
+                for (const auto& [folder, link] : pairs)
+                    swaps += ::syscall(SYS_renameat2, AT_FDCWD, folder.c_str(), AT_FDCWD,
+                                       link.c_str(), RENAME_EXCHANGE) == 0;
+        });
         removeAt(machine, "~/Library/tree");
+        isOver = true;
+        swapping.join();
     }
-    isOver = true;
-    swapping.join();
-    int victims = 200;
-    for (int file = 0; file < 200; ++file)
-        victims -= machine.has("~/Documents/" + std::to_string(file));
-    return held(victims == 0 && swaps > 100);
+    int left = 0;
+    for (int file = 0; file < victims; ++file)
+        left += machine.has("~/Documents/" + std::to_string(file));
+    return held(left == victims && swaps >= 1000);
 }
 
 TEST(Removal, LosesNothingToThousandsOfSwapsWhileItRuns) {
