@@ -130,6 +130,9 @@ TEST_F(RunningApplicationsTest, AreFoundByDesktopEntriesOnTheUsersOwnMachine) {
     const RunningProgram hidden(home + "/tools/hidden");
     const RunningProgram script(home + "/tools/python3.11");
 
+    machine.remove("~/tools/show");  // an update puts a new file in its place
+    std::filesystem::copy_file("/bin/sleep", home + "/tools/show");
+
     const auto own = findHost({.root = std::nullopt, .home = home});
     ASSERT_TRUE(own.host) << own.problem;
     auto applications = runningApplications(*own.host);
@@ -174,6 +177,11 @@ TEST_F(RunningApplicationsTest, BelongToTheUserAlone) {
                terminate(identity) == Termination::refused && physicalFootprint(identity) == 0;
     });
     EXPECT_TRUE(otherUser.succeeded());
+    // Who may see every process of the machine still has applications of their own only.
+    test::ChildProcess allSeeing([&] {
+        return ::setresuid(65534, 0, 0) == 0 && runningApplications(machine.host()).empty();
+    });
+    EXPECT_TRUE(allSeeing.succeeded());
     EXPECT_EQ(startTime(paint.processId()), identity.startTime);
 }
 
