@@ -28,6 +28,7 @@ qt_add_qml_module(tidewell_ui
   URI Tidewell
   VERSION 1.0
   RESOURCE_PREFIX /
+  DEPENDENCIES QtQuick
   OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/Tidewell
   QML_FILES ${qml_files}
   SOURCES ${screen_sources})
@@ -35,6 +36,10 @@ qt_add_qml_module(tidewell_ui
 file(GLOB shaders RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS kit/shaders/*.frag)
 qt_add_shaders(tidewell_ui shaders
   PREFIX /Tidewell/shaders BASE kit/shaders FILES ${shaders})
+
+file(GLOB logos CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/assets/logos/*.svg)
+qt_add_resources(tidewell_ui logos
+  PREFIX /Tidewell/logos BASE ${CMAKE_SOURCE_DIR}/assets/logos FILES ${logos})
 
 target_link_libraries(tidewell_ui
   PUBLIC tidewell_core Qt6::Quick Qt6::Qml
@@ -47,6 +52,7 @@ list(REMOVE_DUPLICATES header_folders)
 target_include_directories(tidewell_ui PRIVATE ${header_folders})
 
 # Compiling the generated code of one .qml file takes seconds, most of them for the same headers.
+target_compile_options(tidewell_ui PRIVATE -Wpedantic)  # or own files could not use the headers
 target_precompile_headers(tidewell_ui PRIVATE
   <QtQml/qqmlprivate.h> <QtQml/qqml.h> <QtQml/qjsengine.h> <QtQml/qjsprimitivevalue.h>
   <QtQml/qjsvalue.h> <QtQml/qqmlcomponent.h> <QtQml/qqmlcontext.h> <QtQml/qqmlengine.h>

@@ -1,11 +1,16 @@
 import QtQuick
+import Tidewell
 
-/// Text of one line or more in the program's own fonts.
+/// Text in the program's own faces.
 Text {
     property real size: 13
+    property int weight: Font.Normal
+    property bool isRounded: false
 
-    color: "white"
-    font.family: "Inter"
+    color: Theme.text
+    font.family: Kit.fontFamily(isRounded)
+    font.weight: Kit.fontWeight(weight, isRounded)
     font.pixelSize: size
     textFormat: Text.PlainText
+    linkColor: color
 }

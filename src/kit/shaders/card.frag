@@ -17,9 +17,14 @@ layout(std140, binding = 0) uniform buf {
     float reach;        // how far the item extends past the box on each side, in points
     float radius;
     float cornerLight;  // 0 to 1
-    float contact;      // opacity of the dark shadow
+    float shade;        // opacity of the dark shadow
     float pixel;        // size of a device pixel in points
 };
+
+// Colours come with their opacity multiplied in.
+vec3 plain(vec4 color) {
+    return color.rgb / max(color.a, 0.001);
+}
 
 float distanceToBox(vec2 p, vec2 halfSize, float r) {
     vec2 q = abs(p) - halfSize + r;
@@ -44,20 +49,21 @@ void main() {
     float inside = clamp(0.5 - d / pixel, 0.0, 1.0);
     float down = clamp((p.y + halfSize.y) / (2.0 * halfSize.y), 0.0, 1.0);
 
+    vec3 glowColor = plain(glow);
     vec4 fill = mix(fillTop, fillBottom, down);
     vec2 fromCorner = (p + halfSize) / max(2.0 * halfSize.y, 220.0) - vec2(0.12, 0.10);
     float light = exp(-dot(fromCorner, fromCorner) * 1.5) * cornerLight;
     float alpha = fill.a + light * 0.12;
-    vec4 body = vec4(mix(fill.rgb, glow.rgb, light * 0.34) * alpha, alpha) * inside;
+    vec4 body = vec4(mix(plain(fill), glowColor, light * 0.24) * alpha, alpha) * inside;
 
     float line = clamp(1.0 - abs(d / pixel + 0.75), 0.0, 1.0);
     float lit = rim.a * mix(1.9, 0.8, smoothstep(0.0, 0.55, down));
-    body = mix(body, vec4(rim.rgb, 1.0), clamp(line * lit, 0.0, 1.0) * inside);
+    body = mix(body, vec4(plain(rim), 1.0), clamp(line * lit, 0.0, 1.0) * inside);
 
-    float dark = contact * falloff(distanceToBox(p - vec2(0.0, 8.0), halfSize, radius), 0.16);
+    float dark = shade * falloff(distanceToBox(p - vec2(0.0, 8.0), halfSize, radius), 0.16);
     float coloured = glow.a * falloff(distanceToBox(p - vec2(0.0, 5.0), halfSize - 2.0, radius), 0.20);
     float edge = clamp((reach - max(d, 0.0)) / reach, 0.0, 1.0);
-    vec4 shadow = vec4(glow.rgb * coloured, max(dark, coloured)) * edge * (1.0 - inside);
+    vec4 shadow = vec4(glowColor * coloured, max(dark, coloured)) * edge * (1.0 - inside);
 
     vec4 color = body + shadow * (1.0 - body.a);
     color.rgb += (noise(point) - 0.5) / 255.0 * color.a;  // no bands in dark gradients

@@ -1,0 +1,48 @@
+import QtQuick
+import Tidewell
+
+/// Text whose digits all take the same width, so that a figure that changes does not shake.
+Row {
+    id: root
+
+    property string text
+    property real size: 13
+    property int weight: Font.Normal
+    property bool isRounded: false
+    property color color: Theme.text
+
+    /// From the top to the line that the figures stand on.
+    readonly property real ascent: metrics.ascent
+
+    /// Large figures stand closer.
+    readonly property real digitWidth: metrics.advanceWidth("0") - (size < 20 ? 0 : size * 0.035)
+
+    height: metrics.height
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
+    FontMetrics {
+        id: metrics
+        font.family: Kit.fontFamily(root.isRounded)
+        font.weight: Kit.fontWeight(root.weight, root.isRounded)
+        font.pixelSize: root.size
+    }
+
+    Repeater {
+        model: root.text.length
+
+        Label {
+            required property int index
+            readonly property bool isDigit: text >= "0" && text <= "9"
+
+            width: isDigit ? root.digitWidth : implicitWidth
+            horizontalAlignment: Text.AlignHCenter
+            text: root.text.charAt(index)
+            size: root.size
+            weight: root.weight
+            isRounded: root.isRounded
+            color: root.color
+            Accessible.ignored: true
+        }
+    }
+}

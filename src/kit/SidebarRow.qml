@@ -1,0 +1,67 @@
+import QtQuick
+import Tidewell
+
+/// An entry of the sidebar. The active one is filled with its section's colour and glows.
+Pressable {
+    id: root
+
+    property string symbol
+    property alias label: root.text
+    property bool isActive: false
+    property sectionPalette sectionPalette: Ambient.palette
+
+    implicitHeight: 42
+    leftPadding: 10
+    rightPadding: 12
+    cornerRadius: 11
+    pressedScale: 0.985
+    focusGap: 2
+
+    Accessible.role: Accessible.PageTab
+    Accessible.selectable: true
+    Accessible.selected: isActive
+
+    background: Item {
+        GlowBox {
+            anchors.fill: parent
+            visible: root.isActive
+            cornerRadius: root.cornerRadius
+            reach: 24
+            glow: Theme.withOpacity(root.sectionPalette.primary, 0.45)
+            fillTop: Qt.tint(root.sectionPalette.primary, Qt.rgba(1, 1, 1, 0.10))
+            fillBottom: Qt.tint(root.sectionPalette.primary, Qt.rgba(0, 0, 0, 0.19))
+            rim: Qt.rgba(1, 1, 1, 0.20)
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: root.cornerRadius
+            color: Theme.hoverFill
+            opacity: root.isActive ? 0 : root.lift
+        }
+    }
+
+    contentItem: Item {
+        GlossyBlob {
+            id: blob
+            anchors.verticalCenter: parent.verticalCenter
+            size: 26
+            symbol: root.symbol
+            sectionPalette: root.sectionPalette
+            wobbles: false
+            glow: root.isActive ? 0 : 0.22
+        }
+        Label {
+            anchors.left: blob.right
+            anchors.leftMargin: 12
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.label
+            size: 13.5
+            weight: root.isActive ? Font.DemiBold : Font.Medium
+            color: root.isActive ? Theme.textOn(root.sectionPalette.primary)
+                                 : Theme.withOpacity(Theme.text, 0.74 + 0.20 * root.lift)
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+}
