@@ -6,6 +6,7 @@
 
 #include "async/background.h"
 #include "cleanup/project_artifacts.h"
+#include "cleanup/stored_sums.h"
 #include "cleanup/target_catalogue.h"
 #include "platform/dates.h"
 
@@ -20,8 +21,8 @@ auto isIn(CleanupCategory category) {
 /// Adds a clean's result to what the program keeps for good.
 void storeCleanup(UserDefaults defaults, ByteCount freed, Date at) {
     const std::chrono::duration<double> sinceEpoch = at.time_since_epoch();
-    defaults.add("totalFreedBytes", freed);
-    defaults.setReal("lastCleanupAt", sinceEpoch.count());
+    defaults.add(totalFreedBytesKey, freed);
+    defaults.setReal(lastCleanupAtKey, sinceEpoch.count());
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "async/background.h"
 #include "cleanup/project_artifacts.h"
+#include "cleanup/stored_sums.h"
 #include "devmode/dev_targets.h"
 
 namespace tidewell {
@@ -82,7 +83,7 @@ Task<> DevModeViewModel::clean() {
     failedTitles = std::move(outcome.failedTitles);
 
     auto storing = background([defaults = defaults_, freed = outcome.freedBytes]() mutable {
-        return defaults.add("totalFreedBytes", freed);
+        return defaults.add(totalFreedBytesKey, freed);
     });
     co_await storing;
     phase = Phase::done;

@@ -1,3 +1,4 @@
+#include "cleanup/stored_sums.h"
 #include "cli/commands/commands.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
@@ -30,8 +31,8 @@ Status readStatus(const Host& host) {
         std::make_shared<PermissionsModel>(host, desktopWorkspace(host), neverActivated);
     return {
         .theme = std::make_shared<ThemeEngine>(host, neverActivated),
-        .totalFreedBytes = defaults.integer("totalFreedBytes"),
-        .lastCleanup = lastCleanupDate(defaults.real("lastCleanupAt")),
+        .totalFreedBytes = defaults.integer(totalFreedBytesKey),
+        .lastCleanup = lastCleanupDate(defaults.real(lastCleanupAtKey)),
         .hasFullDiskAccess = permissions->hasFullDiskAccess(),
         .isDeveloper = isDeveloperMachine(host),
     };
