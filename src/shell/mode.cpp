@@ -1,5 +1,7 @@
 #include "shell/mode.h"
 
+#include <algorithm>
+
 namespace tidewell {
 
 std::string_view title(Mode mode) {
@@ -40,6 +42,31 @@ std::string_view symbol(Mode mode) {
             return "wand.and.stars";
     }
     return {};
+}
+
+SectionAccent accent(Mode mode) {
+    switch (mode) {
+        case Mode::home:
+        case Mode::clean:
+            return SectionAccent::green;
+        case Mode::devMode:
+            return SectionAccent::cyan;
+        case Mode::apps:
+            return SectionAccent::violet;
+        case Mode::performance:
+            return SectionAccent::teal;
+        case Mode::deepScan:
+            return SectionAccent::blue;
+        case Mode::advisor:
+            return SectionAccent::amber;
+    }
+    return defaultSectionAccent;
+}
+
+std::optional<Mode> modeNamed(std::string_view name) {
+    const auto found = std::ranges::find(allModes, name, title);
+    if (found == allModes.end()) return std::nullopt;
+    return *found;
 }
 
 }  // namespace tidewell

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
+
+#include "shell/section_palette.h"
 
 namespace tidewell {
 
@@ -17,5 +20,10 @@ inline constexpr std::array allModes = {
 std::string_view title(Mode mode);
 
 std::string_view symbol(Mode mode);
+
+SectionAccent accent(Mode mode);
+
+/// The section of exactly that name, if there is one.
+std::optional<Mode> modeNamed(std::string_view name);
 
 }  // namespace tidewell

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "shell/content_view.h"
+
+namespace tidewell {
+
+// Every word and condition of the main window around its screens. Pure.
+
+inline constexpr std::string_view windowTitle = "Tidewell";
+inline constexpr std::string_view accessTitle = "Full Disk Access";
+inline constexpr std::string_view accessLine = "Grant access to unlock all cleaning features.";
+inline constexpr std::string_view accessSymbol = "lock.shield.fill";
+inline constexpr std::string_view accessGrantedSymbol = "checkmark.shield.fill";
+inline constexpr std::string_view enableAccessLabel = "Enable Access";
+inline constexpr std::string_view aboutLabel = "About Tidewell";
+inline constexpr std::string_view aboutSymbol = "info.circle";
+
+struct SidebarRowContent {
+    Mode mode;
+    std::string_view symbol;
+    std::string_view label;
+    bool isActive;
+
+    bool operator==(const SidebarRowContent&) const = default;
+};
+
+struct WindowContent {
+    std::vector<SidebarRowContent> rows;
+    /// The view in the detail area. The Clean tool has one for each step of its way.
+    std::string_view detailView;
+    SectionAccent accent;  ///< of the section in the detail area
+    bool hasFullDiskAccess;
+};
+
+WindowContent windowContent(const ContentView& view);
+
+}  // namespace tidewell

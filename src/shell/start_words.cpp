@@ -1,0 +1,44 @@
+#include "shell/start_words.h"
+
+#include <string_view>
+
+#include "shell/opened_url.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr std::string_view usage =
+    "Usage: tidewell [--root DIR] [--home DIR] [URL]\n"
+    "\n"
+    "  --root DIR  Work on a machine that lies in this folder\n"
+    "  --home DIR  Work on this home folder\n"
+    "  --help      Print this and end\n"
+    "  URL         tidewell://scan scans everything\n";
+
+StartEnding wrongCall(const std::string& problem) {
+    return {StartEnding::Reason::wrongCall, "tidewell: " + problem + "\n" + std::string(usage)};
+}
+
+}  // namespace
+
+std::variant<StartWish, StartEnding> parseStartWords(const std::vector<std::string>& words) {
+    StartWish wish;
+    for (auto word = words.begin(); word != words.end(); ++word) {
+        if (*word == "--help" || *word == "-h")
+            return StartEnding{StartEnding::Reason::asked, std::string(usage)};
+        if (*word == "--root" || *word == "--home") {
+            auto& folder = *word == "--root" ? wish.host.root : wish.host.home;
+            const auto name = *word;
+            if (++word == words.end()) return wrongCall(name + " needs a folder");
+            folder = *word;
+        } else if (urlHost(*word)) {
+            wish.url = *word;
+        } else {
+            return wrongCall("what is \"" + *word + "\"?");
+        }
+    }
+    return wish;
+}
+
+}  // namespace tidewell
