@@ -14,10 +14,19 @@ namespace tidewell {
 inline constexpr std::string_view nothingToCleanTitle = "Nothing to clean";
 inline constexpr std::string_view nothingToCleanLine = "Zero junk found. Your Mac's already tidy.";
 inline constexpr std::string_view nothingToCleanSymbol = "checkmark.seal.fill";
+inline constexpr std::string_view scanAgainLabel = "Scan Again";
 inline constexpr std::string_view reviewSubtitle =
     "Green is safe and pre-ticked. Nothing goes until you hit Clean Up.";
+inline constexpr std::string_view safeOnlyLabel = "Safe only";
 inline constexpr std::string_view safeOnlyTooltip =
     "Select every safe item, deselect the review-gated ones";
+inline constexpr std::string_view smartLabel = "Smart";
+inline constexpr std::string_view allLabel = "All";
+inline constexpr std::string_view noneLabel = "None";
+inline constexpr std::string_view backLabel = "Back";
+inline constexpr std::string_view cleanUpLabel = "Clean Up";
+inline constexpr std::string_view cleanUpSymbol = "sparkles";
+inline constexpr std::string_view freeAfterSymbol = "arrow.up.right";
 inline constexpr std::string_view nothingPickedHint =
     "Nothing picked yet. Tap rows or hit “Safe only”.";
 inline constexpr std::string_view reviewBadge = "Review";
@@ -43,6 +52,8 @@ struct CategoryRowContent {
     std::size_t selectedCount;
     ByteCount bytes;
     bool isViewing;
+
+    bool operator==(const CategoryRowContent&) const = default;
 };
 
 struct ItemChipContent {
@@ -52,6 +63,8 @@ struct ItemChipContent {
     std::string size;
     bool isOn;
     bool hasReviewBadge;
+
+    bool operator==(const ItemChipContent&) const = default;
 };
 
 struct ReviewContent {

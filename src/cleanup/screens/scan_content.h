@@ -13,10 +13,17 @@ namespace tidewell {
 // (during and after a clean). Pure.
 
 inline constexpr std::string_view scanButtonLabel = "Scan My Mac";
+inline constexpr std::string_view scanSymbol = "sparkles";
+inline constexpr std::string_view scanningWord = "scanning";
+inline constexpr std::string_view soFarSymbol = "arrow.up.right";
 inline constexpr std::string_view allCleanTitle = "All clean!";
 inline constexpr std::string_view allCleanLine = "Your Mac just got lighter.";
 inline constexpr std::string_view cleaningTitle = "Cleaning";
+inline constexpr std::string_view cleaningSymbol = "sparkles";
+inline constexpr std::string_view freeSpaceSymbol = "arrow.right";
 inline constexpr std::string_view notCleanedTitle = "A few items wouldn't budge";
+inline constexpr std::string_view notCleanedSymbol = "exclamationmark.triangle.fill";
+inline constexpr std::string_view doneLabel = "Done";
 
 /// A fraction as a whole percent, cut and not rounded: "99%" until the very end.
 std::string percentText(double fraction);
