@@ -1,0 +1,211 @@
+#include "platform/single_instance.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
+#include <thread>
+
+#include "platform/path_text.h"
+#include "platform/posix/descriptor.h"
+
+namespace tidewell {
+
+namespace {
+
+using posix::Descriptor;
+
+constexpr std::size_t longestMessage = 4096;
+constexpr timeval patience{.tv_sec = 2, .tv_usec = 0};
+/// The first start may hold the lock and not listen yet.
+constexpr int connectionAttempts = 60;
+constexpr std::chrono::milliseconds attemptInterval(50);
+constexpr char taken = '+';
+
+/// The user's own folder for what lives as long as the session; empty if there is none that nobody
+/// else can write to.
+std::string runtimeFolder() {
+    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    struct stat status;
+    if (!folder || folder[0] != '/' || ::stat(folder, &status) != 0) return {};
+    const bool isOwn = S_ISDIR(status.st_mode) && status.st_uid == ::getuid() &&
+                       (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+    return isOwn ? folder : std::string();
+}
+
+/// One name for each machine that the program is run for (FNV-1a of its two folders).
+std::string machineName(const Host& host) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char byte : host.root + '\n' + host.home)
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
+    std::array<char, 32> name{};
+    std::snprintf(name.data(), name.size(), "tidewell-%016llx",
+                  static_cast<unsigned long long>(hash));
+    return name.data();
+}
+
+Descriptor openLockFile(const std::string& path) {
+    return Descriptor(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+}
+
+bool isHeldByAnother(const Descriptor& file) {
+    return ::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+}
+
+Descriptor localSocket() {
+    return Descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+}
+
+std::optional<sockaddr_un> socketAddress(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= sizeof(address.sun_path)) return std::nullopt;
+    path.copy(address.sun_path, path.size());
+    return address;
+}
+
+/// For the holder of the lock alone: what stands there was left behind by one that is gone.
+Descriptor listeningSocket(const std::string& path) {
+    const auto address = socketAddress(path);
+    auto socket = localSocket();
+    if (!address || !socket) return Descriptor();
+    ::unlink(path.c_str());
+    const auto* generic = reinterpret_cast<const sockaddr*>(&*address);
+    // The mode is that of the descriptor, so that the socket never stands there more open.
+    if (::fchmod(socket.get(), 0600) != 0 || ::bind(socket.get(), generic, sizeof(*address)) != 0 ||
+        ::listen(socket.get(), 8) != 0)
+        return Descriptor();
+    return socket;
+}
+
+bool isOwnProcess(const Descriptor& connection) {
+    ucred peer{};
+    socklen_t size = sizeof(peer);
+    return ::getsockopt(connection.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           peer.uid == ::getuid();
+}
+
+void limitWaiting(const Descriptor& connection) {
+    for (const int direction : {SO_RCVTIMEO, SO_SNDTIMEO})
+        ::setsockopt(connection.get(), SOL_SOCKET, direction, &patience, sizeof(patience));
+}
+
+/// All up to the sender's end; absent if it did not come to it, or sent too much.
+std::optional<std::string> readMessage(const Descriptor& connection) {
+    std::string message;
+    std::array<char, 512> part;
+    while (message.size() <= longestMessage) {
+        const auto count =
+            posix::retrying([&] { return ::recv(connection.get(), part.data(), part.size(), 0); });
+        if (count < 0) return std::nullopt;
+        if (count == 0) return message;
+        message.append(part.data(), static_cast<std::size_t>(count));
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> receive(const Descriptor& connection) {
+    if (!connection || !isOwnProcess(connection)) return std::nullopt;
+    limitWaiting(connection);
+    return readMessage(connection);
+}
+
+bool sendAll(const Descriptor& connection, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto count = posix::retrying(
+            [&] { return ::send(connection.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL); });
+        if (count <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return ::shutdown(connection.get(), SHUT_WR) == 0;
+}
+
+Descriptor connectTo(const std::string& path) {
+    const auto address = socketAddress(path);
+    if (!address) return Descriptor();
+    const auto* generic = reinterpret_cast<const sockaddr*>(&*address);
+    for (int attempt = 0; attempt < connectionAttempts; ++attempt) {
+        auto socket = localSocket();
+        if (socket && ::connect(socket.get(), generic, sizeof(*address)) == 0) return socket;
+        std::this_thread::sleep_for(attemptInterval);
+    }
+    return Descriptor();
+}
+
+}  // namespace
+
+struct SingleInstance::Link {
+    std::string socketPath;
+    Descriptor lock;
+    bool isFirst = true;
+    Descriptor listening;
+    std::array<Descriptor, 2> end;  ///< a pipe whose closing ends the thread
+    std::thread thread;
+
+    void run(const std::function<void(std::string)>& received) const;
+};
+
+void SingleInstance::Link::run(const std::function<void(std::string)>& received) const {
+    std::array<pollfd, 2> waiting{{{listening.get(), POLLIN, 0}, {end[0].get(), POLLIN, 0}}};
+    while (true) {
+        if (posix::retrying([&] { return ::poll(waiting.data(), waiting.size(), -1); }) < 0) return;
+        if (waiting[1].revents != 0) return;
+        const Descriptor connection(::accept4(listening.get(), nullptr, nullptr, SOCK_CLOEXEC));
+        if (auto message = receive(connection)) {
+            ::send(connection.get(), &taken, 1, MSG_NOSIGNAL);
+            received(std::move(*message));
+        }
+    }
+}
+
+SingleInstance::SingleInstance(const Host& host) : link_(std::make_unique<Link>()) {
+    const auto folder = runtimeFolder();
+    if (folder.empty()) return;
+    const auto name = joinPath(folder, machineName(host));
+    link_->socketPath = name + ".socket";
+    link_->lock = openLockFile(name + ".lock");
+    link_->isFirst = !link_->lock || !isHeldByAnother(link_->lock);
+}
+
+SingleInstance::~SingleInstance() {
+    link_->end[1] = Descriptor();
+    if (link_->thread.joinable()) link_->thread.join();
+}
+
+SingleInstance::Role SingleInstance::role() const {
+    return link_->isFirst ? Role::first : Role::later;
+}
+
+void SingleInstance::listen(std::function<void(std::string)> received) {
+    if (!link_->lock || !link_->isFirst) return;
+    std::array<int, 2> ends{};
+    link_->listening = listeningSocket(link_->socketPath);
+    if (!link_->listening || ::pipe2(ends.data(), O_CLOEXEC) != 0) return;
+    link_->end = {Descriptor(ends[0]), Descriptor(ends[1])};
+    link_->thread =
+        std::thread([link = link_.get(), received = std::move(received)] { link->run(received); });
+}
+
+SingleInstance::Delivery SingleInstance::send(const std::string& message) const {
+    const auto connection = connectTo(link_->socketPath);
+    if (!connection || !isOwnProcess(connection)) return Delivery::failed;
+    limitWaiting(connection);
+    if (!sendAll(connection, message)) return Delivery::failed;
+    char answer = 0;
+    const auto count = posix::retrying([&] { return ::recv(connection.get(), &answer, 1, 0); });
+    return count == 1 && answer == taken ? Delivery::taken : Delivery::failed;
+}
+
+}  // namespace tidewell
