@@ -2,13 +2,15 @@
 
 #include <array>
 
-namespace tidewell::FolderKnowledge {
+namespace tidewell {
 
 namespace {
 
+using Verdict = FolderKnowledge::Verdict;
+
 struct KnownFolder {
     std::string_view name;
-    Fact fact;
+    FolderKnowledge::Fact fact;
 };
 
 /// Folders known by their whole name.
@@ -122,7 +124,7 @@ static_assert(namesAreUnique());
 
 }  // namespace
 
-std::optional<Fact> fact(std::string_view name) {
+std::optional<FolderKnowledge::Fact> FolderKnowledge::fact(std::string_view name) {
     for (const auto& known : knownNames)
         if (name == known.name) return known.fact;
     for (const auto& known : knownParts)
@@ -130,4 +132,4 @@ std::optional<Fact> fact(std::string_view name) {
     return std::nullopt;
 }
 
-}  // namespace tidewell::FolderKnowledge
+}  // namespace tidewell

@@ -5,7 +5,7 @@
 namespace tidewell::test {
 namespace {
 
-using FolderKnowledge::Verdict;
+using Verdict = FolderKnowledge::Verdict;
 
 TEST(FolderKnowledge, MatchesWholeNamesExactlyAndTwoPartsAnywhere) {
     for (const auto name : {"", "google", "GOOGLE", "Google ", "com.adobe.dunamis.1",
