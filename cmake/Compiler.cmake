@@ -29,8 +29,11 @@ target_link_libraries(tidewell_compile_options INTERFACE Threads::Threads)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND TIDEWELL_SANITIZE)
   target_compile_options(tidewell_compile_options INTERFACE -Wno-maybe-uninitialized)
 endif()
+# Such a build is made to be run once: what counts is how soon it is there, above all for the tests,
+# which are most of it.
 if(TIDEWELL_SANITIZE)
   target_compile_options(tidewell_compile_options INTERFACE
-    -fsanitize=${TIDEWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -fsanitize=${TIDEWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
+    -g1 $<IF:$<BOOL:$<TARGET_PROPERTY:TIDEWELL_IS_TEST>>,-O0,-O1>)
   target_link_options(tidewell_compile_options INTERFACE -fsanitize=${TIDEWELL_SANITIZE})
 endif()
