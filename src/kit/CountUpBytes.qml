@@ -14,7 +14,7 @@ Row {
     property color color: Theme.text
 
     /// Share of the duration that has passed.
-    property real passed: 0
+    property real passed
     readonly property bool finished: passed >= 1
     readonly property string shown: Kit.byteText(Math.trunc((1 - Math.pow(1 - passed, 3)) * target))
     readonly property int unitAt: shown.lastIndexOf(" ")
@@ -31,7 +31,7 @@ Row {
     NumberAnimation on passed {
         from: 0
         to: 1
-        duration: root.duration * 1000
+        duration: Math.max(0, root.duration) * 1000
         running: root.counts && !root.finished
     }
 

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
@@ -15,7 +16,7 @@ Row {
     readonly property real ascent: metrics.ascent
 
     /// Large figures stand closer.
-    readonly property real digitWidth: metrics.advanceWidth("0") - (size < 20 ? 0 : size * 0.035)
+    readonly property real digitWidth: zero.advanceWidth - (size < 20 ? 0 : size * 0.035)
 
     height: metrics.height
     Accessible.role: Accessible.StaticText
@@ -28,21 +29,34 @@ Row {
         font.pixelSize: root.size
     }
 
+    TextMetrics {
+        id: zero
+        font: metrics.font
+        text: "0"
+    }
+
     Repeater {
         model: root.text.length
 
-        Label {
-            required property int index
-            readonly property bool isDigit: text >= "0" && text <= "9"
+        Item {
+            id: cell
 
-            width: isDigit ? root.digitWidth : implicitWidth
-            horizontalAlignment: Text.AlignHCenter
-            text: root.text.charAt(index)
-            size: root.size
-            weight: root.weight
-            isRounded: root.isRounded
-            color: root.color
-            Accessible.ignored: true
+            required property int index
+            readonly property bool isDigit: glyph.text >= "0" && glyph.text <= "9"
+
+            width: isDigit ? root.digitWidth : glyph.implicitWidth
+            height: glyph.height
+
+            Label {
+                id: glyph
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: root.text.charAt(cell.index)
+                size: root.size
+                weight: root.weight
+                isRounded: root.isRounded
+                color: root.color
+                Accessible.ignored: true
+            }
         }
     }
 }

@@ -20,15 +20,15 @@ T.AbstractButton {
     opacity: enabled ? 1 : 0.4
     scale: pressed ? pressedScale : 1
 
-    Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: description
+    Accessible.onPressAction: if (enabled) clicked()
 
     Keys.onPressed: event => {
         const isEnter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
         event.accepted = isEnter
         if (isEnter && !event.isAutoRepeat)
-            click()
+            clicked()
     }
 
     Behavior on lift {

@@ -48,33 +48,37 @@ Item {
         layer.smooth: true
     }
 
-    component PlainArc: ShapePath {
-        id: arc
-        property real share
-        fillColor: "transparent"
-        strokeWidth: root.lineWidth
-        PathAngleArc {
-            centerX: root.diameter / 2
-            centerY: root.diameter / 2
-            radiusX: (root.diameter - root.lineWidth) / 2
-            radiusY: radiusX
-            startAngle: root.start * 360 - 90
-            sweepAngle: arc.share * root.span * 360
-        }
-    }
-
     Shape {
         anchors.fill: parent
         visible: !root.hasShaders
-        PlainArc {
-            share: 1
+
+        ShapePath {
             strokeColor: Theme.track
+            strokeWidth: root.lineWidth
+            fillColor: "transparent"
             capStyle: ShapePath.FlatCap
+            PathAngleArc {
+                centerX: root.diameter / 2
+                centerY: root.diameter / 2
+                radiusX: (root.diameter - root.lineWidth) / 2
+                radiusY: radiusX
+                startAngle: root.start * 360 - 90
+                sweepAngle: root.span * 360
+            }
         }
-        PlainArc {
-            share: root.fill
+        ShapePath {
             strokeColor: root.sectionPalette.primary
+            strokeWidth: root.lineWidth
+            fillColor: "transparent"
             capStyle: ShapePath.RoundCap
+            PathAngleArc {
+                centerX: root.diameter / 2
+                centerY: root.diameter / 2
+                radiusX: (root.diameter - root.lineWidth) / 2
+                radiusY: radiusX
+                startAngle: root.start * 360 - 90
+                sweepAngle: root.fill * root.span * 360
+            }
         }
     }
 }

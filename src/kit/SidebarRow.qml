@@ -17,7 +17,6 @@ Pressable {
     pressedScale: 0.985
     focusGap: 2
 
-    Accessible.role: Accessible.PageTab
     Accessible.selectable: true
     Accessible.selected: isActive
 
@@ -42,7 +41,6 @@ Pressable {
 
     contentItem: Item {
         GlossyBlob {
-            id: blob
             anchors.verticalCenter: parent.verticalCenter
             size: 26
             symbol: root.symbol
@@ -51,8 +49,8 @@ Pressable {
             glow: root.isActive ? 0 : 0.22
         }
         Label {
-            anchors.left: blob.right
-            anchors.leftMargin: 12
+            anchors.left: parent.left
+            anchors.leftMargin: 38
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: root.label

@@ -1,31 +1,210 @@
 #include <gtest/gtest.h>
 
-#include <QtGui/qguiapplication.h>
-#include <QtQml/qqmlcomponent.h>
-#include <QtQml/qqmlengine.h>
+#include <QtGui/qaccessible.h>
+#include <QtGui/qevent.h>
 
-#include <memory>
+#include <vector>
 
-#include "kit/qt/module.h"
+#include "kit/qt/motion.h"
+#include "stage.h"
 
-namespace tidewell {
+namespace tidewell::test {
 namespace {
 
-TEST(Components, AreFoundInTheModule) {
-    QQmlEngine engine;
-    importTidewellModule(engine);
-    QQmlComponent component(&engine);
-    component.setData("import Tidewell\nLabel { text: 'x' }", QUrl());
-    const std::unique_ptr<QObject> label(component.create());
-    ASSERT_TRUE(label) << component.errorString().toStdString();
+void press(QQuickWindow& window, Qt::Key key) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    Stage::turn();
+}
+
+QAccessibleInterface* accessible(QQuickItem* item) {
+    return QAccessible::queryAccessibleInterface(item);
+}
+
+struct Spoken {
+    const char* text;
+    QAccessible::Role role;
+    const char* name;
+};
+
+TEST(Components, TellAssistiveToolsWhatTheyAre) {
+    Stage stage;
+    const std::vector<Spoken> rows = {
+        {"PillButton { text: 'Scan My Mac'; symbol: 'sparkles' }", QAccessible::Button,
+         "Scan My Mac"},
+        {"GhostPillButton { text: 'Back' }", QAccessible::Button, "Back"},
+        {"ScanCircleButton { title: 'Deep Scan'; symbol: 'scope' }", QAccessible::Button,
+         "Deep Scan"},
+        {"SidebarRow { label: 'Apps'; isActive: true }", QAccessible::Button, "Apps"},
+        {"GradientBar { fraction: 0.5 }", QAccessible::ProgressBar, ""},
+        {"FigureText { text: '42%' }", QAccessible::StaticText, "42%"},
+        {"CountUpBytes { target: 2500000 }", QAccessible::StaticText, "2.5 MB"},
+        {"BrandLogo {}", QAccessible::Graphic, "Tidewell"},
+        {"BrandLogo { asset: BrandLogo.Mark }", QAccessible::Graphic, "Tidewell"},
+    };
+    for (const auto& row : rows) {
+        auto* interface = accessible(stage.put(row.text));
+        ASSERT_TRUE(interface) << row.text;
+        EXPECT_EQ(interface->role(), row.role) << row.text;
+        EXPECT_EQ(interface->text(QAccessible::Name), row.name);
+    }
+    EXPECT_TRUE(accessible(stage.put("SidebarRow { isActive: true }"))->state().selected);
+}
+
+TEST(Components, StandWithExtremeInputsWithoutComplaint) {
+    Stage stage;
+    for (const auto* text : {
+             "AmbientBackground { width: 400; height: 300 }",
+             "GlowCard { Label { text: 'x' } }",
+             "GlowCard { width: 0; height: 0; featured: true; vivid: true }",
+             "ScreenHeader { title: 'Overview'; width: 20 }",
+             "IconChip { symbol: 'sparkles' }",
+             "IconChip { symbol: 'no such symbol'; size: 0 }",
+             "GlossyBlob { symbol: '' }",
+             "Donut { used: 2; Label { text: 'x' } }",
+             "RingGauge { progress: -1; diameter: 0 }",
+             "DotGauge { used: NaN }",
+             "PillButton {}",
+             "PillButton { width: 10; text: 'long' }",
+             "FigureText { text: '' }",
+             "CountUpBytes { target: -1; duration: -1 }",
+         })
+        stage.put(text);
+}
+
+TEST(Gauges, DrawNoMoreThanTheWholeAndNeverNothing) {
+    Stage stage;
+    const struct {
+        const char* input;
+        double fill;
+    } rows[] = {{"-1", 0.001}, {"0", 0.001}, {"0.25", 0.25}, {"1", 1}, {"7", 1}};
+    for (const auto& row : rows) {
+        auto* ring = stage.put(QString("RingGauge { progress: %1 }").arg(row.input));
+        EXPECT_DOUBLE_EQ(ring->property("fill").toDouble(), row.fill);
+        EXPECT_DOUBLE_EQ(ring->property("gradientSpan").toDouble(), row.fill);
+        auto* donut = stage.put(QString("Donut { used: %1 }").arg(row.input));
+        EXPECT_DOUBLE_EQ(donut->property("fill").toDouble(), row.fill);
+        EXPECT_DOUBLE_EQ(donut->property("gradientSpan").toDouble(), 1);
+    }
+    auto* bar = stage.put("GradientBar { fraction: 3; width: 90 }");
+    EXPECT_DOUBLE_EQ(bar->childItems().first()->width(), 90);
+}
+
+TEST(Buttons, ArePressedByKeysAndByAssistiveToolsUnlessDisabled) {
+    Stage stage;
+    for (const auto* kind : {"PillButton", "GhostPillButton", "ScanCircleButton", "SidebarRow"}) {
+        auto* button =
+            stage.put(QString("%1 { property int count; onClicked: ++count }").arg(kind));
+        button->forceActiveFocus(Qt::TabFocusReason);
+        ASSERT_TRUE(button->hasActiveFocus()) << kind;
+        int expected = 0;
+        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+            press(stage.window(), key);
+            EXPECT_EQ(button->property("count").toInt(), ++expected) << kind << " " << key;
+        }
+        auto* actions = accessible(button)->actionInterface();
+        ASSERT_TRUE(actions) << kind;
+        actions->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(button->property("count").toInt(), ++expected) << kind;
+
+        button->setEnabled(false);
+        press(stage.window(), Qt::Key_Return);
+        press(stage.window(), Qt::Key_Space);
+        EXPECT_EQ(button->property("count").toInt(), expected) << kind;
+    }
+}
+
+TEST(Buttons, AreReachedWithTabAndShowIt) {
+    Stage stage;
+    auto* row = stage.put("Row { PillButton { text: 'a' } GhostPillButton { text: 'b' } }");
+    row->childItems().first()->forceActiveFocus(Qt::TabFocusReason);
+    press(stage.window(), Qt::Key_Tab);
+    auto* second = row->childItems().at(1);
+    ASSERT_TRUE(second->hasActiveFocus());
+    EXPECT_TRUE(second->property("visualFocus").toBool());
+    int rings = 0;
+    for (const auto* child : second->childItems())
+        if (QString(child->metaObject()->className()).startsWith("FocusRing") && child->isVisible())
+            ++rings;
+    EXPECT_EQ(rings, 1);
+}
+
+QColor accentOf(QQuickItem* item) {
+    return item->property("accent").value<QColor>();
+}
+
+TEST(Ambient, HoldsForAllInsideUntilAnotherIsSet) {
+    Stage stage;
+    auto* inside = stage.make("Item { property color accent: Ambient.palette.primary }");
+    const auto green = accentOf(inside);
+
+    auto* outer = stage.put(
+        "Item { Ambient.palette: Kit.blue; property color accent: "
+        "Ambient.palette.primary; Item { Item {} } }");
+    const auto blue = accentOf(outer);
+    EXPECT_NE(green, blue);
+
+    inside->setParentItem(outer->childItems().first()->childItems().first());
+    EXPECT_EQ(accentOf(inside), blue) << "a tree that is put into another one";
+    auto* between = stage.make(
+        "Item { Ambient.palette: isViolet ? Kit.violet : undefined; "
+        "property bool isViolet: true }");
+    inside->setParentItem(between);
+    between->setParentItem(outer);
+    EXPECT_NE(accentOf(inside), blue);
+    between->setProperty("isViolet", false);
+    EXPECT_EQ(accentOf(inside), blue) << "what was set is taken back";
+    inside->setParentItem(nullptr);
+    EXPECT_EQ(accentOf(inside), green);
+}
+
+TEST(Motion, StandsStillWhereTheProcessorDraws) {
+    Stage stage;
+    auto* canvas = stage.put("AmbientBackground { width: 100; height: 100; time: 5 }");
+    stage.window().grabWindow();
+    Stage::turn();
+    EXPECT_EQ(canvas->property("t").toDouble(), 0);
+    auto* blob = stage.put("GlossyBlob { symbol: 'scope'; time: 3 }");
+    EXPECT_EQ(blob->rotation(), 0);
+    EXPECT_EQ(blob->scale(), 1);
+    auto* figure = stage.put("CountUpBytes { target: 5000; duration: 100 }");
+    EXPECT_TRUE(figure->property("finished").toBool());
+    EXPECT_EQ(figure->property("shown").toString(), "5 KB");
+}
+
+TEST(Motion, StandsStillWhenTheUserWantsLess) {
+    Stage stage;
+    auto* canvas = stage.make("AmbientBackground { time: 5 }");
+    auto* figure = stage.make("CountUpBytes { target: 5000; duration: 100 }");
+    EXPECT_EQ(canvas->property("t").toDouble(), 5);
+    EXPECT_FALSE(figure->property("finished").toBool());
+    Motion::setReduced(true);
+    EXPECT_EQ(canvas->property("t").toDouble(), 0);
+    EXPECT_TRUE(figure->property("finished").toBool());
+    Motion::setReduced(false);
+}
+
+TEST(CountUpBytes, EasesOutAndFollowsItsTarget) {
+    Stage stage;
+    auto* figure = stage.make("CountUpBytes { target: 8000; duration: 100 }");
+    figure->setProperty("passed", 0.5);
+    EXPECT_EQ(figure->property("shown").toString(), "7 KB");
+    figure->setProperty("target", 16000);
+    EXPECT_EQ(figure->property("shown").toString(), "14 KB");
+    figure->setProperty("passed", 1);
+    EXPECT_EQ(figure->property("shown").toString(), "16 KB");
+}
+
+TEST(FigureText, GivesEveryDigitTheSameWidth) {
+    Stage stage;
+    const auto width = [&stage](const char* text) {
+        return stage.put(QString("FigureText { size: 30; text: '%1' }").arg(text))->implicitWidth();
+    };
+    EXPECT_DOUBLE_EQ(width("1111"), width("0847"));
+    EXPECT_LT(width("111."), width("1111"));
 }
 
 }  // namespace
-}  // namespace tidewell
-
-int main(int count, char** words) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(count, words);
-    testing::InitGoogleTest(&count, words);
-    return RUN_ALL_TESTS();
-}
+}  // namespace tidewell::test

@@ -18,7 +18,7 @@ class Ambient : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("holds at an item")
-    QML_ATTACHED(Ambient)
+    QML_ATTACHED(tidewell::Ambient)
     Q_PROPERTY(tidewell::PaletteValue palette READ palette WRITE setPalette RESET resetPalette
                    NOTIFY paletteChanged)
 

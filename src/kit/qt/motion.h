@@ -20,7 +20,7 @@ class Motion : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("holds at an item")
-    QML_ATTACHED(Motion)
+    QML_ATTACHED(tidewell::Motion)
     /// Whether what moves by itself may do so: the item's window is seen, is the active one and is
     /// drawn by a graphics card, and the user does not want less motion. Before the first frame:
     /// no.

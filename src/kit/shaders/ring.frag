@@ -55,16 +55,17 @@ void main() {
     float filled = clamp(fill, 0.0, 1.0) * span;
     if (filled > 0.0) {
         float d = distanceToArc(p, angle, filled, r);
+        float colors = max(gradientSpan, 0.06);  // the first dot is of one colour
         float along = fract(angle - start + 1.0);
         // The round end at the start lies before it, and has its colour.
         bool isBeforeStart = filled < 0.9995 && along > 0.5 + 0.5 * filled;
-        vec3 rgb = colorAt(isBeforeStart ? 0.0 : along / max(gradientSpan, 0.001));
+        vec3 rgb = colorAt(isBeforeStart ? 0.0 : along / colors);
         // The round end lies over the start where a full ring closes.
         float ahead = fract(along - filled + 1.0);
         float fromEnd = length(p - onCircle(start + filled, r));
         float cap = ahead < 0.5 ? clamp((halfWidth - fromEnd) / pixel + 0.5, 0.0, 1.0) : 0.0;
         rgb *= 1.0 - 0.35 * (ahead < 0.5 ? exp(-max(fromEnd - halfWidth, 0.0) * 4.0 / lineWidth) : 0.0);
-        rgb = mix(rgb, colorAt(filled / max(gradientSpan, 0.001)), cap);
+        rgb = mix(rgb, colorAt(filled / colors), cap);
 
         float outside = max(d - halfWidth, 0.0);
         float reach = (extent - diameter) * 0.5;
