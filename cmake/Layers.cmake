@@ -14,7 +14,7 @@ function(tidewell_layer name)
     list(APPEND sources ${found})
   endforeach()
   # A file that ends in _screen or lies in a folder qt belongs to the window, not to the engine.
-  list(FILTER sources EXCLUDE REGEX "_screen\\.(cpp|h)$|/qt/")
+  list(FILTER sources EXCLUDE REGEX "_screen\\.(cpp|h)$|/src/[a-z]+/qt/")
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${name} PUBLIC ${include_root})
