@@ -11,8 +11,9 @@ namespace tidewell {
 /// Links add nothing, and a path that is a link itself gives 0, so that a measure never leaves its
 /// tree through a link. Folders themselves add nothing; a file with several hard links counts each
 /// time it is met; mounts are crossed, but a folder that is its own ancestor is not entered again.
-/// What is missing, unreadable or vanishes adds nothing. Blocks the caller until the end; any
-/// thread; callers at once share one pool of workers, as many as the machine has cores.
+/// What is missing, unreadable or vanishes adds nothing. Neither depth nor width costs memory or
+/// descriptors without bound. Blocks the caller until the end; any thread; callers at once share
+/// one pool of threads, so that they get on with each other instead of crowding the machine.
 ByteCount allocatedSize(const std::string& path);
 
 }  // namespace tidewell
