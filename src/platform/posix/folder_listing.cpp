@@ -20,7 +20,7 @@ EntryType typeOfMode(mode_t mode) {
 }
 
 EntryType typeOf(int folder, const dirent& entry) {
-    if (entry.d_type != DT_UNKNOWN) return typeOfMode(DTTOIF(entry.d_type));
+    if (entry.d_type != DT_UNKNOWN) return typeOfMode(static_cast<mode_t>(DTTOIF(entry.d_type)));
     struct stat status;
     if (::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) return EntryType::other;
     return typeOfMode(status.st_mode);
