@@ -8,7 +8,7 @@ namespace tidewell::test {
 namespace {
 
 using Kind = BigItem::Kind;
-using FolderKnowledge::Verdict;
+using Verdict = FolderKnowledge::Verdict;
 
 TEST(BigItemScanner, ClassifiesByNameThenPlaceAndLetsAClearFactOverruleIt) {
     const std::pair<std::string_view, Kind> rows[] = {
