@@ -13,4 +13,6 @@ Text {
     font.pixelSize: size
     textFormat: Text.PlainText
     linkColor: color
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }
