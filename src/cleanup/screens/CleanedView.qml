@@ -1,0 +1,45 @@
+import QtQuick
+import Tidewell
+
+/// The Clean tool's last screen: how far the clean is, then what was won.
+FocusScope {
+    id: root
+
+    required property CleanedScreen screen
+
+    Column {
+        anchors.centerIn: parent
+        visible: root.screen.isCleaning
+        spacing: 28
+
+        ProgressRing {
+            anchors.horizontalCenter: parent.horizontalCenter
+            diameter: 190
+            share: root.screen.progress
+            percent: root.screen.percent
+            symbol: root.screen.cleaningSymbol
+            Accessible.name: root.screen.cleaningTitle
+        }
+        Label {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.screen.cleaningTitle
+            size: 22
+            weight: Font.Bold
+            font.letterSpacing: -0.3
+            Accessible.role: Accessible.Heading
+        }
+    }
+
+    // Made anew each time a clean has ended, so that its figures run again.
+    Loader {
+        anchors.centerIn: parent
+        active: !root.screen.isCleaning
+        focus: true
+        sourceComponent: Component {
+            CleanedResult {
+                focus: true
+                screen: root.screen
+            }
+        }
+    }
+}

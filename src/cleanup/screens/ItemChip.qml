@@ -1,0 +1,121 @@
+import QtQuick
+import Tidewell
+
+/// One item of the review. A click anywhere on it flips its tick.
+Pressable {
+    id: root
+
+    property string title
+    property string detail
+    property string size
+    property bool isOn: false
+    /// Said beside the title of what can cost the user something; empty for all else.
+    property string badge
+
+    readonly property color caution: "#ffa033"
+    readonly property color accent: Ambient.palette.primary
+
+    implicitHeight: contentItem.implicitHeight + 26
+    leftPadding: 16
+    rightPadding: 18
+    cornerRadius: 14
+    pressedScale: 0.995
+    text: title
+    description: (badge === "" ? "" : badge + ". ") + size + ". " + detail
+    checkable: true
+    checked: isOn
+
+    background: Rectangle {
+        radius: root.cornerRadius
+        border.width: 1
+        border.color: root.isOn ? Theme.withOpacity(root.accent, 0.42 + 0.20 * root.lift)
+                                : Qt.rgba(1, 1, 1, 0.05 + 0.08 * root.lift)
+        gradient: Gradient {
+            GradientStop {
+                position: 0
+                color: root.isOn ? Theme.withOpacity(root.accent, 0.125 + 0.04 * root.lift)
+                                 : Qt.rgba(1, 1, 1, 0.050 + 0.03 * root.lift)
+            }
+            GradientStop {
+                position: 1
+                color: root.isOn ? Theme.withOpacity(root.accent, 0.065 + 0.03 * root.lift)
+                                 : Qt.rgba(1, 1, 1, 0.030 + 0.02 * root.lift)
+            }
+        }
+    }
+
+    contentItem: Item {
+        implicitHeight: column.implicitHeight
+
+        CheckControl {
+            id: check
+            anchors.verticalCenter: parent.verticalCenter
+            mark: root.isOn ? CheckControl.On : CheckControl.Off
+            lift: root.lift
+        }
+        Column {
+            id: column
+            anchors.left: check.right
+            anchors.leftMargin: 14
+            anchors.right: figure.left
+            anchors.rightMargin: 18
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 4
+
+            Row {
+                width: parent.width
+                spacing: 8
+
+                Label {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: Math.min(implicitWidth,
+                                    parent.width - (mark.visible ? mark.width + parent.spacing : 0))
+                    text: root.title
+                    size: 13.5
+                    weight: Font.Medium
+                    elide: Text.ElideRight
+                    Accessible.ignored: true
+                }
+                Rectangle {
+                    id: mark
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: root.badge !== ""
+                    width: badgeLabel.implicitWidth + 14
+                    height: 18
+                    radius: 6
+                    color: Theme.withOpacity(root.caution, 0.18)
+
+                    Label {
+                        id: badgeLabel
+                        anchors.centerIn: parent
+                        text: root.badge
+                        size: 10.5
+                        weight: Font.DemiBold
+                        color: root.caution
+                        Accessible.ignored: true
+                    }
+                }
+            }
+            Label {
+                width: parent.width
+                text: root.detail
+                size: 11.5
+                lineHeight: 1.15
+                color: Theme.secondary
+                wrapMode: Text.Wrap
+                maximumLineCount: 4
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+        FigureText {
+            id: figure
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.size
+            size: 13.5
+            weight: Font.DemiBold
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,120 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// What a scan has found: the one place where the user decides what goes.
+FocusScope {
+    id: root
+
+    required property ReviewScreen screen
+
+    readonly property real margin: 34
+
+    Component.onCompleted: screen.open()
+
+    NothingToClean {
+        anchors.centerIn: parent
+        visible: root.screen.isEmpty
+        focus: root.screen.isEmpty
+        screen: root.screen
+    }
+
+    Item {
+        anchors.fill: parent
+        visible: !root.screen.isEmpty
+
+        ScreenHeader {
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin
+            anchors.right: choices.left
+            anchors.rightMargin: 20
+            y: 30
+            title: root.screen.headline
+            subtitle: root.screen.subtitle
+        }
+        Row {
+            id: choices
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin
+            y: 36
+            spacing: 8
+
+            SmallButton {
+                id: safeOnly
+                text: root.screen.safeOnlyLabel
+                description: root.screen.safeOnlyTooltip
+                onClicked: root.screen.selectSafeOnly()
+
+                Tip {
+                    text: root.screen.safeOnlyTooltip
+                    visible: safeOnly.hovered
+                }
+            }
+            SmallButton {
+                text: root.screen.allLabel
+                onClicked: root.screen.selectAll()
+            }
+            SmallButton {
+                text: root.screen.noneLabel
+                onClicked: root.screen.selectNone()
+            }
+        }
+
+        Column {
+            id: categories
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin - 12
+            y: 112
+            width: 258
+            spacing: 6
+
+            Repeater {
+                model: root.screen.categories
+
+                CategoryRow {
+                    required property int index
+                    required symbol
+                    required title
+                    required line
+                    required mark
+                    required isViewing
+
+                    width: categories.width
+                    onClicked: root.screen.viewCategory(index)
+                    onToggled: root.screen.toggleCategory(index)
+                }
+            }
+        }
+
+        Rectangle {
+            id: divider
+            anchors.left: categories.right
+            anchors.leftMargin: 18
+            anchors.top: categories.top
+            anchors.bottom: bar.top
+            anchors.bottomMargin: 14
+            width: 1
+            color: Qt.rgba(1, 1, 1, 0.07)
+        }
+
+        ReviewItems {
+            anchors.left: divider.right
+            anchors.leftMargin: 22
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin - 12
+            anchors.top: categories.top
+            anchors.bottom: bar.top
+            focus: !root.screen.isEmpty
+            screen: root.screen
+        }
+
+        ReviewBar {
+            id: bar
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            margin: root.margin
+            screen: root.screen
+        }
+    }
+}

@@ -1,0 +1,108 @@
+#include "cleanup/screens/review_screen.h"
+
+#include <utility>
+
+namespace tidewell {
+
+namespace {
+
+std::string categoryKey(const CategoryRowContent& row) {
+    return std::string(row.title);
+}
+
+std::vector<ListModel<CategoryRowContent>::Role> categoryRoles() {
+    using Row = CategoryRowContent;
+    return {
+        {"symbol", [](const Row& row) { return toText(row.symbol); }},
+        {"title", [](const Row& row) { return toText(row.title); }},
+        {"line", [](const Row& row) { return toText(row.line); }},
+        {"mark", [](const Row& row) { return static_cast<int>(row.mark); }},
+        {"isViewing", [](const Row& row) { return row.isViewing; }},
+    };
+}
+
+std::string chipKey(const ItemChipContent& chip) {
+    return chip.id;
+}
+
+std::vector<ListModel<ItemChipContent>::Role> chipRoles() {
+    using Chip = ItemChipContent;
+    return {
+        {"title", [](const Chip& chip) { return toText(chip.title); }},
+        {"detail", [](const Chip& chip) { return toText(chip.detail); }},
+        {"size", [](const Chip& chip) { return toText(chip.size); }},
+        {"isOn", [](const Chip& chip) { return chip.isOn; }},
+        {"hasReviewBadge", [](const Chip& chip) { return chip.hasReviewBadge; }},
+    };
+}
+
+}  // namespace
+
+ReviewScreen::ReviewScreen(std::shared_ptr<CleanupViewModel> model,
+                           std::shared_ptr<ThemeEngine> theme, QObject* parent)
+    : Screen(parent),
+      model_(std::move(model)),
+      theme_(std::move(theme)),
+      categories_(categoryKey, categoryRoles(), this),
+      chips_(chipKey, chipRoles(), this) {
+    observe(model_->willChange);
+    observe(theme_->willChange);
+    update();
+}
+
+void ReviewScreen::update() {
+    content_ = reviewContent(*model_, viewing_, theme_->freeBytes());
+    categories_.set(content_.categories);
+    chips_.set(content_.chips);
+}
+
+void ReviewScreen::setViewing(std::optional<CleanupCategory> category) {
+    viewing_ = category;
+    refresh();
+}
+
+QString ReviewScreen::viewingTitle() const {
+    return content_.viewing ? toText(title(*content_.viewing)) : QString();
+}
+
+QString ReviewScreen::viewingSymbol() const {
+    return content_.viewing ? toText(symbol(*content_.viewing)) : QString();
+}
+
+void ReviewScreen::selectSmartInView() {
+    if (content_.viewing) model_->selectSafeOnlyIn(*content_.viewing);
+}
+
+void ReviewScreen::selectAllInView() {
+    if (content_.viewing) model_->setCategory(*content_.viewing, Tick::on);
+}
+
+void ReviewScreen::selectNoneInView() {
+    if (content_.viewing) model_->setCategory(*content_.viewing, Tick::off);
+}
+
+void ReviewScreen::toggleCategory(int row) {
+    const auto category = categories_.values().at(static_cast<std::size_t>(row)).category;
+    model_->setCategory(category, toggledCategory(model_->selectedCountIn(category),
+                                                  model_->itemsIn(category).size()));
+}
+
+void ReviewScreen::viewCategory(int row) {
+    setViewing(categories_.values().at(static_cast<std::size_t>(row)).category);
+}
+
+void ReviewScreen::toggleChip(int row) {
+    const auto* item =
+        findItem(model_->items(), chips_.values().at(static_cast<std::size_t>(row)).id);
+    if (item) model_->selectionBinding(*item).set(tickOf(!item->isSelected));
+}
+
+void ReviewScreen::cleanUp() {
+    spawn(model_, &CleanupViewModel::cleanSelected);
+}
+
+void ReviewScreen::scanAgain() {
+    spawn(model_, &CleanupViewModel::startScan);
+}
+
+}  // namespace tidewell

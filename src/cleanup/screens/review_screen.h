@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QtCore/qstring.h>
+
+#include <memory>
+#include <optional>
+
+#include "cleanup/screens/review_content.h"
+#include "kit/qt/list_model.h"
+#include "kit/qt/screen.h"
+#include "kit/qt/text.h"
+#include "shell/theme_engine.h"
+
+namespace tidewell {
+
+/// Behind the Clean tool's review: what a scan found, and what of it goes.
+class ReviewScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
+    Q_PROPERTY(QString headline READ headline NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel* categories READ categories CONSTANT)
+    Q_PROPERTY(QAbstractItemModel* chips READ chips CONSTANT)
+    Q_PROPERTY(QString viewingTitle READ viewingTitle NOTIFY changed)
+    Q_PROPERTY(QString viewingSymbol READ viewingSymbol NOTIFY changed)
+    Q_PROPERTY(bool canClean READ canClean NOTIFY changed)
+    Q_PROPERTY(QString selectedSize READ selectedSize NOTIFY changed)
+    Q_PROPERTY(QString pickedLine READ pickedLine NOTIFY changed)
+    Q_PROPERTY(QString freeAfterLine READ freeAfterLine NOTIFY changed)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT)
+    Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT)
+    Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT)
+    Q_PROPERTY(QString scanAgainLabel READ scanAgainLabel CONSTANT)
+    Q_PROPERTY(QString subtitle READ subtitle CONSTANT)
+    Q_PROPERTY(QString safeOnlyLabel READ safeOnlyLabel CONSTANT)
+    Q_PROPERTY(QString safeOnlyTooltip READ safeOnlyTooltip CONSTANT)
+    Q_PROPERTY(QString smartLabel READ smartLabel CONSTANT)
+    Q_PROPERTY(QString allLabel READ allLabel CONSTANT)
+    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT)
+    Q_PROPERTY(QString hint READ hint CONSTANT)
+    Q_PROPERTY(QString reviewBadge READ reviewBadge CONSTANT)
+    Q_PROPERTY(QString freeAfterSymbol READ freeAfterSymbol CONSTANT)
+    Q_PROPERTY(QString backLabel READ backLabel CONSTANT)
+    Q_PROPERTY(QString cleanUpLabel READ cleanUpLabel CONSTANT)
+    Q_PROPERTY(QString cleanUpSymbol READ cleanUpSymbol CONSTANT)
+
+ public:
+    ReviewScreen(std::shared_ptr<CleanupViewModel> model, std::shared_ptr<ThemeEngine> theme,
+                 QObject* parent);
+
+    bool isEmpty() const { return content_.isEmpty; }
+    QString headline() const { return toText(content_.headline); }
+    QAbstractItemModel* categories() { return &categories_; }
+    QAbstractItemModel* chips() { return &chips_; }
+    QString viewingTitle() const;
+    QString viewingSymbol() const;
+    bool canClean() const { return content_.canClean; }
+    /// Empty while nothing is picked.
+    QString selectedSize() const { return toText(content_.selectedSize.value_or("")); }
+    QString pickedLine() const { return toText(content_.pickedLine); }
+    QString freeAfterLine() const { return toText(content_.freeAfterLine); }
+    static QString emptyTitle() { return toText(nothingToCleanTitle); }
+    static QString emptyLine() { return toText(nothingToCleanLine); }
+    static QString emptySymbol() { return toText(nothingToCleanSymbol); }
+    static QString scanAgainLabel() { return toText(tidewell::scanAgainLabel); }
+    static QString subtitle() { return toText(reviewSubtitle); }
+    static QString safeOnlyLabel() { return toText(tidewell::safeOnlyLabel); }
+    static QString safeOnlyTooltip() { return toText(tidewell::safeOnlyTooltip); }
+    static QString smartLabel() { return toText(tidewell::smartLabel); }
+    static QString allLabel() { return toText(tidewell::allLabel); }
+    static QString noneLabel() { return toText(tidewell::noneLabel); }
+    static QString hint() { return toText(nothingPickedHint); }
+    static QString reviewBadge() { return toText(tidewell::reviewBadge); }
+    static QString freeAfterSymbol() { return toText(tidewell::freeAfterSymbol); }
+    static QString backLabel() { return toText(tidewell::backLabel); }
+    static QString cleanUpLabel() { return toText(tidewell::cleanUpLabel); }
+    static QString cleanUpSymbol() { return toText(tidewell::cleanUpSymbol); }
+
+    /// To be called when the screen comes into sight: it begins with the first category.
+    Q_INVOKABLE void open() { setViewing(std::nullopt); }
+    Q_INVOKABLE void selectSafeOnly() { model_->selectSafeOnly(); }
+    Q_INVOKABLE void selectAll() { model_->selectAll(Tick::on); }
+    Q_INVOKABLE void selectNone() { model_->selectAll(Tick::off); }
+    // For the category in view.
+    Q_INVOKABLE void selectSmartInView();
+    Q_INVOKABLE void selectAllInView();
+    Q_INVOKABLE void selectNoneInView();
+    // For a row of `categories`, which is named by its place.
+    Q_INVOKABLE void toggleCategory(int row);
+    Q_INVOKABLE void viewCategory(int row);
+    /// Flips a row of `chips`.
+    Q_INVOKABLE void toggleChip(int row);
+    Q_INVOKABLE void cleanUp();
+    Q_INVOKABLE void back() { model_->reset(); }
+    Q_INVOKABLE void scanAgain();
+
+ private:
+    void update() override;
+    void setViewing(std::optional<CleanupCategory> category);
+
+    const std::shared_ptr<CleanupViewModel> model_;
+    const std::shared_ptr<ThemeEngine> theme_;
+    std::optional<CleanupCategory> viewing_;  ///< as the user chose it
+    ReviewContent content_;
+    ListModel<CategoryRowContent> categories_;
+    ListModel<ItemChipContent> chips_;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QtCore/qstring.h>
+
+#include <memory>
+
+#include "cleanup/screens/scan_content.h"
+#include "kit/qt/screen.h"
+#include "kit/qt/text.h"
+#include "platform/user_defaults.h"
+
+namespace tidewell {
+
+/// Behind the Clean tool's first screen: before and during a scan.
+class ScanScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(bool isScanning READ isScanning NOTIFY changed)
+    Q_PROPERTY(double progress READ progress NOTIFY changed)
+    Q_PROPERTY(QString percent READ percent NOTIFY changed)
+    Q_PROPERTY(QString caption READ caption NOTIFY changed)
+    Q_PROPERTY(QString soFar READ soFar NOTIFY changed)
+    Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
+    Q_PROPERTY(QString scanSymbol READ scanSymbol CONSTANT)
+    Q_PROPERTY(QString scanningWord READ scanningWord CONSTANT)
+    Q_PROPERTY(QString soFarSymbol READ soFarSymbol CONSTANT)
+
+ public:
+    ScanScreen(std::shared_ptr<CleanupViewModel> model, UserDefaults defaults, QObject* parent);
+
+    bool isScanning() const { return content_.isScanning; }
+    double progress() const { return model_->scanProgress(); }
+    QString percent() const { return toText(content_.percent); }
+    QString caption() const { return toText(content_.caption); }
+    /// Empty when there is nothing to tell.
+    QString soFar() const { return toText(content_.soFar.value_or("")); }
+    static QString scanLabel() { return toText(scanButtonLabel); }
+    static QString scanSymbol() { return toText(tidewell::scanSymbol); }
+    static QString scanningWord() { return toText(tidewell::scanningWord); }
+    static QString soFarSymbol() { return toText(tidewell::soFarSymbol); }
+
+    /// To be called when the screen comes into sight, for the stored sum may have grown elsewhere.
+    Q_INVOKABLE void open() { refresh(); }
+    Q_INVOKABLE void startScan();
+
+ private:
+    void update() override;
+
+    const std::shared_ptr<CleanupViewModel> model_;
+    const UserDefaults defaults_;
+    ScanContent content_;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,98 @@
+#include <QtWidgets/qapplication.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "async/background.h"
+#include "kit/qt/motion.h"
+#include "platform/reduced_motion.h"
+#include "platform/single_instance.h"
+#include "shell/qt/main_window.h"
+#include "shell/qt/qt_main_loop.h"
+#include "shell/start_words.h"
+
+namespace tidewell {
+
+namespace {
+
+/// What a later start that has no URL hands over: show the window.
+const std::string showWish;
+
+int handOver(const SingleInstance& instance, const StartWish& wish) {
+    const auto delivery = instance.send(wish.url.value_or(showWish));
+    if (delivery == SingleInstance::Delivery::taken) return EXIT_SUCCESS;
+    std::cerr << "tidewell: it is running already, but does not answer\n";
+    return EXIT_FAILURE;
+}
+
+void hear(Application& application, ContentView& view, const std::string& message) {
+    application.bridge.showWindow();
+    if (message != showWish) view.openUrl(message);
+}
+
+Task<> followMotionSetting(Host host) {
+    auto asking = background([host] { return wantsReducedMotion(host); });
+    const bool isReduced = co_await asking;
+    Motion::setReduced(isReduced);
+}
+
+/// Closing the window ends nothing: the program is left with Quit. What is stored is on the disk
+/// already; threads and tools under way are not waited for.
+[[noreturn]] void runToQuit(const Host& host, SingleInstance& instance, const StartWish& wish) {
+    QtMainLoop loop;
+    MainWindow* opened = nullptr;
+    Application application(host, desktopWorkspace(host), [&opened] {
+        if (opened) opened->activate();
+    });
+    const auto view = std::make_shared<ContentView>(application);
+    MainWindow window(application, view);
+    opened = &window;
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, qGuiApp,
+                     [&application](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationActive) application.didBecomeActive.fire();
+                     });
+    instance.listen([&](std::string message) {
+        Executor::main().post([&application, &view, message = std::move(message)] {
+            hear(application, *view, message);
+        });
+    });
+    spawn(followMotionSetting(host));
+    window.open();
+    if (wish.url) view->openUrl(*wish.url);
+    const int status = QApplication::exec();
+    std::cout.flush();
+    std::quick_exit(status);
+}
+
+int start(int& count, char** words, const StartWish& wish) {
+    const auto found = findHost(wish.host);
+    if (!found.host) {
+        std::cerr << "tidewell: " << found.problem << '\n';
+        return EXIT_FAILURE;
+    }
+    SingleInstance instance(*found.host);
+    if (instance.role() == SingleInstance::Role::later) return handOver(instance, wish);
+    qputenv("QT_MEDIA_BACKEND", "ffmpeg");  // the other backend needs packages that may be missing
+    const QApplication toolkit(count, words);
+    QApplication::setApplicationName("tidewell");
+    QApplication::setDesktopFileName("io.tidewell.Tidewell");
+    QApplication::setQuitOnLastWindowClosed(false);
+    runToQuit(*found.host, instance, wish);
+}
+
+int run(int& count, char** words) {
+    const auto parsed = parseStartWords({words + 1, words + count});
+    if (const auto* wish = std::get_if<StartWish>(&parsed)) return start(count, words, *wish);
+    const auto& ending = std::get<StartEnding>(parsed);
+    const bool wasAsked = ending.reason == StartEnding::Reason::asked;
+    (wasAsked ? std::cout : std::cerr) << ending.text;
+    return wasAsked ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+
+}  // namespace tidewell
+
+int main(int count, char** words) {
+    return tidewell::run(count, words);
+}

@@ -1,0 +1,86 @@
+import QtQuick
+import Tidewell
+
+/// Whether Full Disk Access is granted: a quiet row if it is, else a card with the way there.
+Loader {
+    id: root
+
+    required property WindowScreen screen
+
+    sourceComponent: screen.hasFullDiskAccess ? granted : missing
+
+    Component {
+        id: granted
+
+        Item {
+            implicitHeight: 34
+            Accessible.role: Accessible.StaticText
+            Accessible.name: title.text
+
+            Symbol {
+                x: 12
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: root.screen.accessSymbol
+                size: 16
+                tint: root.Ambient.palette.primary
+            }
+            Label {
+                id: title
+                x: 38
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.screen.accessTitle
+                size: 12.5
+                color: Theme.secondary
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    Component {
+        id: missing
+
+        GlowCard {
+            cornerRadius: 16
+            padding: 14
+            implicitHeight: column.implicitHeight + 2 * padding
+
+            Column {
+                id: column
+                width: parent.width
+                spacing: 8
+
+                Row {
+                    spacing: 9
+                    Symbol {
+                        anchors.verticalCenter: parent.verticalCenter
+                        symbol: root.screen.accessSymbol
+                        size: 18
+                        tint: root.Ambient.palette.primary
+                    }
+                    Label {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: root.screen.accessTitle
+                        size: 13
+                        weight: Font.DemiBold
+                    }
+                }
+                Label {
+                    width: parent.width
+                    text: root.screen.accessLine
+                    size: 11.5
+                    lineHeight: 1.2
+                    color: Theme.secondary
+                    wrapMode: Text.WordWrap
+                }
+                PillButton {
+                    width: parent.width
+                    topPadding: 8
+                    bottomPadding: 8
+                    fontSize: 12.5
+                    text: root.screen.enableAccessLabel
+                    onClicked: root.screen.enableAccess()
+                }
+            }
+        }
+    }
+}

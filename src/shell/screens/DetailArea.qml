@@ -1,0 +1,57 @@
+import QtQuick
+import Tidewell
+
+/// The place of the tools' screens. A new one fades in, and has the keyboard if the last one had it.
+Loader {
+    id: root
+
+    required property WindowScreen screen
+
+    /// Whether the user is on the way by keyboard, so that a new screen shows where it is.
+    property bool showsFocus: false
+
+    focus: true
+    sourceComponent: {
+        switch (screen.detailView) {
+        case "ScanView": return scanView
+        case "ReviewView": return reviewView
+        case "CleanedView": return cleanedView
+        }
+        return null
+    }
+    onLoaded: {
+        if (Motion.hasPassages)
+            fade.restart()
+        if (activeFocus)
+            item.forceActiveFocus(showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+    }
+
+    Window.onActiveFocusItemChanged: {
+        const control = Window.activeFocusItem as Pressable
+        if (control)
+            showsFocus = control.visualFocus
+    }
+
+    NumberAnimation {
+        id: fade
+        target: root.item
+        property: "opacity"
+        from: 0
+        to: 1
+        duration: 180
+        easing.type: Easing.OutCubic
+    }
+
+    Component {
+        id: scanView
+        ScanView { screen: root.screen.scan }
+    }
+    Component {
+        id: reviewView
+        ReviewView { screen: root.screen.review }
+    }
+    Component {
+        id: cleanedView
+        CleanedView { screen: root.screen.cleaned }
+    }
+}

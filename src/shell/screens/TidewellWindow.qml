@@ -1,0 +1,42 @@
+pragma ComponentBehavior: Bound
+import QtQml.Models
+import QtQuick
+import Tidewell
+
+/// The program's one window.
+Window {
+    id: root
+
+    required property WindowScreen windowScreen
+
+    width: 1120
+    height: 740
+    minimumWidth: 1060
+    minimumHeight: 680
+    title: windowScreen.title
+    color: Theme.base
+
+    ContentView {
+        anchors.fill: parent
+        screen: root.windowScreen
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        context: Qt.ApplicationShortcut
+        onActivated: Qt.quit()
+    }
+    Shortcut {
+        sequences: [StandardKey.Close]
+        onActivated: root.close()
+    }
+    Instantiator {
+        model: 7
+
+        Shortcut {
+            required property int index
+            sequence: "Ctrl+" + (index + 1)
+            onActivated: root.windowScreen.openRow(index)
+        }
+    }
+}

@@ -1,0 +1,61 @@
+#include "shell/screens/window_screen.h"
+
+#include <utility>
+
+namespace tidewell {
+
+namespace {
+
+using Row = SidebarRowContent;
+
+std::string rowKey(const Row& row) {
+    return std::string(row.label);
+}
+
+std::vector<ListModel<Row>::Role> rowRoles() {
+    return {
+        {"symbol", [](const Row& row) { return toText(row.symbol); }},
+        {"title", [](const Row& row) { return toText(row.label); }},
+        {"isActive", [](const Row& row) { return row.isActive; }},
+        {"accent",
+         [](const Row& row) {
+             return QVariant::fromValue(PaletteValue(sectionPalette(accent(row.mode))));
+         }},
+    };
+}
+
+}  // namespace
+
+WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, QObject* parent)
+    : Screen(parent),
+      view_(std::move(view)),
+      rows_(rowKey, rowRoles(), this),
+      scan_(view_->cleanupModel, UserDefaults(view_->host().configurationDirectory), this),
+      review_(view_->cleanupModel, view_->theme, this),
+      cleaned_(view_->cleanupModel, this) {
+    observe(view_->willChange);
+    observe(view_->cleanupModel->willChange);
+    observe(view_->permissions->willChange);
+    update();
+}
+
+QString WindowScreen::accessSymbol() const {
+    return toText(hasFullDiskAccess() ? accessGrantedSymbol : tidewell::accessSymbol);
+}
+
+void WindowScreen::openRow(int row) {
+    const auto& rows = rows_.values();
+    if (row >= 0 && static_cast<std::size_t>(row) < rows.size())
+        view_->mode = rows[static_cast<std::size_t>(row)].mode;
+}
+
+void WindowScreen::finishOnboarding(bool playsIntro) {
+    view_->finishOnboarding(playsIntro ? Intro::play : Intro::skip);
+}
+
+void WindowScreen::update() {
+    content_ = windowContent(*view_);
+    rows_.set(content_.rows);
+}
+
+}  // namespace tidewell

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QtCore/qstring.h>
+
+#include <memory>
+
+#include "cleanup/screens/cleaned_screen.h"
+#include "cleanup/screens/review_screen.h"
+#include "cleanup/screens/scan_screen.h"
+#include "kit/qt/list_model.h"
+#include "kit/qt/palette_value.h"
+#include "kit/qt/screen.h"
+#include "kit/qt/text.h"
+#include "shell/screens/window_content.h"
+
+namespace tidewell {
+
+/// Behind the main window: the sidebar, which view stands in the detail area, what lies over both,
+/// and the screens of all sections.
+class WindowScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT)
+    Q_PROPERTY(QString detailView READ detailView NOTIFY changed)
+    Q_PROPERTY(tidewell::PaletteValue palette READ palette NOTIFY changed)
+    Q_PROPERTY(bool hasFullDiskAccess READ hasFullDiskAccess NOTIFY changed)
+    Q_PROPERTY(bool hasOnboarded READ hasOnboarded NOTIFY changed)
+    Q_PROPERTY(bool isPlayingIntro READ isPlayingIntro NOTIFY changed)
+    Q_PROPERTY(double introHomeOpacity READ introHomeOpacity NOTIFY changed)
+    Q_PROPERTY(bool showsAbout READ showsAbout NOTIFY changed)
+    Q_PROPERTY(tidewell::ScanScreen* scan READ scan CONSTANT)
+    Q_PROPERTY(tidewell::ReviewScreen* review READ review CONSTANT)
+    Q_PROPERTY(tidewell::CleanedScreen* cleaned READ cleaned CONSTANT)
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
+    Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
+    Q_PROPERTY(QString accessSymbol READ accessSymbol NOTIFY changed)
+    Q_PROPERTY(QString enableAccessLabel READ enableAccessLabel CONSTANT)
+    Q_PROPERTY(QString aboutLabel READ aboutLabel CONSTANT)
+    Q_PROPERTY(QString aboutSymbol READ aboutSymbol CONSTANT)
+
+ public:
+    explicit WindowScreen(std::shared_ptr<ContentView> view, QObject* parent = nullptr);
+
+    QAbstractItemModel* rows() { return &rows_; }
+    QString detailView() const { return toText(content_.detailView); }
+    PaletteValue palette() const { return PaletteValue(sectionPalette(content_.accent)); }
+    bool hasFullDiskAccess() const { return content_.hasFullDiskAccess; }
+    bool hasOnboarded() const { return view_->hasOnboarded(); }
+    bool isPlayingIntro() const { return view_->playingIntro(); }
+    double introHomeOpacity() const { return view_->introHomeOpacity(); }
+    bool showsAbout() const { return view_->showAbout(); }
+    ScanScreen* scan() { return &scan_; }
+    ReviewScreen* review() { return &review_; }
+    CleanedScreen* cleaned() { return &cleaned_; }
+    static QString title() { return toText(windowTitle); }
+    static QString accessTitle() { return toText(tidewell::accessTitle); }
+    static QString accessLine() { return toText(tidewell::accessLine); }
+    QString accessSymbol() const;
+    static QString enableAccessLabel() { return toText(tidewell::enableAccessLabel); }
+    static QString aboutLabel() { return toText(tidewell::aboutLabel); }
+    static QString aboutSymbol() { return toText(tidewell::aboutSymbol); }
+
+    /// Shows the section of the sidebar's row; nothing happens for a row that is not there.
+    Q_INVOKABLE void openRow(int row);
+    Q_INVOKABLE void enableAccess() { view_->permissions->openSettings(); }
+    Q_INVOKABLE void showAbout() { view_->showAbout = true; }
+    Q_INVOKABLE void closeAbout() { view_->showAbout = false; }
+    Q_INVOKABLE void finishOnboarding(bool playsIntro);
+    Q_INVOKABLE void revealHome() { view_->revealHome(); }
+    Q_INVOKABLE void endIntro() { view_->endIntro(); }
+
+ private:
+    void update() override;
+
+    const std::shared_ptr<ContentView> view_;
+    WindowContent content_;
+    ListModel<SidebarRowContent> rows_;
+    ScanScreen scan_;
+    ReviewScreen review_;
+    CleanedScreen cleaned_;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QtGui/qaccessible.h>
+#include <QtQuick/qquickitem.h>
+#include <QtTest/qtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "shell/qt/main_window.h"
+#include "shell/qt/qt_main_loop.h"
+#include "support/sample_machine.h"
+
+namespace tidewell::test {
+
+/// The real window over a sample machine, with real threads, seen and used as its user does: by
+/// pointer, by keyboard, and by assistive tools, which find a thing by its name.
+class WindowTest : public testing::Test {
+ protected:
+    /// Starts the program; the machine stands by then.
+    void start() {
+        application = std::make_unique<Application>(
+            machine.host(),
+            Workspace{.openUrl = [this](const std::string& url) { openedUrls.push_back(url); },
+                      .reveal = [](const std::string&) {}},
+            [] {});
+        view = std::make_shared<ContentView>(*application);
+        window = std::make_unique<MainWindow>(*application, view);
+        window->open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window->window()));
+    }
+
+    /// Lets the program go on until it has come to something.
+    [[nodiscard]] static bool comesTo(const std::function<bool()>& condition) {
+        return QTest::qWaitFor(condition, 20'000);
+    }
+
+    /// What assistive tools are told of a thing that is seen; null if there is none of that name.
+    QAccessibleInterface* find(const QString& name,
+                               std::optional<QAccessible::Role> role = std::nullopt) const {
+        return findBelow(QAccessible::queryAccessibleInterface(&window->window()), name, role);
+    }
+    /// All that assistive tools are told, for whoever looks into a failure.
+    std::string told() const {
+        return toldBelow(QAccessible::queryAccessibleInterface(&window->window()), "\n");
+    }
+    bool shows(const QString& name) const { return find(name) != nullptr; }
+
+    void press(const QString& name) const {
+        auto* control = find(name);
+        ASSERT_NE(control, nullptr) << name.toStdString() << " is not among" << told();
+        control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    void click(const QString& name, std::optional<QAccessible::Role> role = std::nullopt) const {
+        QAccessibleInterface* control = nullptr;
+        ASSERT_TRUE(comesTo([&] { return (control = find(name, role)) != nullptr; }))
+            << name.toStdString() << " is not among" << told();
+        QTest::mouseClick(&window->window(), Qt::LeftButton, {},
+                          window->window().mapFromGlobal(control->rect().center()));
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers = {}) const {
+        QTest::keyClick(&window->window(), static_cast<Qt::Key>(key), modifiers);
+    }
+    /// What the keyboard is at.
+    QString focused() const {
+        auto* item = window->window().activeFocusItem();
+        auto* control = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+        return control ? control->text(QAccessible::Name) : QString();
+    }
+    bool isEnabled(const QString& name) const {
+        auto* control = find(name);
+        const auto* item = control ? qobject_cast<QQuickItem*>(control->object()) : nullptr;
+        return item && item->isEnabled();
+    }
+    bool isChecked(const QString& name, QAccessible::Role role = QAccessible::CheckBox) const {
+        const auto* control = find(name, role);
+        return control && control->state().checked;
+    }
+
+    SampleMachine machine;
+    QtMainLoop loop;
+    std::vector<std::string> openedUrls;
+    std::unique_ptr<Application> application;
+    std::shared_ptr<ContentView> view;
+    std::unique_ptr<MainWindow> window;
+
+ private:
+    static QAccessibleInterface* findBelow(QAccessibleInterface* place, const QString& name,
+                                           std::optional<QAccessible::Role> role) {
+        if (!place || place->state().invisible) return nullptr;
+        if (place->text(QAccessible::Name) == name && (!role || place->role() == *role))
+            return place;
+        for (int child = 0; child < place->childCount(); ++child)
+            if (auto* found = findBelow(place->child(child), name, role)) return found;
+        return nullptr;
+    }
+
+    static std::string toldBelow(QAccessibleInterface* place, const std::string& lineBreak) {
+        if (!place) return lineBreak + "nothing";
+        auto text = lineBreak + std::to_string(place->role()) + ' ' +
+                    place->text(QAccessible::Name).toStdString() +
+                    (place->state().invisible ? " (unseen)" : "");
+        for (int child = 0; child < place->childCount(); ++child)
+            text += toldBelow(place->child(child), lineBreak + "  ");
+        return text;
+    }
+};
+
+}  // namespace tidewell::test
