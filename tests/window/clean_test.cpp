@@ -87,6 +87,7 @@ TEST_F(CleanTest, RunsFromTheScanToTheEndByKeyboard) {
     EXPECT_EQ(picked(), 1);
     key(Qt::Key_Down);
     EXPECT_EQ(focused(), chip("gradle-caches"));
+    EXPECT_TRUE(showsFocus());
     key(Qt::Key_Down);
     EXPECT_EQ(focused(), chip("gradle-caches")) << "it is the last of its category";
     key(Qt::Key_Tab);

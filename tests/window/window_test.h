@@ -72,6 +72,11 @@ class WindowTest : public testing::Test {
         auto* control = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
         return control ? control->text(QAccessible::Name) : QString();
     }
+    /// Whether it is seen where the keyboard is at.
+    bool showsFocus() const {
+        const auto* item = window->window().activeFocusItem();
+        return item && item->property("visualFocus").toBool();
+    }
     bool isEnabled(const QString& name) const {
         auto* control = find(name);
         const auto* item = control ? qobject_cast<QQuickItem*>(control->object()) : nullptr;

@@ -77,7 +77,9 @@ FocusScope {
                 return
             currentIndex = index
             positionViewAtIndex(index, ListView.Contain)
-            currentItem.forceActiveFocus(Qt.TabFocusReason)
+            currentItem.forceActiveFocus()
+            // The list has moved the focus already, without the reason that makes it seen.
+            currentItem.focusReason = Qt.TabFocusReason
         }
 
         T.ScrollBar.vertical: ScrollHandle {}
