@@ -1,5 +1,6 @@
-// tidewell-gallery DIR [--scale N]: draws every component in every state, one picture a page. Fails
-// if the pictures would not show what people see, or if a page makes Qt complain.
+// tidewell-gallery DIR [--scale N] [--only WORD] [--size WxH]: draws every component in every
+// state, one picture a page, and the window with each screen in each state. Fails if the pictures
+// would not show what people see, or if anything drawn makes Qt complain.
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
@@ -13,6 +14,11 @@
 #include <cstdlib>
 
 #include "kit/qt/module.h"
+#include "kit/qt/motion.h"
+#include "screens/states.h"
+#include "shell/qt/qt_main_loop.h"
+
+namespace tidewell::gallery {
 
 namespace {
 
@@ -28,54 +34,102 @@ void countWarnings(QtMsgType type, const QMessageLogContext&, const QString& tex
     if (type != QtDebugMsg && type != QtInfoMsg && isAboutUs) complain(text);
 }
 
-/// Lets the page settle: what appears at first, and what only a second frame shows.
-void draw(QQuickView& view) {
+/// Lets the window settle: what appears at first, what only a second frame shows, and what is told
+/// in a later turn.
+void draw(QQuickWindow& window) {
     QElapsedTimer clock;
     clock.start();
     int frames = 0;
-    QObject::connect(&view, &QQuickView::frameSwapped, &view, [&frames] { ++frames; });
-    view.show();
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&frames] { ++frames; });
+    window.show();
     while (frames < 3 && clock.elapsed() < 20000) {
-        view.update();
+        window.update();
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
     }
 }
 
-void photograph(const QString& page, const QDir& folder, const QString& suffix) {
+/// What to draw, and where the pictures go.
+struct Order {
+    QDir folder;
+    QString suffix;
+    QString only;
+    QSize size;  ///< of the window
+
+    bool wants(const QString& name) const { return name.contains(only); }
+    void save(QQuickWindow& window, const QString& name) const {
+        draw(window);
+        if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::OpenGL)
+            return complain("the components can only be seen with OpenGL: run this with a display");
+        const auto file = folder.filePath(name + suffix + ".png");
+        if (!window.grabWindow().save(file)) complain("cannot write " + file);
+    }
+};
+
+void drawPage(const QString& page, const Order& order) {
+    const auto name = page.chopped(4).toLower();
+    if (!order.wants(name)) return;
     QQuickView view;
-    tidewell::importTidewellModule(*view.engine());
+    importTidewellModule(*view.engine());
     view.setColor(Qt::black);
     view.setSource(QUrl("qrc:/gallery/" + page));
     if (view.status() != QQuickView::Ready) return complain(page + " cannot be loaded");
-    draw(view);
-    if (view.rendererInterface()->graphicsApi() != QSGRendererInterface::OpenGL)
-        return complain("the components can only be seen with OpenGL: run this with a display");
-    const auto file = folder.filePath(page.chopped(4).toLower() + suffix + ".png");
-    if (!view.grabWindow().save(file)) complain("cannot write " + file);
+    order.save(view, name);
 }
 
-}  // namespace
+void drawPages(const Order& order) {
+    auto pages = QDir(":/gallery").entryList({"*.qml"});
+    for (const auto* part : {"Page.qml", "Specimen.qml"}) pages.removeOne(part);
+    if (pages.isEmpty()) complain("there are no pages");
+    for (const auto& page : pages) drawPage(page, order);
+}
 
-int main(int count, char** words) {
+void drawScreens(const Order& order) {
+    for (const auto& state : screenStates()) {
+        if (!order.wants(state.name)) continue;
+        Sample sample;
+        auto& window = sample.window->window();
+        window.resize(order.size);
+        state.setUp(sample);
+        order.save(window, state.name);
+    }
+}
+
+int run(int count, char** words) {
     QStringList arguments;
     for (int i = 0; i < count; ++i) arguments << QString::fromLocal8Bit(words[i]);
     QCommandLineParser parser;
     const QCommandLineOption scale("scale", "Pixels to a point.", "N", "1");
-    parser.addOption(scale);
+    const QCommandLineOption only("only", "Draw only pictures with this in their name.", "WORD");
+    const QCommandLineOption size("size", "The window's size in points.", "WxH", "1120x740");
+    parser.addOptions({scale, only, size});
     parser.addPositionalArgument("DIR", "Where to put the pictures.");
     parser.process(arguments);
-    if (parser.positionalArguments().size() != 1) parser.showHelp(2);
+    const auto lengths = parser.value(size).split('x');
+    if (parser.positionalArguments().size() != 1 || lengths.size() != 2) parser.showHelp(2);
 
     qputenv("QT_SCALE_FACTOR", parser.value(scale).toLocal8Bit());
-    QGuiApplication application(count, words);
+    const QGuiApplication application(count, words);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(countWarnings);
+    const QtMainLoop loop;
+    Motion::setReduced(true);  // a picture shows where a passage leads
 
-    const QDir folder(parser.positionalArguments().first());
-    if (!folder.mkpath(".")) complain("cannot make " + folder.path());
-    const QString suffix = parser.isSet(scale) ? "@" + parser.value(scale) + "x" : QString();
-    auto pages = QDir(":/gallery").entryList({"*.qml"});
-    for (const auto* part : {"Page.qml", "Specimen.qml"}) pages.removeOne(part);
-    if (pages.isEmpty()) complain("there are no pages");
-    for (const auto& page : pages) photograph(page, folder, suffix);
+    const Order order{
+        .folder = QDir(parser.positionalArguments().first()),
+        .suffix = parser.isSet(scale) ? "@" + parser.value(scale) + "x" : QString(),
+        .only = parser.value(only),
+        .size = {lengths[0].toInt(), lengths[1].toInt()},
+    };
+    if (!order.folder.mkpath(".")) complain("cannot make " + order.folder.path());
+    drawPages(order);
+    drawScreens(order);
     return complaints == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+
+}  // namespace tidewell::gallery
+
+int main(int count, char** words) {
+    return tidewell::gallery::run(count, words);
 }

@@ -1,0 +1,122 @@
+#include "screens/findings.h"
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <utility>
+
+#include "cleanup/target_catalogue.h"
+
+namespace tidewell::gallery {
+
+namespace {
+
+constexpr ByteCount megabyte = 1'000'000;
+
+CleanupItem junk(CleanupTarget target, ByteCount size) {
+    const bool isSafe = target.safety == SafetyLevel::safe;
+    return {.target = std::move(target),
+            .resolvedPaths = {"/nowhere"},
+            .sizeBytes = size,
+            .isSelected = isSafe};
+}
+
+CleanupTarget projectFolder(const std::string& name, const std::string& project,
+                            SafetyLevel safety) {
+    return {.id = "artifact:" + name + ":" + project,
+            .title = name + " · " + project,
+            .detail = "Build output. Re-created by the next build. In Code/" + project + ".",
+            .category = CleanupCategory::developerCaches,
+            .safety = safety,
+            .paths = {"/nowhere"}};
+}
+
+InstalledApp app(const std::string& name, ByteCount size, int daysUnused) {
+    return {.id = "com.example." + name,
+            .name = name,
+            .url = "/Applications/" + name + ".app",
+            .bundleID = "com.example." + name,
+            .version = "4.2",
+            .sizeBytes = size,
+            .lastUsed = std::chrono::system_clock::now() - std::chrono::days(daysUnused)};
+}
+
+BigItem bigItem(const std::string& name, const std::string& location, ByteCount size,
+                BigItem::Kind kind) {
+    return {.id = "/nowhere/" + name,
+            .name = name,
+            .location = location,
+            .sizeBytes = size,
+            .isDirectory = true,
+            .kind = kind,
+            .note = {},
+            .reclaimCommand = {}};
+}
+
+}  // namespace
+
+void findJunk(const ContentView& view) {
+    CleanupItems items = {
+        junk(projectFolder("node_modules", "shop-frontend", SafetyLevel::safe), 1480 * megabyte),
+        junk(projectFolder("target", "engine", SafetyLevel::caution), 930 * megabyte),
+        junk(
+            projectFolder("node_modules",
+                          "a-project-whose-name-is-much-longer-than-any-row-of-this-window-is-wide",
+                          SafetyLevel::safe),
+            212 * megabyte),
+    };
+    ByteCount size = 8460 * megabyte;
+    for (std::size_t index = 0; auto& target : cleanupCatalogue(view.host())) {
+        if (index++ % 2 != 0) continue;
+        items.push_back(junk(std::move(target), size));
+        size = size * 4 / 5;
+    }
+    std::ranges::stable_sort(items, std::ranges::greater(), &CleanupItem::sizeBytes);
+    view.cleanupModel->items = std::move(items);
+    view.cleanupModel->phase = CleanupViewModel::Phase::review;
+}
+
+void findApps(const ContentView& view) {
+    view.appsModel->apps = {
+        app("Sketchpad", 1240 * megabyte, 2),   app("Tidal Studio", 6310 * megabyte, 140),
+        app("Notebook", 310 * megabyte, 0),     app("Skyline Maps", 890 * megabyte, 420),
+        app("Mail Courier", 164 * megabyte, 1), app("Film Cutter", 3870 * megabyte, 95),
+    };
+    view.appsModel->phase = AppsViewModel::Phase::list;
+}
+
+void findBigItems(const ContentView& view) {
+    using Kind = BigItem::Kind;
+    view.deepScanModel->items = {
+        bigItem("Docker.raw", "Docker's virtual disk", 41'200 * megabyte, Kind::container),
+        bigItem("Holiday 2019", "Movies", 18'600 * megabyte, Kind::personal),
+        bigItem("Install Studio.dmg", "Downloads", 6'240 * megabyte, Kind::installer),
+        bigItem("com.example.Browser", "Library/Caches", 2'870 * megabyte, Kind::cache),
+    };
+    view.deepScanModel->phase = DeepScanViewModel::Phase::list;
+}
+
+void findAdvisorWins(const ContentView& view) {
+    using namespace std::chrono;
+    const auto lastUsed = system_clock::now() - days(200);
+    view.advisorModel->findings = Findings{
+        .runtimes = {{.id = "A1",
+                      .name = "iOS 16.4",
+                      .build = "20E247",
+                      .sizeBytes = 7'230 * megabyte,
+                      .lastUsed = lastUsed,
+                      .deviceNames = {"iPhone 14"}},
+                     {.id = "A2",
+                      .name = "iOS 17.5",
+                      .build = "21F79",
+                      .sizeBytes = 7'890 * megabyte,
+                      .lastUsed = {},
+                      .deviceNames = {}}},
+        .unavailableSims = 4,
+        .snapshotCount = 3,
+        .dockerBytes = 41'200 * megabyte,
+    };
+    view.advisorModel->phase = AdvisorViewModel::Phase::list;
+}
+
+}  // namespace tidewell::gallery

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "shell/content_view.h"
+
+namespace tidewell::gallery {
+
+// What scans could have found, put into the view models as if they had just ended.
+
+/// Half of the Clean tool's catalogue and some project folders, one with a very long name.
+void findJunk(const ContentView& view);
+void findApps(const ContentView& view);
+void findBigItems(const ContentView& view);
+void findAdvisorWins(const ContentView& view);
+
+}  // namespace tidewell::gallery

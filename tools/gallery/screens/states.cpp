@@ -1,0 +1,12 @@
+#include "screens/states.h"
+
+namespace tidewell::gallery {
+
+std::vector<ScreenState> screenStates() {
+    std::vector<ScreenState> all;
+    for (const auto& section : {cleanStates()})
+        all.insert(all.end(), section.begin(), section.end());
+    return all;
+}
+
+}  // namespace tidewell::gallery

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "screens/sample.h"
+
+namespace tidewell::gallery {
+
+/// One picture: `name` is its file's, `setUp` brings the sample to where it is drawn.
+struct ScreenState {
+    const char* name;
+    void (*setUp)(Sample& sample);
+};
+
+// The states of each section's screens, one file of this folder a section.
+std::vector<ScreenState> cleanStates();
+
+/// All of them.
+std::vector<ScreenState> screenStates();
+
+}  // namespace tidewell::gallery
