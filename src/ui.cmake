@@ -7,7 +7,7 @@
 
 # Global, for tests and tools link the window too.
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick ShaderTools)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick ShaderTools Widgets)
 qt_standard_project_setup()
 
 file(GLOB_RECURSE qml_files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS *.qml)
@@ -42,7 +42,7 @@ qt_add_resources(tidewell_ui logos
   PREFIX /Tidewell/logos BASE ${CMAKE_SOURCE_DIR}/assets/logos FILES ${logos})
 
 target_link_libraries(tidewell_ui
-  PUBLIC tidewell_core Qt6::Quick Qt6::Qml
+  PUBLIC tidewell_core Qt6::Quick Qt6::Qml Qt6::Widgets
   INTERFACE tidewell_uiplugin)
 # The generated registration includes the headers of types by their bare names.
 set(header_folders ${screen_sources})

@@ -9,10 +9,11 @@ namespace tidewell {
 namespace {
 
 constexpr std::string_view usage =
-    "Usage: tidewell [--root DIR] [--home DIR] [URL]\n"
+    "Usage: tidewell [--root DIR] [--home DIR] [--timings] [URL]\n"
     "\n"
     "  --root DIR  Work on a machine that lies in this folder\n"
     "  --home DIR  Work on this home folder\n"
+    "  --timings   Tell on standard error what keeps the window from moving smoothly\n"
     "  --help      Print this and end\n"
     "  URL         tidewell://scan scans everything\n";
 
@@ -32,6 +33,8 @@ std::variant<StartWish, StartEnding> parseStartWords(const std::vector<std::stri
             const auto name = *word;
             if (++word == words.end()) return wrongCall(name + " needs a folder");
             folder = *word;
+        } else if (*word == "--timings") {
+            wish.showsTimings = true;
         } else if (urlHost(*word)) {
             wish.url = *word;
         } else {

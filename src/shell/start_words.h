@@ -13,6 +13,7 @@ namespace tidewell {
 struct StartWish {
     HostOptions host;
     std::optional<std::string> url;  ///< one of the program's own
+    bool showsTimings = false;       ///< how long the main thread is busy, on standard error
 };
 
 /// The program ends at once, with a text for the user.

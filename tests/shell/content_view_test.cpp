@@ -213,6 +213,8 @@ TEST(StartWords, AreFoldersAndAUrlAndNothingElse) {
     EXPECT_EQ(wish({"--home", "/a", "tidewell://scan", "--root", "b"}).url, "tidewell://scan");
     EXPECT_EQ(wish({"--home", "/a"}).host.home, "/a");
     EXPECT_EQ(wish({"--root", "b"}).host.root, "b");
+    EXPECT_FALSE(wish({"--root", "b"}).showsTimings);
+    EXPECT_TRUE(wish({"--timings", "tidewell://scan"}).showsTimings);
 
     const std::vector<std::string> wrongCalls[] = {
         {"--root"}, {"--root", "a", "--home"}, {"--verbose"}, {"/tmp"}, {"https://scan"}, {""}};

@@ -9,6 +9,7 @@
 #include "platform/single_instance.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
+#include "shell/qt/timed_application.h"
 #include "shell/start_words.h"
 
 namespace tidewell {
@@ -38,7 +39,8 @@ Task<> followMotionSetting(Host host) {
 
 /// Closing the window ends nothing: the program is left with Quit. What is stored is on the disk
 /// already; threads and tools under way are not waited for.
-[[noreturn]] void runToQuit(const Host& host, SingleInstance& instance, const StartWish& wish) {
+[[noreturn]] void runToQuit(const Host& host, SingleInstance& instance, const StartWish& wish,
+                            TimedApplication* timed) {
     QtMainLoop loop;
     MainWindow* opened = nullptr;
     Application application(host, desktopWorkspace(host), [&opened] {
@@ -57,9 +59,11 @@ Task<> followMotionSetting(Host host) {
         });
     });
     spawn(followMotionSetting(host));
+    if (timed) timed->watchFirstFrame(window.window());
     window.open();
     if (wish.url) view->openUrl(*wish.url);
     const int status = QApplication::exec();
+    if (timed) timed->sumUp();
     std::cout.flush();
     std::quick_exit(status);
 }
@@ -73,11 +77,15 @@ int start(int& count, char** words, const StartWish& wish) {
     SingleInstance instance(*found.host);
     if (instance.role() == SingleInstance::Role::later) return handOver(instance, wish);
     qputenv("QT_MEDIA_BACKEND", "ffmpeg");  // the other backend needs packages that may be missing
-    const QApplication toolkit(count, words);
     QApplication::setApplicationName("tidewell");
     QApplication::setDesktopFileName("io.tidewell.Tidewell");
     QApplication::setQuitOnLastWindowClosed(false);
-    runToQuit(*found.host, instance, wish);
+    if (wish.showsTimings) {
+        TimedApplication toolkit(count, words);
+        runToQuit(*found.host, instance, wish, &toolkit);
+    }
+    const QApplication toolkit(count, words);
+    runToQuit(*found.host, instance, wish, nullptr);
 }
 
 int run(int& count, char** words) {
