@@ -1,0 +1,275 @@
+#include "random_machine.h"
+
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+
+namespace tidewell::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr unsigned nobody = 65534;
+
+/// What a link may lead to, as it is written into the link. "%" stands for the home folder.
+constexpr std::array<const char*, 12> linkTargets = {
+    "%/Documents",
+    "%/Documents/Thesis",
+    "%/Documents/Thesis/thesis.tex",
+    "%/.ssh",
+    "%/Pictures",
+    "%",
+    "/",
+    "..",
+    ".",
+    "../../../Documents",
+    "nowhere",
+    "%/Desktop/notes.txt",
+};
+
+constexpr std::array<const char*, 10> oddNames = {
+    "with\nnewline", "\xff\xfe bytes", "-rf",  " ", "...", "tab\there", "*",
+    "caf\xc3\xa9",   "cafe\xcc\x81",   "%s%n",
+};
+
+/// The user's own, at places and under names that resemble what is cleaned.
+constexpr std::array<const char*, 15> treasurePaths = {
+    "~/Documents/Thesis/thesis.tex",
+    "~/Documents/Thesis/figures/one.pdf",
+    "~/Documents/build/my only novel.txt",
+    "~/Documents/target/goals 2027.txt",
+    "~/Documents/caches/list of caches.txt",
+    "~/Pictures/Photos Library.photoslibrary/originals/1.heic",
+    "~/Desktop/notes.txt",
+    "~/Desktop/build/garden shed.txt",
+    "~/Movies/birthday.mov",
+    "~/Downloads/invoice.pdf",
+    "~/Library/Mail/V10/inbox.mbox",
+    "~/Library/Keychains/login.keychain-db",
+    "~/Library/Caches/CloudKit/records.db",
+    "~/Library/Application Support/AddressBook/people.db",
+    "/Users/Shared/family.txt",
+};
+
+struct Key {
+    const char* path;  ///< a protected one
+    const char* file;  ///< below it, or nothing if it is a file itself
+};
+
+constexpr std::array<Key, 10> keys = {{
+    {"~/.ssh", "/id_ed25519"},
+    {"~/.aws", "/credentials"},
+    {"~/.gnupg", "/private.key"},
+    {"~/.netrc", ""},
+    {"~/.config/gh", "/hosts.yml"},
+    {"~/.cache/huggingface/token", ""},
+    {"~/.cargo/credentials.toml", ""},
+    {"~/.gradle/gradle.properties", ""},
+    {"~/.android/adbkey", ""},
+    {"~/.ollama/id_ed25519", ""},
+}};
+
+constexpr std::array<const char*, 5> projectHomes = {"~/Code", "~/Documents/work", "~/Desktop",
+                                                     "~/src/deep/er", "~/Sites"};
+constexpr std::array<const char*, 6> artifactNames = {"node_modules", "build", "target",
+                                                      ".venv",        "Pods",  "__pycache__"};
+constexpr std::array<const char*, 3> projectMarkers = {"package.json", "Makefile", "Cargo.toml"};
+
+}  // namespace
+
+RandomMachine::RandomMachine(unsigned seed, User wantedUser,
+                             const std::vector<std::string>& cataloguePaths)
+    : user(wantedUser), chance(seed) {
+    layOutTreasures();
+    layOutKeys();
+    layOutProjects();
+    layOutBigItems();
+    layOutApplications();
+    layOutCaches(cataloguePaths);
+    if (user == User::ordinary) giveToUser();
+    if (user == User::superuser) mountSome();
+}
+
+RandomMachine::~RandomMachine() {
+    for (const auto& place : mounts) ::umount2(place.c_str(), MNT_DETACH);
+}
+
+void RandomMachine::layOutTreasures() {
+    for (const char* path : treasurePaths) keep(path, std::string("only copy of ") + path);
+}
+
+/// Some where they belong, some links to where people really keep them: beside caches too.
+void RandomMachine::layOutKeys() {
+    constexpr std::array<const char*, 4> places = {"~/Documents/Vault/", "~/Vault/",
+                                                   "~/.npm/vault/", "~/.gradle/caches/vault/"};
+    for (const auto& [path, file] : keys) {
+        if (chance.percent(30)) continue;
+        if (chance.percent(60)) {
+            keep(path + std::string(file), std::string("secret of ") + path);
+            continue;
+        }
+        const auto place = chance.oneOf(places) + std::to_string(chance.below(1000));
+        keep(place + file, std::string("secret of ") + path);
+        machine.link(path, machine.path(place));
+        treasures.push_back(machine.path(path));
+    }
+}
+
+void RandomMachine::layOutCaches(const std::vector<std::string>& cataloguePaths) {
+    // A cache that is there on every machine, so that each has something to clean.
+    machine.file("~/.npm/_cacache/one", 64 * kilobyte);
+    fill(machine.path("~/.npm/_cacache"), 3);
+    for (std::size_t i = 0; i < 14; ++i) layOutCache(chance.oneOf(cataloguePaths));
+    for (const char* swept : {"~/.cache", "~/Library/Caches"})
+        for (std::size_t i = chance.below(4); i > 0; --i)
+            layOutCache(swept + std::string("/com.example.") + std::to_string(chance.below(99)));
+    fill(machine.path("/var/folders/zz/ada/T"), 2);
+}
+
+void RandomMachine::layOutCache(const std::string& place) {
+    const auto path = machine.path(place);
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(path, ignored))) return;
+    const auto parent = fs::path(path).parent_path();
+    // The disk was full, and somebody moved the folder away and left a link.
+    if (chance.percent(12) && !fs::exists(fs::symlink_status(parent, ignored))) {
+        const bool isPersonal = chance.percent(60);
+        const auto moved =
+            (isPersonal ? "~/Documents/Moved/" : "~/Moved/") + std::to_string(chance.below(1000));
+        const auto inside = machine.path(moved) + "/" + fs::path(path).filename().string();
+        fs::create_directories(inside);
+        fill(inside, 2);
+        fs::create_directories(parent.parent_path(), ignored);
+        fs::create_symlink(machine.path(moved), parent, ignored);
+        return;
+    }
+    if (fs::create_directories(parent, ignored); !fs::is_directory(parent, ignored)) return;
+    if (chance.percent(8)) return linkToSomewhere(path);
+    if (chance.percent(8)) {
+        std::ofstream(path) << "a file where a folder is expected";
+        return;
+    }
+    fs::create_directory(path, ignored);
+    fill(path, 3);
+}
+
+void RandomMachine::layOutProjects() {
+    for (int i = 0; i < 4; ++i) {
+        const auto project =
+            std::string(chance.oneOf(projectHomes)) + "/project " + std::to_string(i);
+        keep(project + "/src/main.c", "years of work");
+        if (chance.percent(70))
+            keep(project + "/" + chance.oneOf(projectMarkers), "of the project's own");
+        const auto artifact = machine.path(project + "/" + chance.oneOf(artifactNames));
+        if (chance.percent(15)) {
+            linkToSomewhere(artifact);
+            continue;
+        }
+        fs::create_directories(artifact);
+        std::ofstream(artifact + "/output") << "made from the source";
+        fill(artifact, 3);
+    }
+}
+
+void RandomMachine::layOutBigItems() {
+    machine.file("~/Games/Tetris/assets.pak", 90 * megabyte);
+    fill(machine.path("~/Games/Tetris"), 2);
+    machine.file("~/Downloads/Paint 3.dmg", 12 * megabyte);
+    // Names that are taken in the Trash already.
+    for (const char* taken : {"Tetris", "Paint 3.dmg", "Notes.app", "com.example.notes.plist"})
+        if (chance.percent(50))
+            machine.text(std::string("~/.Trash/") + taken, "thrown away earlier");
+}
+
+void RandomMachine::layOutApplications() {
+    machine.application("/Applications/Notes.app",
+                        {{"CFBundleName", "Notes"}, {"CFBundleIdentifier", "com.example.notes"}});
+    machine.application(
+        "/Applications/Notes Pro.app",
+        {{"CFBundleName", "Notes Pro"}, {"CFBundleIdentifier", "com.example.notespro"}});
+    treasures.push_back(machine.path("/Applications/Notes Pro.app"));
+    machine.file("~/Library/Application Support/com.example.notes/themes");
+    if (chance.percent(50)) machine.file("~/Library/Containers/com.example.notes/Data/notes.db");
+    machine.text("~/Library/Preferences/com.example.notes.plist", "settings");
+    keep("~/Library/Preferences/com.example.notespro.plist", "settings of another");
+    keep("~/Library/Application Support/com.example.notespro/themes", "of another");
+    if (chance.percent(30))
+        machine.link("~/Library/Logs/com.example.notes", machine.path("~/Documents"));
+    fill(machine.path("~/Library/Application Support/com.example.notes"), 2);
+}
+
+/// What is mounted inside a cache is another disk, or another place of this one.
+void RandomMachine::mountSome() {
+    for (const char* place : {"~/.npm/_cacache/disk", "~/Library/Caches/com.example.disk/files"}) {
+        if (chance.percent(50)) continue;
+        machine.folder(place);
+        const auto where = machine.path(place);
+        const bool isMounted = chance.percent(50)
+                                   ? ::mount(machine.path("~/Documents/Thesis").c_str(),
+                                             where.c_str(), nullptr, MS_BIND, nullptr) == 0
+                                   : ::mount("none", where.c_str(), "tmpfs", 0, "size=1m") == 0;
+        if (!isMounted) continue;
+        mounts.push_back(where);
+        std::ofstream(where + "/on the other disk") << "kept there";
+        treasures.push_back(where);
+    }
+}
+
+void RandomMachine::giveToUser() const {
+    if (::geteuid() != 0) return;
+    const auto give = [](const fs::path& path) { ::lchown(path.c_str(), nobody, nobody); };
+    give(machine.root());
+    for (const auto& entry : fs::recursive_directory_iterator(machine.root())) give(entry.path());
+}
+
+void RandomMachine::keep(std::string_view machinePath, std::string_view content) {
+    machine.text(machinePath, content);
+    treasures.push_back(fs::canonical(machine.path(machinePath)).string());
+}
+
+void RandomMachine::fill(const std::string& folder, int levels) {
+    fs::create_directories(folder);
+    for (std::size_t i = 1 + chance.below(6); i > 0; --i)
+        addEntry(folder + "/" + oddName() + std::to_string(i), levels);
+}
+
+void RandomMachine::addEntry(const std::string& path, int levels) {
+    const auto kind = chance.below(100);
+    if (kind < 35 && levels > 0) {
+        fill(path, levels - 1);
+        if (chance.percent(6)) fs::permissions(path, fs::perms(chance.percent(50) ? 0 : 0555));
+    } else if (kind < 55) {
+        linkToSomewhere(path);
+    } else if (kind < 63) {
+        std::error_code ignored;
+        fs::create_hard_link(machine.path(chance.oneOf(treasurePaths)), path, ignored);
+    } else if (kind < 68) {
+        ::mkfifo(path.c_str(), 0644);
+    } else {
+        std::ofstream(path) << std::string(chance.below(30000), 'x');
+        if (chance.percent(10)) fs::permissions(path, fs::perms(0));
+    }
+}
+
+void RandomMachine::linkToSomewhere(const std::string& path) {
+    std::string target = chance.oneOf(linkTargets);
+    if (target.front() == '%') target = machine.home() + target.substr(1);
+    // A link outside the machine would show faults that are not of the machine's making.
+    if (target == "/") target = machine.root();
+    std::error_code ignored;
+    fs::create_symlink(target, path, ignored);
+}
+
+std::string RandomMachine::oddName() {
+    return chance.percent(30)
+               ? chance.oneOf(oddNames)
+               : std::string(1 + chance.below(3), static_cast<char>('a' + chance.below(26)));
+}
+
+}  // namespace tidewell::test

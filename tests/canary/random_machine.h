@@ -1,0 +1,73 @@
+#pragma once
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "support/sample_machine.h"
+
+namespace tidewell::test {
+
+/// Random choices of one machine, all from one seed.
+class Chance {
+ public:
+    explicit Chance(unsigned seed) : engine_(seed) {}
+
+    /// 0 to below `bound`.
+    std::size_t below(std::size_t bound) {
+        return std::uniform_int_distribution<std::size_t>(0, bound - 1)(engine_);
+    }
+    bool percent(std::size_t share) { return below(100) < share; }
+    template <typename List>
+    const auto& oneOf(const List& list) {
+        return list[below(std::size(list))];
+    }
+
+ private:
+    std::mt19937 engine_;
+};
+
+/// Who the program runs as.
+enum class User {
+    ordinary,   ///< what is forbidden is forbidden
+    superuser,  ///< and folders are mounted inside others
+};
+
+/// A machine that nobody would lay out on purpose: things to clean beside, below, and linked with
+/// what must stay.
+struct RandomMachine {
+    /// `cataloguePaths` are places that the program cleans, as its catalogue has them.
+    RandomMachine(unsigned seed, User wantedUser, const std::vector<std::string>& cataloguePaths);
+    RandomMachine(const RandomMachine&) = delete;
+    RandomMachine& operator=(const RandomMachine&) = delete;
+    /// Takes the mounts away.
+    ~RandomMachine();
+
+    User user;
+    Chance chance;
+    SampleMachine machine;
+    /// Paths on this disk, real ones: whatever the program is asked to do, they and all below them
+    /// stay as they are.
+    std::vector<std::string> treasures;
+    std::vector<std::string> mounts;
+
+ private:
+    void layOutTreasures();
+    void layOutKeys();
+    void layOutCaches(const std::vector<std::string>& cataloguePaths);
+    void layOutProjects();
+    void layOutBigItems();
+    void layOutApplications();
+    void mountSome();
+    void giveToUser() const;
+
+    void keep(std::string_view machinePath, std::string_view content);
+    void layOutCache(const std::string& place);
+    /// Fills a folder of the disk with so many levels of what folders hold, and worse.
+    void fill(const std::string& folder, int levels);
+    void addEntry(const std::string& path, int levels);
+    void linkToSomewhere(const std::string& path);
+    std::string oddName();
+};
+
+}  // namespace tidewell::test

@@ -1,0 +1,118 @@
+#include "rules.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <sstream>
+#include <utility>
+
+#include "platform/text.h"
+
+namespace tidewell::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const char* const keyPaths[] = {
+    ".ssh",
+    ".aws",
+    ".gnupg",
+    ".kube",
+    ".netrc",
+    ".config/gh",
+    ".config/composer/auth.json",
+    ".composer/auth.json",
+    ".cache/huggingface/token",
+    ".cache/huggingface/stored_tokens",
+    ".ollama/id_ed25519",
+    ".ollama/id_ed25519.pub",
+    ".cargo/credentials",
+    ".cargo/credentials.toml",
+    ".gradle/gradle.properties",
+    ".docker/config.json",
+    ".android/adbkey",
+    ".android/debug.keystore",
+};
+
+const std::set<std::string> ownFolders = {"Desktop", "Documents", "Downloads", "Movies",
+                                          "Music",   "Pictures",  "Public",    "Sites"};
+
+const std::set<std::string> buildNames = {
+    "node_modules", "Pods",        ".build",        ".dart_tool", ".next",  ".nuxt",
+    ".gradle",      ".cxx",        ".venv",         "venv",       ".tox",   ".mypy_cache",
+    "__pycache__",  ".terraform",  ".pytest_cache", ".angular",   ".turbo", "build",
+    "target",       "DerivedData", ".parcel-cache"};
+
+bool isIn(const std::string& path, const std::string& folder) {
+    return path.starts_with(folder + "/");
+}
+
+/// The folder's links followed, the entry's own not.
+std::string realPathOf(const std::string& path) {
+    std::error_code missing;
+    const auto parent = fs::canonical(fs::path(path).parent_path(), missing);
+    return missing ? "" : (parent / fs::path(path).filename()).string();
+}
+
+}  // namespace
+
+Rules::Rules(const Snapshot& machine, const std::string& root, std::string home,
+             const Items& reviewed)
+    : root_(root), home_(std::move(home)) {
+    for (const char* name : keyPaths) {
+        const auto path = home_ + "/" + name;
+        std::error_code missing;
+        const auto target = fs::canonical(path, missing);
+        keys_.insert(path);
+        if (missing) continue;
+        keys_.insert(target.string());
+        keys_.insert(realPathOf(path));
+    }
+    // What is no UTF-8 is shown with replacement characters.
+    std::map<std::string, std::string> pathsByText;
+    for (const auto& [path, entry] : machine) pathsByText.emplace(wellFormedText(path), path);
+    for (const auto& item : reviewed) {
+        auto& paths = items_.emplace_back();
+        for (const auto& shown : item) {
+            const auto known = pathsByText.find(shown);
+            paths.push_back(realPathOf(known == pathsByText.end() ? shown : known->second));
+            if (isOpen(paths.back()) && !isKey(paths.back())) areas_.push_back(paths.back());
+        }
+    }
+}
+
+bool Rules::isInArea(const std::string& path) const {
+    return std::ranges::any_of(areas_,
+                               [&](const auto& area) { return path == area || isIn(path, area); });
+}
+
+bool Rules::mayGo(const std::string& path) const {
+    const bool isReviewed = std::ranges::any_of(areas_, [&](const auto& area) {
+        return isIn(path, area) || (path == area && !fs::is_directory(fs::symlink_status(path)));
+    });
+    return isReviewed && isOpen(path) && !isKey(path) && !holdsKey(path);
+}
+
+bool Rules::isOpen(const std::string& path) const {
+    if (isIn(path, root_ + "/var/folders")) return true;
+    if (!isIn(path, home_)) return false;
+    std::istringstream pieces(path.substr(home_.size() + 1));
+    std::string piece;
+    std::getline(pieces, piece, '/');
+    if (!ownFolders.contains(piece)) return true;
+    while (std::getline(pieces, piece, '/'))
+        if (buildNames.contains(piece)) return true;
+    return false;
+}
+
+bool Rules::isKey(const std::string& path) const {
+    return std::ranges::any_of(keys_,
+                               [&](const auto& key) { return path == key || isIn(path, key); });
+}
+
+bool Rules::holdsKey(const std::string& path) const {
+    return std::ranges::any_of(keys_, [&](const auto& key) { return isIn(key, path); });
+}
+
+}  // namespace tidewell::test

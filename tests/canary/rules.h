@@ -1,0 +1,42 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "snapshot.h"
+
+namespace tidewell::test {
+
+/// What a clean may remove from a machine, worked out from its disk alone. Written a second time on
+/// purpose: it shares no line and no table with the program's own guard.
+class Rules {
+ public:
+    using Items = std::vector<std::vector<std::string>>;
+
+    /// `reviewed` are the paths of each item that the program showed before, as it showed them.
+    Rules(const Snapshot& machine, const std::string& root, std::string home,
+          const Items& reviewed);
+
+    /// Whether the entry, by its real path, may be gone afterwards.
+    bool mayGo(const std::string& path) const;
+
+    /// Whether the entry lies at or below a reviewed path in which something may be removed.
+    bool isInArea(const std::string& path) const;
+
+    /// Where the reviewed paths really lie, item by item.
+    const Items& items() const { return items_; }
+
+ private:
+    bool isOpen(const std::string& path) const;
+    bool isKey(const std::string& path) const;
+    bool holdsKey(const std::string& path) const;
+
+    std::string root_;
+    std::string home_;
+    std::set<std::string> keys_;
+    Items items_;
+    std::vector<std::string> areas_;
+};
+
+}  // namespace tidewell::test

@@ -1,0 +1,296 @@
+#include "trial.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "adversary.h"
+#include "platform/json.h"
+#include "platform/path_text.h"
+#include "rules.h"
+#include "snapshot.h"
+#include "support/program_run.h"
+
+namespace tidewell::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Words = std::vector<std::string>;
+using Predicate = std::function<bool(const std::string& path)>;
+
+struct Answer {
+    Value document;
+    Findings findings;  ///< a crash, or an answer that is none
+};
+
+Answer ask(const std::string& program, const RandomMachine& random, Words words) {
+    words.insert(words.end(),
+                 {"--json", "--root", random.machine.root(), "--home", random.machine.home()});
+    auto command = program;
+    if (random.user == User::ordinary && ::geteuid() == 0) {
+        const Words asNobody = {"--reuid=65534", "--regid=65534", "--clear-groups", program};
+        words.insert(words.begin(), asNobody.begin(), asNobody.end());
+        command = "/usr/bin/setpriv";
+    }
+    const auto ended = runProgram(command, words);
+    if (!ended.status || *ended.status > 1)
+        return {{}, {"`" + words.front() + "` ended badly: " + ended.errors}};
+    auto document = parseJson(ended.output);
+    if (!document) return {{}, {"`" + words.front() + "` printed no JSON"}};
+    return {std::move(*document), {}};
+}
+
+const Value::List& listAt(const Value& value, std::string_view key) {
+    static const Value::List none;
+    const auto* member = value.find(key);
+    return member && member->list() ? *member->list() : none;
+}
+
+std::int64_t integerAt(const Value& value, std::string_view key) {
+    const auto* member = value.find(key);
+    return member && member->integer() ? *member->integer() : -1;
+}
+
+std::vector<std::string> textsOf(const Value::List& list) {
+    std::vector<std::string> texts;
+    for (const auto& value : list)
+        if (value.text()) texts.push_back(*value.text());
+    return texts;
+}
+
+/// The paths of each item, as they are shown.
+std::vector<std::vector<std::string>> itemsOf(const Value& document) {
+    std::vector<std::vector<std::string>> items;
+    for (const auto& item : listAt(document, "items"))
+        items.push_back(textsOf(listAt(item, "paths")));
+    return items;
+}
+
+/// Folders that gained or lost an entry: their date may change, and nothing else of them.
+std::set<std::string> touchedFolders(const Snapshot& before, const Snapshot& after) {
+    std::set<std::string> folders;
+    const auto note = [&folders](const Snapshot& from, const Snapshot& in) {
+        for (const auto& [path, entry] : from)
+            if (!in.contains(path)) folders.insert(fs::path(path).parent_path().string());
+    };
+    note(before, after);
+    note(after, before);
+    return folders;
+}
+
+bool isSame(const Entry& before, Entry after, bool isTouched) {
+    if (isTouched && before.isFolder()) after.changed = before.changed;
+    return before == after;
+}
+
+/// All that is neither as it was nor, by `mayChange`, free to go and to come.
+Findings losses(const Snapshot& before, const Snapshot& after, const Predicate& mayChange) {
+    Findings found;
+    const auto touched = touchedFolders(before, after);
+    for (const auto& [path, entry] : before) {
+        const auto now = after.find(path);
+        if (now == after.end()) {
+            if (!mayChange(path)) found.push_back("lost: " + path);
+        } else if (!isSame(entry, now->second, touched.contains(path)) && !mayChange(path)) {
+            found.push_back("changed: " + path);
+        }
+    }
+    for (const auto& [path, entry] : after)
+        if (!before.contains(path) && !mayChange(path)) found.push_back("new: " + path);
+    return found;
+}
+
+/// The program's own settings, which it writes after a clean.
+bool isOwnSettings(const RandomMachine& random, const std::string& path) {
+    const auto& folder = random.machine.host().configurationDirectory;
+    return isAtOrBelow(path, folder) || isAtOrBelow(folder, path);
+}
+
+bool isTreasure(const RandomMachine& random, const std::string& path) {
+    return std::ranges::any_of(random.treasures,
+                               [&](const auto& treasure) { return isAtOrBelow(path, treasure); });
+}
+
+bool holdsTreasure(const RandomMachine& random, const std::string& path) {
+    return std::ranges::any_of(random.treasures,
+                               [&](const auto& treasure) { return isBelow(treasure, path); });
+}
+
+std::int64_t allocatedBytes(const Snapshot& machine, const std::string& folder) {
+    std::int64_t bytes = 0;
+    for (const auto& [path, entry] : below(machine, folder)) bytes += entry.allocated;
+    return bytes;
+}
+
+/// What two measures of each item show to be gone. Items that links make overlap count twice, as
+/// each of them was shown.
+std::int64_t freedBytes(const Snapshot& before, const Snapshot& after, const Rules& rules) {
+    std::int64_t freed = 0;
+    for (const auto& item : rules.items()) {
+        std::int64_t gone = 0;
+        for (const auto& path : item)
+            gone += allocatedBytes(before, path) - allocatedBytes(after, path);
+        freed += std::max<std::int64_t>(gone, 0);
+    }
+    return freed;
+}
+
+/// Folders in which others may do as they like without being to blame for a loss.
+std::vector<std::string> openGround(const RandomMachine& random, const Snapshot& machine,
+                                    const Rules& rules) {
+    std::vector<std::string> folders;
+    for (const auto& [path, entry] : machine)
+        if (entry.isFolder() && rules.mayGo(path) && !isTreasure(random, path) &&
+            !holdsTreasure(random, path))
+            folders.push_back(path);
+    return folders;
+}
+
+/// Where below the Trash something of these contents has come to lie, and was not before.
+bool isInTrash(const Snapshot& before, const Snapshot& after, const std::string& trash,
+               const Snapshot& moved, const std::string& from) {
+    return std::ranges::any_of(after, [&](const auto& candidate) {
+        const auto& to = candidate.first;
+        if (fs::path(to).parent_path() != trash || before.contains(to)) return false;
+        return std::ranges::all_of(moved, [&](const auto& entry) {
+            const auto now = after.find(to + entry.first.substr(from.size()));
+            return now != after.end() && now->second == entry.second;
+        });
+    });
+}
+
+/// A move to the Trash loses nothing: whatever left its place lies there as it was.
+Findings checkMoves(const RandomMachine& random, const Snapshot& before, const Snapshot& after,
+                    const std::vector<std::string>& wanted) {
+    const auto trash = random.machine.path("~/.Trash");
+    auto findings = losses(before, after, [&](const std::string& path) {
+        const bool isWanted =
+            std::ranges::any_of(wanted, [&](const auto& item) { return isAtOrBelow(path, item); });
+        const bool isNewInTrash = isAtOrBelow(path, trash) && !before.contains(path);
+        return !isTreasure(random, path) &&
+               (isWanted || isNewInTrash || isOwnSettings(random, path));
+    });
+    for (const auto& item : wanted) {
+        const auto moved = below(before, item);
+        if (!after.contains(item) && !isInTrash(before, after, trash, moved, item))
+            findings.push_back("not in the Trash as it was: " + item);
+    }
+    return findings;
+}
+
+}  // namespace
+
+std::vector<std::string> Trial::cataloguePaths() const {
+    const auto ended = runProgram(program_, {"catalogue", "--json"});
+    const auto document = parseJson(ended.output).value_or(Value());
+    std::vector<std::string> paths;
+    for (const auto& target : listAt(document, "targets"))
+        for (auto& path : textsOf(listAt(target, "paths"))) paths.push_back(std::move(path));
+    return paths;
+}
+
+Findings Trial::look(const RandomMachine& random) const {
+    const auto before = takeSnapshot(random.machine.root());
+    Findings findings;
+    for (const Words& words :
+         {Words{"scan"}, Words{"clean", "--select", "all"}, Words{"dev"}, Words{"deep-scan"},
+          Words{"uninstall", "com.example.notes"}, Words{"status"}}) {
+        const auto answer = ask(program_, random, words);
+        findings.insert(findings.end(), answer.findings.begin(), answer.findings.end());
+    }
+    const auto changes = losses(before, takeSnapshot(random.machine.root()),
+                                [](const std::string&) { return false; });
+    findings.insert(findings.end(), changes.begin(), changes.end());
+    return findings;
+}
+
+Findings Trial::run(Verb verb, RandomMachine& random) {
+    switch (verb) {
+        case Verb::clean:
+        case Verb::cleanAmongOthers:
+        case Verb::dev:
+            return clean(random, verb);
+        case Verb::trash:
+            return trash(random);
+        case Verb::uninstall:
+            return uninstall(random);
+    }
+    return {};
+}
+
+Findings Trial::clean(RandomMachine& random, Verb verb) {
+    const auto& root = random.machine.root();
+    const Words words = {verb == Verb::dev ? "dev" : "clean", "--select", "all"};
+    const auto shown = ask(program_, random, words);
+    if (!shown.findings.empty()) return shown.findings;
+    const auto before = takeSnapshot(root);
+    const Rules rules(before, root, random.machine.home(), itemsOf(shown.document));
+
+    auto orders = words;
+    orders.push_back("--yes");
+    std::unique_ptr<Adversary> others;
+    if (verb == Verb::cleanAmongOthers)
+        others = std::make_unique<Adversary>(static_cast<unsigned>(random.chance.below(1 << 30)),
+                                             openGround(random, before, rules),
+                                             random.machine.path("~/Documents"));
+    const auto done = ask(program_, random, orders);
+    if (others) tally_.swaps += others->swaps();
+    others.reset();
+    if (!done.findings.empty()) return done.findings;
+
+    const auto after = takeSnapshot(root);
+    auto findings = losses(before, after, [&](const std::string& path) {
+        return !isTreasure(random, path) &&
+               (rules.mayGo(path) || isOwnSettings(random, path) ||
+                (verb == Verb::cleanAmongOthers && rules.isInArea(path)));
+    });
+    const auto said = integerAt(done.document, "freedBytes");
+    const auto freed = freedBytes(before, after, rules);
+    if (verb != Verb::cleanAmongOthers && said != freed)
+        findings.push_back("said to be freed: " + std::to_string(said) + ", but measured are " +
+                           std::to_string(freed));
+    tally_.freedBytes += freed;
+    for (const auto& [path, entry] : before) tally_.removedEntries += !after.contains(path);
+    return findings;
+}
+
+Findings Trial::trash(RandomMachine& random) {
+    const auto listed = ask(program_, random, {"deep-scan"});
+    if (!listed.findings.empty()) return listed.findings;
+    Words ids;
+    for (const auto& item : listAt(listed.document, "items"))
+        if (auto id = item.textAt("id")) ids.push_back(*id);
+    if (ids.empty()) return {"the deep scan found nothing"};
+    const auto id = random.chance.oneOf(ids);
+    const auto before = takeSnapshot(random.machine.root());
+    const auto done = ask(program_, random, {"trash", id, "--yes"});
+    if (!done.findings.empty()) return done.findings;
+    const auto after = takeSnapshot(random.machine.root());
+    tally_.trashed += before.contains(id) && !after.contains(id);
+    return checkMoves(random, before, after, {id});
+}
+
+Findings Trial::uninstall(const RandomMachine& random) {
+    const Words words = {"uninstall", "com.example.notes"};
+    if (!random.machine.has("/Applications/Notes.app")) return {};
+    const auto plan = ask(program_, random, words);
+    if (!plan.findings.empty()) return plan.findings;
+    std::vector<std::string> wanted = {random.machine.path("/Applications/Notes.app")};
+    for (const auto& leftover : listAt(plan.document, "leftovers"))
+        if (auto path = leftover.textAt("path")) wanted.push_back(*path);
+    const auto before = takeSnapshot(random.machine.root());
+    const auto done = ask(program_, random, {words[0], words[1], "--yes"});
+    if (!done.findings.empty()) return done.findings;
+    const auto after = takeSnapshot(random.machine.root());
+    tally_.uninstalled += !after.contains(wanted.front());
+    return checkMoves(random, before, after, wanted);
+}
+
+}  // namespace tidewell::test
