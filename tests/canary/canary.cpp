@@ -21,12 +21,13 @@ using namespace tidewell::test;
 
 namespace fs = std::filesystem;
 
-constexpr Verb verbs[] = {Verb::clean, Verb::cleanAmongOthers, Verb::cleanAmongOthers, Verb::dev,
-                          Verb::trash, Verb::uninstall};
+constexpr Verb verbs[] = {
+    Verb::clean, Verb::cleanAmongOthers, Verb::cleanAmongOthers, Verb::cleanKilled, Verb::dev,
+    Verb::trash, Verb::uninstall,        Verb::uninstallKilled};
 
 struct Call {
     std::string program;
-    unsigned machines = 120;
+    unsigned machines = 60;
     unsigned seed = 1;
 };
 
@@ -73,7 +74,7 @@ Findings tryMachine(Trial& trial, unsigned seed, bool mounts) {
 
 bool hasProvenSomething(const Trial::Tally& tally, unsigned machines) {
     return machines < 50 || (tally.removedEntries > 0 && tally.trashed > 0 &&
-                             tally.uninstalled > 0 && tally.swaps > 0);
+                             tally.uninstalled > 0 && tally.swaps > 0 && tally.kills > 0);
 }
 
 }  // namespace
@@ -99,7 +100,7 @@ int main(int count, char** words) {
     const auto& tally = trial.tally();
     std::cout << "canary: removed " << tally.removedEntries << " entries with " << tally.freedBytes
               << " bytes, moved " << tally.trashed << " items and " << tally.uninstalled
-              << " applications to the Trash, met " << tally.swaps << " swaps; " << bad
-              << " machines with losses\n";
+              << " applications to the Trash, met " << tally.swaps << " swaps, was killed "
+              << tally.kills << " times; " << bad << " machines with losses\n";
     return bad == 0 && hasProvenSomething(tally, call.machines) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -93,7 +93,11 @@ RandomMachine::RandomMachine(unsigned seed, User wantedUser,
     layOutApplications();
     layOutCaches(cataloguePaths);
     if (user == User::ordinary) giveToUser();
+    if (user == User::ordinary && chance.percent(5))
+        fs::permissions(machine.home(), fs::perms(0555));
     if (user == User::superuser) mountSome();
+    if (user == User::superuser && chance.percent(20)) fillDiskOfSettings();
+    if (chance.percent(15)) descriptors = 64;
 }
 
 RandomMachine::~RandomMachine() {
@@ -219,6 +223,14 @@ void RandomMachine::mountSome() {
         std::ofstream(where + "/on the other disk") << "kept there";
         treasures.push_back(where);
     }
+}
+
+void RandomMachine::fillDiskOfSettings() {
+    const auto& folder = machine.host().configurationDirectory;
+    fs::create_directories(folder);
+    if (::mount("none", folder.c_str(), "tmpfs", 0, "size=4k") != 0) return;
+    mounts.push_back(folder);
+    std::ofstream(folder + "/somebody's") << std::string(8192, 'x');
 }
 
 void RandomMachine::giveToUser() const {

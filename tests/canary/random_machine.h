@@ -50,6 +50,8 @@ struct RandomMachine {
     /// stay as they are.
     std::vector<std::string> treasures;
     std::vector<std::string> mounts;
+    /// How many descriptors the program may have open.
+    int descriptors = 1024;
 
  private:
     void layOutTreasures();
@@ -59,6 +61,7 @@ struct RandomMachine {
     void layOutBigItems();
     void layOutApplications();
     void mountSome();
+    void fillDiskOfSettings();
     void giveToUser() const;
 
     void keep(std::string_view machinePath, std::string_view content);

@@ -7,6 +7,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
+#include <set>
 #include <utility>
 
 #include "adversary.h"
@@ -28,22 +30,39 @@ using Predicate = std::function<bool(const std::string& path)>;
 struct Answer {
     Value document;
     Findings findings;  ///< a crash, or an answer that is none
+    bool wasKilled = false;
 };
 
-Answer ask(const std::string& program, const RandomMachine& random, Words words) {
+/// The words that start the program as its user would, and with what the user may.
+Words startWords(const std::string& program, const RandomMachine& random) {
+    Words words = {"/usr/bin/prlimit", "--nofile=" + std::to_string(random.descriptors)};
+    if (random.user == User::ordinary && ::geteuid() == 0)
+        for (const char* word : {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"})
+            words.push_back(word);
+    words.push_back(program);
+    return words;
+}
+
+constexpr int killed = 128 + 9;
+
+/// `orders` are the words for the program; it is killed after so many milliseconds, if that is
+/// said.
+Answer ask(const std::string& program, const RandomMachine& random, const Words& orders,
+           std::optional<std::size_t> killAfter = {}) {
+    auto words = startWords(program, random);
+    words.insert(words.end(), orders.begin(), orders.end());
     words.insert(words.end(),
                  {"--json", "--root", random.machine.root(), "--home", random.machine.home()});
-    auto command = program;
-    if (random.user == User::ordinary && ::geteuid() == 0) {
-        const Words asNobody = {"--reuid=65534", "--regid=65534", "--clear-groups", program};
-        words.insert(words.begin(), asNobody.begin(), asNobody.end());
-        command = "/usr/bin/setpriv";
+    if (killAfter) {
+        const auto seconds = std::to_string(static_cast<double>(*killAfter) / 1000);
+        words.insert(words.begin(), {"/usr/bin/timeout", "--signal=KILL", seconds});
     }
-    const auto ended = runProgram(command, words);
+    const auto ended = runProgram(words.front(), {words.begin() + 1, words.end()});
+    if (killAfter && (!ended.status || ended.status == killed)) return {{}, {}, true};
     if (!ended.status || *ended.status > 1)
-        return {{}, {"`" + words.front() + "` ended badly: " + ended.errors}};
+        return {{}, {"`" + orders.front() + "` ended badly: " + ended.errors}};
     auto document = parseJson(ended.output);
-    if (!document) return {{}, {"`" + words.front() + "` printed no JSON"}};
+    if (!document) return {{}, {"`" + orders.front() + "` printed no JSON"}};
     return {std::move(*document), {}};
 }
 
@@ -166,6 +185,12 @@ bool isInTrash(const Snapshot& before, const Snapshot& after, const std::string&
     });
 }
 
+/// Milliseconds; a whole run takes some tens of them.
+std::optional<std::size_t> momentOfKill(RandomMachine& random, Verb verb) {
+    if (verb != Verb::cleanKilled && verb != Verb::uninstallKilled) return std::nullopt;
+    return 1 + random.chance.below(60);
+}
+
 /// A move to the Trash loses nothing: whatever left its place lies there as it was.
 Findings checkMoves(const RandomMachine& random, const Snapshot& before, const Snapshot& after,
                     const std::vector<std::string>& wanted) {
@@ -215,12 +240,14 @@ Findings Trial::run(Verb verb, RandomMachine& random) {
     switch (verb) {
         case Verb::clean:
         case Verb::cleanAmongOthers:
+        case Verb::cleanKilled:
         case Verb::dev:
             return clean(random, verb);
         case Verb::trash:
             return trash(random);
         case Verb::uninstall:
-            return uninstall(random);
+        case Verb::uninstallKilled:
+            return uninstall(random, verb);
     }
     return {};
 }
@@ -240,7 +267,8 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
         others = std::make_unique<Adversary>(static_cast<unsigned>(random.chance.below(1 << 30)),
                                              openGround(random, before, rules),
                                              random.machine.path("~/Documents"));
-    const auto done = ask(program_, random, orders);
+    const auto done = ask(program_, random, orders, momentOfKill(random, verb));
+    tally_.kills += done.wasKilled;
     if (others) tally_.swaps += others->swaps();
     others.reset();
     if (!done.findings.empty()) return done.findings;
@@ -253,12 +281,12 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     });
     const auto said = integerAt(done.document, "freedBytes");
     const auto freed = freedBytes(before, after, rules);
-    if (verb != Verb::cleanAmongOthers && said != freed)
+    if (!done.wasKilled && verb != Verb::cleanAmongOthers && said != freed)
         findings.push_back("said to be freed: " + std::to_string(said) + ", but measured are " +
                            std::to_string(freed));
     tally_.freedBytes += freed;
     for (const auto& [path, entry] : before) tally_.removedEntries += !after.contains(path);
-    return findings;
+    return done.wasKilled && findings.empty() ? clean(random, Verb::clean) : findings;
 }
 
 Findings Trial::trash(RandomMachine& random) {
@@ -277,7 +305,7 @@ Findings Trial::trash(RandomMachine& random) {
     return checkMoves(random, before, after, {id});
 }
 
-Findings Trial::uninstall(const RandomMachine& random) {
+Findings Trial::uninstall(RandomMachine& random, Verb verb) {
     const Words words = {"uninstall", "com.example.notes"};
     if (!random.machine.has("/Applications/Notes.app")) return {};
     const auto plan = ask(program_, random, words);
@@ -286,11 +314,14 @@ Findings Trial::uninstall(const RandomMachine& random) {
     for (const auto& leftover : listAt(plan.document, "leftovers"))
         if (auto path = leftover.textAt("path")) wanted.push_back(*path);
     const auto before = takeSnapshot(random.machine.root());
-    const auto done = ask(program_, random, {words[0], words[1], "--yes"});
+    const auto done =
+        ask(program_, random, {words[0], words[1], "--yes"}, momentOfKill(random, verb));
+    tally_.kills += done.wasKilled;
     if (!done.findings.empty()) return done.findings;
     const auto after = takeSnapshot(random.machine.root());
     tally_.uninstalled += !after.contains(wanted.front());
-    return checkMoves(random, before, after, wanted);
+    auto findings = checkMoves(random, before, after, wanted);
+    return done.wasKilled && findings.empty() ? uninstall(random, Verb::uninstall) : findings;
 }
 
 }  // namespace tidewell::test

@@ -8,7 +8,15 @@
 namespace tidewell::test {
 
 /// What is done to a machine.
-enum class Verb { clean, cleanAmongOthers, dev, trash, uninstall };
+enum class Verb {
+    clean,
+    cleanAmongOthers,  ///< while other programs work in the same folders
+    cleanKilled,       ///< killed on the way, and then once more
+    dev,
+    trash,
+    uninstall,
+    uninstallKilled,
+};
 
 /// What went wrong, a line each; empty if all that the rules do not allow to go stayed as it was.
 using Findings = std::vector<std::string>;
@@ -32,13 +40,14 @@ class Trial {
         int trashed = 0;
         int uninstalled = 0;
         int swaps = 0;
+        int kills = 0;
     };
     const Tally& tally() const { return tally_; }
 
  private:
     Findings clean(RandomMachine& random, Verb verb);
     Findings trash(RandomMachine& random);
-    Findings uninstall(const RandomMachine& random);
+    Findings uninstall(RandomMachine& random, Verb verb);
 
     std::string program_;
     Tally tally_;
