@@ -17,6 +17,11 @@ Item {
     /// Share of the circle, from the start on, over which the colours go from deep to soft.
     property real gradientSpan: span
     property real glow: 0.35
+    property color deep: sectionPalette.deep
+    property color primary: sectionPalette.primary
+    property color soft: sectionPalette.soft
+    /// Opacity of the white below what is not filled.
+    property real track: Theme.track.a
 
     readonly property bool hasShaders: GraphicsInfo.api !== GraphicsInfo.Software
 
@@ -25,9 +30,9 @@ Item {
     Accessible.ignored: true
 
     ShaderEffect {
-        readonly property color deep: root.sectionPalette.deep
-        readonly property color primary: root.sectionPalette.primary
-        readonly property color soft: root.sectionPalette.soft
+        readonly property color deep: root.deep
+        readonly property color primary: root.primary
+        readonly property color soft: root.soft
         readonly property real extent: width
         readonly property real diameter: root.diameter
         readonly property real lineWidth: root.lineWidth
@@ -36,7 +41,7 @@ Item {
         readonly property real fill: root.fill
         readonly property real gradientSpan: root.gradientSpan
         readonly property real glow: root.glow
-        readonly property real track: Theme.track.a
+        readonly property real track: root.track
         readonly property real pixel: 1 / Screen.devicePixelRatio
 
         anchors.centerIn: parent
@@ -53,7 +58,7 @@ Item {
         visible: !root.hasShaders
 
         ShapePath {
-            strokeColor: Theme.track
+            strokeColor: Qt.rgba(1, 1, 1, root.track)
             strokeWidth: root.lineWidth
             fillColor: "transparent"
             capStyle: ShapePath.FlatCap
@@ -67,7 +72,7 @@ Item {
             }
         }
         ShapePath {
-            strokeColor: root.sectionPalette.primary
+            strokeColor: root.fill > 0 ? root.primary : "transparent"
             strokeWidth: root.lineWidth
             fillColor: "transparent"
             capStyle: ShapePath.RoundCap

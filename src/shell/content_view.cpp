@@ -24,10 +24,11 @@ ContentView::ContentView(Application& application)
       permissions(std::make_shared<PermissionsModel>(application.host, application.workspace,
                                                      application.didBecomeActive)),
       theme(std::make_shared<ThemeEngine>(application.host, application.didBecomeActive)),
+      sums(std::make_shared<LiveSums>(UserDefaults(application.host.configurationDirectory))),
       application_(application),
       defaults_(application.host.configurationDirectory) {
     hasOnboarded = defaults_.boolean(onboardedKey);
-    cleanupObserver_ = onChanged(cleanupModel->willChange, [this] { refreshThemeWhenCleaned(); });
+    cleanupObserver_ = onChanged(cleanupModel->willChange, [this] { refreshWhenCleaned(); });
     auto& notifications = application.notifications;
     registrations_ = {
         notifications.observe(runScanNotification, [this](const auto&) { scanEverything(); }),
@@ -46,6 +47,7 @@ std::vector<Mode> ContentView::sidebarModes() const {
 }
 
 void ContentView::appear() {
+    sums->read();
     auto& bridge = application_.bridge;
     if (bridge.autoStartScan) {
         bridge.autoStartScan = false;
@@ -83,10 +85,12 @@ void ContentView::openSection(const std::optional<std::string>& name) {
     if (const auto section = name ? modeNamed(*name) : std::nullopt) mode = *section;
 }
 
-void ContentView::refreshThemeWhenCleaned() {
+void ContentView::refreshWhenCleaned() {
     const auto phase = cleanupModel->phase();
     if (std::exchange(lastCleanupPhase_, phase) == phase) return;
-    if (phase == CleanupViewModel::Phase::done) theme->refresh();
+    if (phase != CleanupViewModel::Phase::done) return;
+    theme->refresh();
+    sums->read();
 }
 
 }  // namespace tidewell

@@ -11,6 +11,7 @@
 #include "apps/apps_view_model.h"
 #include "async/observable.h"
 #include "cleanup/cleanup_view_model.h"
+#include "cleanup/live_sums.h"
 #include "deepscan/deep_scan_view_model.h"
 #include "devmode/dev_mode_view_model.h"
 #include "performance/performance_view_model.h"
@@ -46,6 +47,7 @@ class ContentView : public std::enable_shared_from_this<ContentView> {
     const std::shared_ptr<SmartScanController> smartScan;
     const std::shared_ptr<PermissionsModel> permissions;
     const std::shared_ptr<ThemeEngine> theme;
+    const std::shared_ptr<LiveSums> sums;
 
     Published<Mode> mode{willChange, Mode::home};
     /// Whether the first-run screen was finished, now or in an earlier run of the program.
@@ -73,7 +75,7 @@ class ContentView : public std::enable_shared_from_this<ContentView> {
  private:
     void scanEverything();
     void openSection(const std::optional<std::string>& name);
-    void refreshThemeWhenCleaned();
+    void refreshWhenCleaned();
 
     Application& application_;
     UserDefaults defaults_;

@@ -7,8 +7,6 @@ FocusScope {
 
     required property ScanScreen screen
 
-    Component.onCompleted: screen.open()
-
     Column {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -8

@@ -2,21 +2,18 @@
 
 #include <utility>
 
-#include "cleanup/stored_sums.h"
-
 namespace tidewell {
 
-ScanScreen::ScanScreen(std::shared_ptr<CleanupViewModel> model, UserDefaults defaults,
+ScanScreen::ScanScreen(std::shared_ptr<CleanupViewModel> model, std::shared_ptr<LiveSums> sums,
                        QObject* parent)
-    : Screen(parent), model_(std::move(model)), defaults_(std::move(defaults)) {
+    : Screen(parent), model_(std::move(model)), sums_(std::move(sums)) {
     observe(model_->willChange);
+    observe(sums_->willChange);
     update();
 }
 
 void ScanScreen::update() {
-    // The sum lies on the disk: it is not read at each step of a progress that does not show it.
-    const bool showsSum = model_->phase() == CleanupViewModel::Phase::idle;
-    content_ = scanContent(*model_, showsSum ? defaults_.integer(totalFreedBytesKey) : 0);
+    content_ = scanContent(*model_, sums_->totalFreedBytes());
 }
 
 void ScanScreen::startScan() {

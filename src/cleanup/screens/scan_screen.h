@@ -4,10 +4,10 @@
 
 #include <memory>
 
+#include "cleanup/live_sums.h"
 #include "cleanup/screens/scan_content.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
-#include "platform/user_defaults.h"
 
 namespace tidewell {
 
@@ -27,7 +27,8 @@ class ScanScreen final : public Screen {
     Q_PROPERTY(QString soFarSymbol READ soFarSymbol CONSTANT)
 
  public:
-    ScanScreen(std::shared_ptr<CleanupViewModel> model, UserDefaults defaults, QObject* parent);
+    ScanScreen(std::shared_ptr<CleanupViewModel> model, std::shared_ptr<LiveSums> sums,
+               QObject* parent);
 
     bool isScanning() const { return content_.isScanning; }
     double progress() const { return model_->scanProgress(); }
@@ -40,15 +41,13 @@ class ScanScreen final : public Screen {
     static QString scanningWord() { return toText(tidewell::scanningWord); }
     static QString soFarSymbol() { return toText(tidewell::soFarSymbol); }
 
-    /// To be called when the screen comes into sight, for the stored sum may have grown elsewhere.
-    Q_INVOKABLE void open() { refresh(); }
     Q_INVOKABLE void startScan();
 
  private:
     void update() override;
 
     const std::shared_ptr<CleanupViewModel> model_;
-    const UserDefaults defaults_;
+    const std::shared_ptr<LiveSums> sums_;
     ScanContent content_;
 };
 

@@ -9,7 +9,10 @@
 namespace tidewell {
 
 MainWindow::MainWindow(Application& application, std::shared_ptr<ContentView> view)
-    : application_(application), view_(std::move(view)), screen_(view_) {
+    : application_(application),
+      view_(std::move(view)),
+      storedSums_(application.host.configurationDirectory, [this] { view_->sums->read(); }),
+      screen_(view_) {
     importTidewellModule(engine_);
     engine_.setInitialProperties({{"windowScreen", QVariant::fromValue(&screen_)}});
     engine_.load(QUrl("qrc:/Tidewell/shell/screens/TidewellWindow.qml"));

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "shell/qt/folder_watch.h"
 #include "shell/screens/window_screen.h"
 
 namespace tidewell {
@@ -28,6 +29,8 @@ class MainWindow {
  private:
     Application& application_;
     const std::shared_ptr<ContentView> view_;
+    /// The command line may clean beside the window.
+    FolderWatch storedSums_;
     WindowScreen screen_;
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;  ///< the engine's

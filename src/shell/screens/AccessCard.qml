@@ -1,13 +1,20 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
 /// Whether Full Disk Access is granted: a quiet row if it is, else a card with the way there.
-Loader {
+Item {
     id: root
 
     required property WindowScreen screen
 
-    sourceComponent: screen.hasFullDiskAccess ? granted : missing
+    implicitHeight: look.implicitHeight
+
+    Loader {
+        id: look
+        width: parent.width
+        sourceComponent: root.screen.hasFullDiskAccess ? granted : missing
+    }
 
     Component {
         id: granted

@@ -1,8 +1,9 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
 /// The place of the tools' screens. A new one fades in, and has the keyboard if the last one had it.
-Loader {
+FocusScope {
     id: root
 
     required property WindowScreen screen
@@ -11,20 +12,6 @@ Loader {
     property bool showsFocus: false
 
     focus: true
-    sourceComponent: {
-        switch (screen.detailView) {
-        case "ScanView": return scanView
-        case "ReviewView": return reviewView
-        case "CleanedView": return cleanedView
-        }
-        return null
-    }
-    onLoaded: {
-        if (Motion.hasPassages)
-            fade.restart()
-        if (activeFocus)
-            item.forceActiveFocus(showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
-    }
 
     Window.onActiveFocusItemChanged: {
         const control = Window.activeFocusItem as Pressable
@@ -32,16 +19,44 @@ Loader {
             showsFocus = control.visualFocus
     }
 
-    NumberAnimation {
-        id: fade
-        target: root.item
-        property: "opacity"
-        from: 0
-        to: 1
-        duration: 180
-        easing.type: Easing.OutCubic
+    Loader {
+        id: place
+        anchors.fill: parent
+        focus: true
+        sourceComponent: {
+            switch (root.screen.detailView) {
+            case "HomeView": return homeView
+            case "ScanView": return scanView
+            case "ReviewView": return reviewView
+            case "CleanedView": return cleanedView
+            }
+            return null
+        }
+        onLoaded: {
+            if (Motion.hasPassages)
+                fade.restart()
+            if (activeFocus)
+                (item as Item).forceActiveFocus(root.showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+        }
+
+        NumberAnimation {
+            id: fade
+            target: place.item
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: 180
+            easing.type: Easing.OutCubic
+        }
     }
 
+    Component {
+        id: homeView
+        HomeView {
+            screen: root.screen.home
+            smartScan: root.screen.smartScan
+        }
+    }
     Component {
         id: scanView
         ScanView { screen: root.screen.scan }

@@ -22,12 +22,12 @@ Window {
     }
 
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequences: [StandardKey.Quit] // qmllint disable unqualified
         context: Qt.ApplicationShortcut
         onActivated: Qt.quit()
     }
     Shortcut {
-        sequences: [StandardKey.Close]
+        sequences: [StandardKey.Close] // qmllint disable unqualified
         onActivated: root.close()
     }
     Instantiator {

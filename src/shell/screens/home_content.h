@@ -48,6 +48,8 @@ std::optional<Date> lastCleanupDate(double lastCleanupAt);
 struct StatCellContent {
     std::string_view label;
     std::string value;
+
+    bool operator==(const StatCellContent&) const = default;
 };
 
 /// A tool's card with its latest result. A tap opens the section.
@@ -57,6 +59,8 @@ struct HomeToolContent {
     std::string_view title;
     std::string_view description;  ///< two lines
     std::string value;
+
+    bool operator==(const HomeToolContent&) const = default;
 };
 
 struct HomeContent {

@@ -17,6 +17,7 @@ namespace tidewell {
 // view models behind it. Pure. Where something has a section, it is drawn in that section's accent.
 
 inline constexpr std::string_view stopScanLabel = "Stop";
+inline constexpr std::string_view backToOverviewLabel = "Back";
 inline constexpr std::string_view backSymbol = "chevron.left";
 inline constexpr std::string_view primaryActionSymbol = "arrow.right";
 inline constexpr std::string_view finishedCardSymbol = "checkmark.circle.fill";
@@ -26,6 +27,8 @@ struct RingSegmentContent {
     Mode section = Mode::clean;
     double fill = 0;       ///< 0 to 1
     bool warming = false;  ///< at work without a known progress
+
+    bool operator==(const RingSegmentContent&) const = default;
 };
 
 /// What stands inside the ring: while running a symbol and a percentage, afterwards what was found,
@@ -48,12 +51,16 @@ struct ToolCardContent {
     std::string_view hoverMark;  ///< the same under the pointer
     double opacity = 1;
     bool opens = false;  ///< whether a tap opens the tool
+
+    bool operator==(const ToolCardContent&) const = default;
 };
 
 struct InsightContent {
     std::string_view symbol;
     std::string text;
     Mode section = Mode::clean;
+
+    bool operator==(const InsightContent&) const = default;
 };
 
 struct PrimaryActionContent {

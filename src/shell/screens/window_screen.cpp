@@ -30,7 +30,9 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, QObject* parent)
     : Screen(parent),
       view_(std::move(view)),
       rows_(rowKey, rowRoles(), this),
-      scan_(view_->cleanupModel, UserDefaults(view_->host().configurationDirectory), this),
+      home_(view_, this),
+      smartScan_(view_, this),
+      scan_(view_->cleanupModel, view_->sums, this),
       review_(view_->cleanupModel, view_->theme, this),
       cleaned_(view_->cleanupModel, this) {
     observe(view_->willChange);

@@ -11,6 +11,8 @@
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "shell/screens/home_screen.h"
+#include "shell/screens/smart_scan_screen.h"
 #include "shell/screens/window_content.h"
 
 namespace tidewell {
@@ -29,6 +31,8 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(bool isPlayingIntro READ isPlayingIntro NOTIFY changed)
     Q_PROPERTY(double introHomeOpacity READ introHomeOpacity NOTIFY changed)
     Q_PROPERTY(bool showsAbout READ showsAbout NOTIFY changed)
+    Q_PROPERTY(tidewell::HomeScreen* home READ home CONSTANT)
+    Q_PROPERTY(tidewell::SmartScanScreen* smartScan READ smartScan CONSTANT)
     Q_PROPERTY(tidewell::ScanScreen* scan READ scan CONSTANT)
     Q_PROPERTY(tidewell::ReviewScreen* review READ review CONSTANT)
     Q_PROPERTY(tidewell::CleanedScreen* cleaned READ cleaned CONSTANT)
@@ -51,6 +55,8 @@ class WindowScreen final : public Screen {
     bool isPlayingIntro() const { return view_->playingIntro(); }
     double introHomeOpacity() const { return view_->introHomeOpacity(); }
     bool showsAbout() const { return view_->showAbout(); }
+    HomeScreen* home() { return &home_; }
+    SmartScanScreen* smartScan() { return &smartScan_; }
     ScanScreen* scan() { return &scan_; }
     ReviewScreen* review() { return &review_; }
     CleanedScreen* cleaned() { return &cleaned_; }
@@ -77,6 +83,8 @@ class WindowScreen final : public Screen {
     const std::shared_ptr<ContentView> view_;
     WindowContent content_;
     ListModel<SidebarRowContent> rows_;
+    HomeScreen home_;
+    SmartScanScreen smartScan_;
     ScanScreen scan_;
     ReviewScreen review_;
     CleanedScreen cleaned_;

@@ -13,6 +13,7 @@ struct ScreenState {
 };
 
 // The states of each section's screens, one file of this folder a section.
+std::vector<ScreenState> homeStates();
 std::vector<ScreenState> cleanStates();
 
 /// All of them.

@@ -1,0 +1,29 @@
+#include "shell/qt/folder_watch.h"
+
+#include <QtCore/qfile.h>
+#include <QtCore/qfileinfo.h>
+
+#include <utility>
+
+namespace tidewell {
+
+FolderWatch::FolderWatch(const std::string& folder, std::function<void()> changed)
+    : folder_(QFile::decodeName(folder.c_str())) {
+    follow();
+    QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &watcher_,
+                     [this, changed = std::move(changed)] {
+                         follow();
+                         changed();
+                     });
+}
+
+void FolderWatch::follow() {
+    const QFileInfo folder(folder_);
+    const auto wanted = folder.isDir() ? folder_ : folder.path();
+    const auto watched = watcher_.directories();
+    if (watched.contains(wanted) || !QFileInfo(wanted).isDir()) return;
+    if (!watched.isEmpty()) watcher_.removePaths(watched);
+    watcher_.addPath(wanted);
+}
+
+}  // namespace tidewell

@@ -1,0 +1,118 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// The disk: what is free, how much is used, and what was won back so far.
+GlowCard {
+    id: root
+
+    required property HomeScreen screen
+
+    padding: 26
+    vivid: true
+    featured: true
+    cornerRadius: 24
+    implicitHeight: 218
+
+    Label {
+        id: caption
+        text: root.screen.freeFigureLabel
+        size: 11
+        weight: Font.DemiBold
+        font.letterSpacing: 1.5
+        color: Theme.secondary
+    }
+    CountUpBytes {
+        id: figure
+        anchors.top: caption.bottom
+        anchors.topMargin: 2
+        anchors.left: parent.left
+        anchors.leftMargin: -2
+        target: root.screen.freeBytes
+        size: 54
+    }
+    Row {
+        anchors.top: figure.bottom
+        anchors.topMargin: 4
+        spacing: 7
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: root.screen.winningsSymbol
+            size: 16
+            tint: Ambient.palette.primary
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.screen.winnings
+            size: 12.5
+            color: Theme.secondary
+        }
+    }
+    Row {
+        anchors.bottom: parent.bottom
+        spacing: 34
+
+        Repeater {
+            model: root.screen.stats
+
+            Column {
+                id: cell
+
+                required property string label
+                required property string value
+
+                spacing: 2
+                Accessible.role: Accessible.StaticText
+                Accessible.name: label
+                Accessible.description: value
+
+                Label {
+                    text: cell.label
+                    size: 11.5
+                    color: Theme.faint
+                    Accessible.ignored: true
+                }
+                FigureText {
+                    text: cell.value
+                    size: 16
+                    weight: Font.DemiBold
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+
+    DotGauge {
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        diameter: 182
+        used: root.screen.usedFraction
+        Accessible.ignored: false
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: root.screen.gaugeCaption
+        Accessible.description: root.screen.usedPercent
+
+        Column {
+            anchors.centerIn: parent
+            spacing: -2
+
+            FigureText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: root.screen.usedPercent
+                size: 30
+                weight: Font.Bold
+                isRounded: true
+                Accessible.ignored: true
+            }
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: root.screen.gaugeCaption
+                size: 12
+                color: Theme.secondary
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,104 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// How full the disk is, what was won back, and each tool's latest result.
+FocusScope {
+    id: root
+
+    required property HomeScreen screen
+
+    readonly property real margin: 34
+
+    Component.onCompleted: screen.open()
+
+    ScrollArea {
+        anchors.fill: parent
+        contentHeight: column.y + column.height + 26
+
+        ScreenHeader {
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin
+            anchors.right: actions.left
+            anchors.rightMargin: 20
+            y: 30
+            title: root.screen.title
+            subtitle: root.screen.subtitle
+        }
+        Row {
+            id: actions
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin
+            y: 33
+            spacing: 14
+
+            HealthPill {
+                anchors.verticalCenter: parent.verticalCenter
+                label: root.screen.healthLabel
+                tint: root.screen.healthColor
+
+                Tip {
+                    text: root.screen.healthMessage
+                    visible: healthHover.hovered
+                }
+                HoverHandler { id: healthHover }
+            }
+            PillButton {
+                focus: true
+                symbol: root.screen.scanSymbol
+                text: root.screen.scanLabel
+                onClicked: root.screen.startScan()
+            }
+        }
+
+        Column {
+            id: column
+            x: root.margin
+            y: 108
+            width: parent.width - 2 * root.margin
+            spacing: 14
+
+            AccessBanner {
+                width: parent.width
+                visible: root.screen.showsAccessBanner
+                screen: root.screen
+            }
+            DiskCard {
+                width: parent.width
+                screen: root.screen
+            }
+            Grid {
+                id: tools
+
+                readonly property real cardWidth: (width - columnSpacing) / columns
+
+                width: parent.width
+                columns: 2
+                columnSpacing: 14
+                rowSpacing: 14
+
+                Repeater {
+                    model: root.screen.tools
+
+                    HomeToolCard {
+                        required property int index
+                        required symbol
+                        required property string title
+                        required lines
+                        required value
+                        required property sectionPalette accent
+
+                        width: tools.cardWidth
+                        text: title
+                        Ambient.palette: accent
+                        onClicked: root.screen.openTool(index)
+                    }
+                }
+            }
+            ScheduleStrip {
+                width: parent.width
+                screen: root.screen
+            }
+        }
+    }
+}

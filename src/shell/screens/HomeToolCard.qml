@@ -1,0 +1,73 @@
+import QtQuick
+import Tidewell
+
+/// A tool with its latest result; pressing it opens the tool.
+Pressable {
+    id: root
+
+    property string symbol
+    property string lines
+    property string value
+
+    implicitHeight: 112
+    padding: 20
+    cornerRadius: 20
+    pressedScale: 0.985
+    description: lines.replace("\n", " ") + ". " + value
+
+    background: GlowCard {
+        cornerRadius: root.cornerRadius
+        lift: root.lift
+    }
+    contentItem: Item {
+        GlossyBlob {
+            id: blob
+            anchors.verticalCenter: parent.verticalCenter
+            size: 50
+            symbol: root.symbol
+            lift: root.lift
+        }
+        Column {
+            anchors.left: blob.right
+            anchors.leftMargin: 18
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 3
+
+            Label {
+                text: root.text
+                size: 15.5
+                weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+            Label {
+                text: root.lines
+                size: 12
+                lineHeight: 1.15
+                color: Theme.secondary
+                Accessible.ignored: true
+            }
+        }
+        Row {
+            anchors.right: parent.right
+            anchors.rightMargin: -4
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: -4
+            spacing: 3
+
+            Label {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.value
+                size: 12.5
+                weight: Font.DemiBold
+                color: Ambient.palette.soft
+                Accessible.ignored: true
+            }
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "chevron.right"
+                size: 15
+                tint: Ambient.palette.soft
+            }
+        }
+    }
+}

@@ -1,0 +1,185 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// One scan over four tools: the ring says how far it is, the cards what each tool found.
+FocusScope {
+    id: root
+
+    required property SmartScanScreen screen
+
+    readonly property bool isRunning: screen.isRunning
+
+    onIsRunningChanged: takeKeyboard()
+    Component.onCompleted: takeKeyboard()
+
+    /// The keyboard is at what most people do next.
+    function takeKeyboard() {
+        if (isRunning)
+            stopButton.focus = true
+        else if (primaryButton.visible)
+            primaryButton.focus = true
+        else
+            backButton.focus = true
+    }
+
+    ScrollArea {
+        anchors.fill: parent
+        contentHeight: Math.max(height, column.height + 2 * column.margin)
+
+        Column {
+            id: column
+
+            readonly property real margin: 30
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: Math.max(margin, (parent.height - height) / 2)
+            width: Math.min(parent.width - 60, 700)
+            spacing: 0
+
+            SegmentedScanRing {
+                anchors.horizontalCenter: parent.horizontalCenter
+                segments: root.screen.segments
+                Accessible.role: Accessible.ProgressBar
+                Accessible.name: root.screen.title
+                Accessible.description: root.screen.centreFigure + " " + root.screen.centreCaption
+
+                Column {
+                    anchors.centerIn: parent
+                    spacing: 3
+
+                    Symbol {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        visible: symbol !== ""
+                        symbol: root.screen.centreSymbol
+                        size: root.isRunning ? 17 : 34
+                        tint: root.Ambient.palette.soft
+                    }
+                    FigureText {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        visible: text !== ""
+                        text: root.screen.centreFigure
+                        size: 30
+                        weight: Font.Bold
+                        Accessible.ignored: true
+                    }
+                    Label {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        visible: text !== ""
+                        text: root.screen.centreCaption
+                        size: 13
+                        color: Theme.secondary
+                        Accessible.ignored: true
+                    }
+                }
+            }
+
+            Item { width: 1; height: 22 }
+
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: root.screen.title
+                size: 20
+                weight: Font.Bold
+                font.letterSpacing: -0.3
+                Accessible.role: Accessible.Heading
+            }
+
+            Item { width: 1; height: 4 }
+
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, parent.width)
+                height: 17
+                text: root.screen.line
+                size: root.isRunning ? 10.5 : 12.5
+                color: Theme.secondary
+                elide: Text.ElideMiddle
+            }
+
+            Item { width: 1; height: 22 }
+
+            Row {
+                anchors.horizontalCenter: parent.horizontalCenter
+                spacing: 14
+
+                Repeater {
+                    model: root.screen.cards
+
+                    ToolCard {
+                        required property int index
+                        required symbol
+                        required property string title
+                        required property sectionPalette accent
+                        required line
+                        required mark
+                        required hoverMark
+                        required dimming
+                        required isActive
+                        required isDone
+                        required opens
+
+                        text: title
+                        finishedSymbol: root.screen.finishedSymbol
+                        Ambient.palette: accent
+                        onClicked: root.screen.openCard(index)
+                    }
+                }
+            }
+
+            Item { width: 1; height: 18 }
+
+            Column {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: parent.width
+                spacing: 7
+
+                Repeater {
+                    model: root.screen.insights
+
+                    InsightLine {
+                        required symbol
+                        required text
+                        required property sectionPalette accent
+
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        maximumWidth: parent.width
+                        Ambient.palette: accent
+                    }
+                }
+            }
+
+            Item { width: 1; height: 18 }
+
+            Row {
+                anchors.horizontalCenter: parent.horizontalCenter
+                spacing: 12
+
+                GhostPillButton {
+                    id: stopButton
+                    visible: root.isRunning
+                    text: root.screen.stopLabel
+                    onClicked: root.screen.stop()
+                }
+                GhostPillButton {
+                    id: backButton
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: !root.isRunning
+                    symbol: root.screen.backSymbol
+                    horizontalPadding: 13
+                    Accessible.name: root.screen.backLabel
+                    onClicked: root.screen.back()
+                }
+                PillButton {
+                    id: primaryButton
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: root.screen.primaryLabel !== ""
+                    text: root.screen.primaryLabel
+                    symbol: root.screen.primarySymbol
+                    isSymbolLast: true
+                    onClicked: root.screen.openPrimary()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,77 @@
+#include "shell/screens/home_screen.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/dates.h"
+
+namespace tidewell {
+
+namespace {
+
+using Cell = StatCellContent;
+using Tool = HomeToolContent;
+
+std::string cellKey(const Cell& cell) {
+    return std::string(cell.label);
+}
+
+std::vector<ListModel<Cell>::Role> cellRoles() {
+    return {
+        {"label", [](const Cell& cell) { return toText(cell.label); }},
+        {"value", [](const Cell& cell) { return toText(cell.value); }},
+    };
+}
+
+std::string toolKey(const Tool& tool) {
+    return std::string(tool.title);
+}
+
+std::vector<ListModel<Tool>::Role> toolRoles() {
+    return {
+        {"symbol", [](const Tool& tool) { return toText(tool.symbol); }},
+        {"title", [](const Tool& tool) { return toText(tool.title); }},
+        {"lines", [](const Tool& tool) { return toText(tool.description); }},
+        {"value", [](const Tool& tool) { return toText(tool.value); }},
+        {"accent",
+         [](const Tool& tool) {
+             return QVariant::fromValue(PaletteValue(sectionPalette(accent(tool.section))));
+         }},
+    };
+}
+
+}  // namespace
+
+HomeScreen::HomeScreen(std::shared_ptr<ContentView> view, QObject* parent)
+    : Screen(parent),
+      view_(std::move(view)),
+      stats_(cellKey, cellRoles(), this),
+      tools_(toolKey, toolRoles(), this) {
+    observe(view_->smartScan->willChange);
+    observe(view_->theme->willChange);
+    observe(view_->permissions->willChange);
+    observe(view_->sums->willChange);
+    update();
+}
+
+void HomeScreen::openTool(int row) {
+    const auto& tools = tools_.values();
+    if (row >= 0 && static_cast<std::size_t>(row) < tools.size())
+        view_->mode = tools[static_cast<std::size_t>(row)].section;
+}
+
+void HomeScreen::update() {
+    const HomeReadings readings{
+        .freeBytes = view_->theme->freeBytes(),
+        .volumeBytes = view_->theme->totalBytes(),
+        .hasFullDiskAccess = view_->permissions->hasFullDiskAccess(),
+        .totalFreedBytes = view_->sums->totalFreedBytes(),
+        .lastCleanupAt = view_->sums->lastCleanupAt(),
+    };
+    content_ = homeContent(*view_->smartScan, readings, now());
+    stats_.set(content_.stats);
+    tools_.set({content_.tools.begin(), content_.tools.end()});
+}
+
+}  // namespace tidewell

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QtCore/qstring.h>
+#include <QtGui/qcolor.h>
+
+#include <memory>
+
+#include "kit/qt/list_model.h"
+#include "kit/qt/palette_value.h"
+#include "kit/qt/screen.h"
+#include "kit/qt/text.h"
+#include "shell/content_view.h"
+#include "shell/screens/home_content.h"
+
+namespace tidewell {
+
+/// Behind the Home section's overview: how full the disk is, and each tool's latest result.
+class HomeScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(bool showsSmartScan READ showsSmartScan NOTIFY changed)
+    Q_PROPERTY(bool showsAccessBanner READ showsAccessBanner NOTIFY changed)
+    Q_PROPERTY(QString healthLabel READ healthLabel NOTIFY changed)
+    Q_PROPERTY(QString healthMessage READ healthMessage NOTIFY changed)
+    Q_PROPERTY(QColor healthColor READ healthColor NOTIFY changed)
+    Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed)
+    Q_PROPERTY(double usedFraction READ usedFraction NOTIFY changed)
+    Q_PROPERTY(QString usedPercent READ usedPercent NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel* stats READ stats CONSTANT)
+    Q_PROPERTY(QString winnings READ winnings NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel* tools READ tools CONSTANT)
+    Q_PROPERTY(QString lastCleanup READ lastCleanup NOTIFY changed)
+    Q_PROPERTY(QString nextScan READ nextScan NOTIFY changed)
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString subtitle READ subtitle CONSTANT)
+    Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
+    Q_PROPERTY(QString scanSymbol READ scanSymbol CONSTANT)
+    Q_PROPERTY(QString accessSymbol READ accessSymbol CONSTANT)
+    Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
+    Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
+    Q_PROPERTY(QString openSettingsLabel READ openSettingsLabel CONSTANT)
+    Q_PROPERTY(QString revealAppLabel READ revealAppLabel CONSTANT)
+    Q_PROPERTY(QString freeFigureLabel READ freeFigureLabel CONSTANT)
+    Q_PROPERTY(QString gaugeCaption READ gaugeCaption CONSTANT)
+    Q_PROPERTY(QString winningsSymbol READ winningsSymbol CONSTANT)
+    Q_PROPERTY(QString scheduleSymbol READ scheduleSymbol CONSTANT)
+
+ public:
+    HomeScreen(std::shared_ptr<ContentView> view, QObject* parent);
+
+    bool showsSmartScan() const { return content_.showsSmartScan; }
+    bool showsAccessBanner() const { return content_.showsAccessBanner; }
+    QString healthLabel() const { return toText(view_->theme->palette().label); }
+    QString healthMessage() const { return toText(view_->theme->palette().message); }
+    QColor healthColor() const { return toQColor(view_->theme->palette().healthRGB); }
+    double freeBytes() const { return static_cast<double>(content_.freeBytes); }
+    double usedFraction() const { return content_.usedFraction; }
+    QString usedPercent() const { return toText(content_.usedPercent); }
+    QAbstractItemModel* stats() { return &stats_; }
+    QString winnings() const { return toText(content_.winnings); }
+    QAbstractItemModel* tools() { return &tools_; }
+    QString lastCleanup() const { return toText(content_.lastCleanup); }
+    QString nextScan() const { return toText(content_.nextScan); }
+    static QString title() { return toText(homeTitle); }
+    static QString subtitle() { return toText(homeSubtitle); }
+    static QString scanLabel() { return toText(smartScanLabel); }
+    static QString scanSymbol() { return toText(smartScanSymbol); }
+    static QString accessSymbol() { return toText(accessBannerSymbol); }
+    static QString accessTitle() { return toText(accessBannerTitle); }
+    static QString accessLine() { return toText(accessBannerLine); }
+    static QString openSettingsLabel() { return toText(tidewell::openSettingsLabel); }
+    static QString revealAppLabel() { return toText(tidewell::revealAppLabel); }
+    static QString freeFigureLabel() { return toText(tidewell::freeFigureLabel); }
+    static QString gaugeCaption() { return toText(tidewell::gaugeCaption); }
+    static QString winningsSymbol() { return toText(tidewell::winningsSymbol); }
+    static QString scheduleSymbol() { return toText(tidewell::scheduleSymbol); }
+
+    /// To be called when the screen comes into sight, for its dates are told from now.
+    Q_INVOKABLE void open() { refresh(); }
+    Q_INVOKABLE void startScan() { view_->smartScan->start(); }
+    Q_INVOKABLE void openSettings() { view_->permissions->openSettings(); }
+    Q_INVOKABLE void revealApp() { view_->permissions->revealApp(); }
+    /// For a row of `tools`.
+    Q_INVOKABLE void openTool(int row);
+
+ private:
+    void update() override;
+
+    const std::shared_ptr<ContentView> view_;
+    HomeContent content_;
+    ListModel<StatCellContent> stats_;
+    ListModel<HomeToolContent> tools_;
+};
+
+}  // namespace tidewell
