@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
@@ -33,14 +32,20 @@ FocusScope {
 
     // Made anew each time a clean has ended, so that its figures run again.
     Loader {
+        id: result
+
+        readonly property bool isWanted: !root.screen.isCleaning
+
         anchors.centerIn: parent
-        active: !root.screen.isCleaning
         focus: true
-        sourceComponent: Component {
-            CleanedResult {
-                focus: true
-                screen: root.screen
-            }
+        onIsWantedChanged: show()
+        Component.onCompleted: show()
+
+        function show() {
+            if (isWanted)
+                setSource("CleanedResult.qml", {screen: root.screen, focus: true})
+            else
+                source = ""
         }
     }
 }

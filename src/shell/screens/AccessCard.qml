@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
@@ -8,85 +7,77 @@ Item {
 
     required property WindowScreen screen
 
-    implicitHeight: look.implicitHeight
+    implicitHeight: screen.hasFullDiskAccess ? granted.implicitHeight : missing.implicitHeight
 
-    Loader {
-        id: look
-        width: parent.width
-        sourceComponent: root.screen.hasFullDiskAccess ? granted : missing
-    }
-
-    Component {
+    Item {
         id: granted
+        width: parent.width
+        implicitHeight: 34
+        visible: root.screen.hasFullDiskAccess
+        Accessible.role: Accessible.StaticText
+        Accessible.name: title.text
 
-        Item {
-            implicitHeight: 34
-            Accessible.role: Accessible.StaticText
-            Accessible.name: title.text
-
-            Symbol {
-                x: 12
-                anchors.verticalCenter: parent.verticalCenter
-                symbol: root.screen.accessSymbol
-                size: 16
-                tint: root.Ambient.palette.primary
-            }
-            Label {
-                id: title
-                x: 38
-                anchors.verticalCenter: parent.verticalCenter
-                text: root.screen.accessTitle
-                size: 12.5
-                color: Theme.secondary
-                Accessible.ignored: true
-            }
+        Symbol {
+            x: 12
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: root.screen.accessSymbol
+            size: 16
+            tint: root.Ambient.palette.primary
+        }
+        Label {
+            id: title
+            x: 38
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.screen.accessTitle
+            size: 12.5
+            color: Theme.secondary
+            Accessible.ignored: true
         }
     }
 
-    Component {
+    GlowCard {
         id: missing
+        width: parent.width
+        visible: !root.screen.hasFullDiskAccess
+        cornerRadius: 16
+        padding: 14
+        implicitHeight: column.implicitHeight + 2 * padding
 
-        GlowCard {
-            cornerRadius: 16
-            padding: 14
-            implicitHeight: column.implicitHeight + 2 * padding
+        Column {
+            id: column
+            width: parent.width
+            spacing: 8
 
-            Column {
-                id: column
-                width: parent.width
-                spacing: 8
-
-                Row {
-                    spacing: 9
-                    Symbol {
-                        anchors.verticalCenter: parent.verticalCenter
-                        symbol: root.screen.accessSymbol
-                        size: 18
-                        tint: root.Ambient.palette.primary
-                    }
-                    Label {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: root.screen.accessTitle
-                        size: 13
-                        weight: Font.DemiBold
-                    }
+            Row {
+                spacing: 9
+                Symbol {
+                    anchors.verticalCenter: parent.verticalCenter
+                    symbol: root.screen.accessSymbol
+                    size: 18
+                    tint: root.Ambient.palette.primary
                 }
                 Label {
-                    width: parent.width
-                    text: root.screen.accessLine
-                    size: 11.5
-                    lineHeight: 1.2
-                    color: Theme.secondary
-                    wrapMode: Text.WordWrap
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: root.screen.accessTitle
+                    size: 13
+                    weight: Font.DemiBold
                 }
-                PillButton {
-                    width: parent.width
-                    topPadding: 8
-                    bottomPadding: 8
-                    fontSize: 12.5
-                    text: root.screen.enableAccessLabel
-                    onClicked: root.screen.enableAccess()
-                }
+            }
+            Label {
+                width: parent.width
+                text: root.screen.accessLine
+                size: 11.5
+                lineHeight: 1.2
+                color: Theme.secondary
+                wrapMode: Text.WordWrap
+            }
+            PillButton {
+                width: parent.width
+                topPadding: 8
+                bottomPadding: 8
+                fontSize: 12.5
+                text: root.screen.enableAccessLabel
+                onClicked: root.screen.enableAccess()
             }
         }
     }

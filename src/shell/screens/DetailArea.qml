@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
@@ -21,22 +20,33 @@ FocusScope {
 
     Loader {
         id: place
+
+        /// Where the views lie, and the screen that each one shows.
+        readonly property var views: ({
+            "HomeView": ["HomeView.qml", {home: root.screen.home, smartScan: root.screen.smartScan}],
+            "ScanView": ["../../cleanup/screens/ScanView.qml", {screen: root.screen.scan}],
+            "ReviewView": ["../../cleanup/screens/ReviewView.qml", {screen: root.screen.review}],
+            "CleanedView": ["../../cleanup/screens/CleanedView.qml", {screen: root.screen.cleaned}],
+        })
+        readonly property string wanted: root.screen.detailView
+
         anchors.fill: parent
         focus: true
-        sourceComponent: {
-            switch (root.screen.detailView) {
-            case "HomeView": return homeView
-            case "ScanView": return scanView
-            case "ReviewView": return reviewView
-            case "CleanedView": return cleanedView
-            }
-            return null
-        }
+        onWantedChanged: show()
+        Component.onCompleted: show()
         onLoaded: {
             if (Motion.hasPassages)
                 fade.restart()
             if (activeFocus)
                 (item as Item).forceActiveFocus(root.showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+        }
+
+        function show() {
+            const view = views[wanted]
+            if (view)
+                setSource(view[0], view[1])
+            else
+                source = ""
         }
 
         NumberAnimation {
@@ -48,25 +58,5 @@ FocusScope {
             duration: 180
             easing.type: Easing.OutCubic
         }
-    }
-
-    Component {
-        id: homeView
-        HomeView {
-            screen: root.screen.home
-            smartScan: root.screen.smartScan
-        }
-    }
-    Component {
-        id: scanView
-        ScanView { screen: root.screen.scan }
-    }
-    Component {
-        id: reviewView
-        ReviewView { screen: root.screen.review }
-    }
-    Component {
-        id: cleanedView
-        CleanedView { screen: root.screen.cleaned }
     }
 }

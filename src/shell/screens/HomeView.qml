@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
@@ -6,17 +5,28 @@ import Tidewell
 FocusScope {
     id: root
 
-    required property HomeScreen screen
+    required property HomeScreen home
     required property SmartScanScreen smartScan
 
     Loader {
         id: place
+
+        readonly property bool showsSmartScan: root.home.showsSmartScan
+
         anchors.fill: parent
         focus: true
-        sourceComponent: root.screen.showsSmartScan ? smartScanView : overview
+        onShowsSmartScanChanged: show()
+        Component.onCompleted: show()
         onLoaded: {
             if (Motion.hasPassages)
                 fade.restart()
+        }
+
+        function show() {
+            if (showsSmartScan)
+                setSource("SmartScanView.qml", {screen: root.smartScan, focus: true})
+            else
+                setSource("HomeOverview.qml", {screen: root.home, focus: true})
         }
 
         NumberAnimation {
@@ -27,21 +37,6 @@ FocusScope {
             to: 1
             duration: 350
             easing.type: Easing.InOutQuad
-        }
-    }
-
-    Component {
-        id: overview
-        HomeOverview {
-            focus: true
-            screen: root.screen
-        }
-    }
-    Component {
-        id: smartScanView
-        SmartScanView {
-            focus: true
-            screen: root.smartScan
         }
     }
 }
