@@ -12,9 +12,9 @@ Item {
     property int weight: Font.DemiBold
     property bool isSymbolLast: false
 
-    readonly property real symbolWidth: symbol === "" ? 0 : icon.width + row.spacing
+    readonly property real symbolWidth: symbol === "" ? 0 : icon.width + (text === "" ? 0 : row.spacing)
 
-    implicitWidth: Math.ceil(row.implicitWidth)
+    implicitWidth: Math.ceil(symbolWidth + words.implicitWidth)
     implicitHeight: row.implicitHeight
 
     Row {
@@ -32,6 +32,7 @@ Item {
             tint: root.tint
         }
         Label {
+            id: words
             anchors.verticalCenter: parent.verticalCenter
             visible: text !== ""
             width: root.width > 0 ? Math.min(implicitWidth, root.width - root.symbolWidth) : implicitWidth

@@ -43,7 +43,16 @@ class WindowTest : public testing::Test {
     /// What assistive tools are told of a thing that is seen; null if there is none of that name.
     QAccessibleInterface* find(const QString& name,
                                std::optional<QAccessible::Role> role = std::nullopt) const {
-        return findBelow(QAccessible::queryAccessibleInterface(&window->window()), name, role);
+        return findIf([&](QAccessibleInterface& place) {
+            return place.text(QAccessible::Name) == name && (!role || place.role() == *role);
+        });
+    }
+    /// The thing of that name whose description has these words.
+    QAccessibleInterface* findDescribed(const QString& name, const QString& words) const {
+        return findIf([&](QAccessibleInterface& place) {
+            return place.text(QAccessible::Name) == name &&
+                   place.text(QAccessible::Description).contains(words);
+        });
     }
     /// All that assistive tools are told, for whoever looks into a failure.
     std::string told() const {
@@ -51,8 +60,8 @@ class WindowTest : public testing::Test {
     }
     bool shows(const QString& name) const { return find(name) != nullptr; }
 
-    void press(const QString& name) const {
-        auto* control = find(name);
+    void press(const QString& name) const { press(find(name), name); }
+    void press(QAccessibleInterface* control, const QString& name) const {
         ASSERT_NE(control, nullptr) << name.toStdString() << " is not among" << told();
         control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
@@ -95,13 +104,16 @@ class WindowTest : public testing::Test {
     std::unique_ptr<MainWindow> window;
 
  private:
-    static QAccessibleInterface* findBelow(QAccessibleInterface* place, const QString& name,
-                                           std::optional<QAccessible::Role> role) {
+    using Criterion = std::function<bool(QAccessibleInterface&)>;
+
+    QAccessibleInterface* findIf(const Criterion& isWanted) const {
+        return findBelow(QAccessible::queryAccessibleInterface(&window->window()), isWanted);
+    }
+    static QAccessibleInterface* findBelow(QAccessibleInterface* place, const Criterion& isWanted) {
         if (!place || place->state().invisible) return nullptr;
-        if (place->text(QAccessible::Name) == name && (!role || place->role() == *role))
-            return place;
+        if (isWanted(*place)) return place;
         for (int child = 0; child < place->childCount(); ++child)
-            if (auto* found = findBelow(place->child(child), name, role)) return found;
+            if (auto* found = findBelow(place->child(child), isWanted)) return found;
         return nullptr;
     }
 

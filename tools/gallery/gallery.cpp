@@ -5,6 +5,7 @@
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
 #include <QtCore/qelapsedtimer.h>
+#include <QtGui/qcursor.h>
 #include <QtGui/qguiapplication.h>
 #include <QtQml/qqmlengine.h>
 #include <QtQuick/qquickitem.h>
@@ -42,6 +43,7 @@ void draw(QQuickWindow& window) {
     int frames = 0;
     QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&frames] { ++frames; });
     window.show();
+    QCursor::setPos(window.mapToGlobal(QPoint(2, 2)));  // nothing there to be pointed at
     while (frames < 3 && clock.elapsed() < 20000) {
         window.update();
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);

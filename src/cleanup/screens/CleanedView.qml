@@ -31,19 +31,16 @@ FocusScope {
     }
 
     // Made anew each time a clean has ended, so that its figures run again.
-    Loader {
-        id: result
-
+    ViewLoader {
         readonly property bool isWanted: !root.screen.isCleaning
 
         anchors.centerIn: parent
-        focus: true
         onIsWantedChanged: show()
         Component.onCompleted: show()
 
         function show() {
             if (isWanted)
-                setSource("CleanedResult.qml", {screen: root.screen, focus: true})
+                setSource("CleanedResult.qml", {screen: root.screen})
             else
                 source = ""
         }

@@ -18,10 +18,10 @@ FolderWatch::FolderWatch(const std::string& folder, std::function<void()> change
 }
 
 void FolderWatch::follow() {
-    const QFileInfo folder(folder_);
-    const auto wanted = folder.isDir() ? folder_ : folder.path();
+    auto wanted = folder_;
+    while (!QFileInfo(wanted).isDir()) wanted = QFileInfo(wanted).path();
     const auto watched = watcher_.directories();
-    if (watched.contains(wanted) || !QFileInfo(wanted).isDir()) return;
+    if (watched.contains(wanted)) return;
     if (!watched.isEmpty()) watcher_.removePaths(watched);
     watcher_.addPath(wanted);
 }

@@ -10,8 +10,7 @@
 namespace tidewell {
 
 /// Calls `changed` whenever an entry of a folder has come, gone or been replaced, also by another
-/// program. A folder that is not there yet is waited for as long as the one around it exists. Main
-/// thread only.
+/// program. A folder that is not there yet is waited for. Main thread only.
 class FolderWatch {
  public:
     FolderWatch(const std::string& folder, std::function<void()> changed);

@@ -8,35 +8,20 @@ FocusScope {
     required property HomeScreen home
     required property SmartScanScreen smartScan
 
-    Loader {
-        id: place
-
+    ViewLoader {
         readonly property bool showsSmartScan: root.home.showsSmartScan
 
         anchors.fill: parent
-        focus: true
+        fadeTime: 350
+        fadeCurve: Easing.InOutQuad
         onShowsSmartScanChanged: show()
         Component.onCompleted: show()
-        onLoaded: {
-            if (Motion.hasPassages)
-                fade.restart()
-        }
 
         function show() {
             if (showsSmartScan)
-                setSource("SmartScanView.qml", {screen: root.smartScan, focus: true})
+                setSource("SmartScanView.qml", {screen: root.smartScan})
             else
-                setSource("HomeOverview.qml", {screen: root.home, focus: true})
-        }
-
-        NumberAnimation {
-            id: fade
-            target: place.item
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: 350
-            easing.type: Easing.InOutQuad
+                setSource("HomeOverview.qml", {screen: root.home})
         }
     }
 }

@@ -15,9 +15,9 @@ FocusScope {
 
     /// The keyboard is at what most people do next.
     function takeKeyboard() {
-        if (isRunning)
+        if (screen.isRunning)
             stopButton.focus = true
-        else if (primaryButton.visible)
+        else if (screen.primaryLabel !== "")
             primaryButton.focus = true
         else
             backButton.focus = true
@@ -30,7 +30,7 @@ FocusScope {
         Column {
             id: column
 
-            readonly property real margin: 30
+            readonly property real margin: 24
 
             anchors.horizontalCenter: parent.horizontalCenter
             y: Math.max(margin, (parent.height - height) / 2)

@@ -55,6 +55,10 @@ HomeScreen::HomeScreen(std::shared_ptr<ContentView> view, QObject* parent)
     update();
 }
 
+void HomeScreen::open() {
+    QMetaObject::invokeMethod(this, &HomeScreen::refresh, Qt::QueuedConnection);
+}
+
 void HomeScreen::openTool(int row) {
     const auto& tools = tools_.values();
     if (row >= 0 && static_cast<std::size_t>(row) < tools.size())

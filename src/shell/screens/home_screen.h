@@ -76,8 +76,9 @@ class HomeScreen final : public Screen {
     static QString winningsSymbol() { return toText(tidewell::winningsSymbol); }
     static QString scheduleSymbol() { return toText(tidewell::scheduleSymbol); }
 
-    /// To be called when the screen comes into sight, for its dates are told from now.
-    Q_INVOKABLE void open() { refresh(); }
+    /// To be called when the screen comes into sight, for its dates are told from now. Has its
+    /// effect in a later turn.
+    Q_INVOKABLE void open();
     Q_INVOKABLE void startScan() { view_->smartScan->start(); }
     Q_INVOKABLE void openSettings() { view_->permissions->openSettings(); }
     Q_INVOKABLE void revealApp() { view_->permissions->revealApp(); }

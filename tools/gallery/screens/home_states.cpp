@@ -9,11 +9,13 @@ namespace {
 
 using Phase = SmartScanController::Phase;
 
-void cleanEarlier(Sample& sample) {
+void cleanEarlier(const Sample& sample) {
     using namespace std::chrono;
-    sample.view->sums->totalFreedBytes = 23'481'700'000;
-    sample.view->sums->lastCleanupAt =
-        duration<double>((system_clock::now() - hours(30)).time_since_epoch()).count();
+    UserDefaults defaults(sample.machine.host().configurationDirectory);
+    defaults.add(totalFreedBytesKey, 23'481'700'000);
+    defaults.setReal(
+        lastCleanupAtKey,
+        duration<double>((system_clock::now() - hours(30)).time_since_epoch()).count());
 }
 
 void findAll(const ContentView& view) {
