@@ -2,6 +2,7 @@
 
 #include <QtGui/qaccessible.h>
 #include <QtGui/qevent.h>
+#include <QtTest/qtest.h>
 
 #include <vector>
 
@@ -184,6 +185,50 @@ TEST(Motion, StandsStillWhenTheUserWantsLess) {
     EXPECT_EQ(canvas->property("t").toDouble(), 0);
     EXPECT_TRUE(figure->property("finished").toBool());
     Motion::setReduced(false);
+}
+
+TEST(AlertDialog, IsCancelledByKeyboardUnlessItsButtonIsChosen) {
+    Stage stage;
+    auto* scene = stage.put(R"(Item {
+        id: scene
+        width: 800; height: 600
+        property string answer
+        property bool isAsking: false
+        property int pressed: 0
+        property alias behind: behind
+        Pressable { id: behind; width: 200; height: 40; text: 'behind'; onClicked: ++scene.pressed }
+        AlertDialog {
+            isWanted: scene.isAsking
+            title: 'Move to Trash?'; confirmLabel: 'Move'; cancelLabel: 'Cancel'
+            onConfirmed: { scene.answer = 'yes'; scene.isAsking = false }
+            onCancelled: { scene.answer = 'no'; scene.isAsking = false }
+        }
+    })");
+    ASSERT_TRUE(scene);
+    auto& window = stage.window();
+    auto* behind = scene->property("behind").value<QQuickItem*>();
+    behind->forceActiveFocus(Qt::TabFocusReason);
+    const auto answerTo = [&](const std::vector<Qt::Key>& keys) {
+        scene->setProperty("answer", QString());
+        scene->setProperty("isAsking", true);
+        Stage::turn();
+        for (const auto key : keys) press(window, key);
+        return scene->property("answer").toString();
+    };
+    EXPECT_EQ(answerTo({Qt::Key_Return}), "no");
+    EXPECT_EQ(answerTo({Qt::Key_Escape}), "no");
+    EXPECT_EQ(answerTo({Qt::Key_Tab, Qt::Key_Return}), "yes");
+    EXPECT_EQ(answerTo({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}), "no")
+        << "the keyboard stays inside";
+    EXPECT_EQ(scene->property("pressed").toInt(), 0);
+    QTest::qWait(200);
+    EXPECT_TRUE(behind->hasActiveFocus()) << "and goes back to where it was";
+
+    scene->setProperty("isAsking", true);
+    Stage::turn();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(20, 20));
+    EXPECT_EQ(scene->property("pressed").toInt(), 0);
+    EXPECT_TRUE(scene->property("isAsking").toBool()) << "a click beside it answers nothing";
 }
 
 TEST(CountUpBytes, EasesOutAndFollowsItsTarget) {

@@ -1,0 +1,74 @@
+import QtQuick
+import Tidewell
+
+/// A strip that tells how something ended.
+Rectangle {
+    id: root
+
+    property string symbol
+    property color tint: Ambient.palette.primary
+    property string title
+    property string line
+    /// Empty: the user does not take it away.
+    property string dismissLabel
+    property string dismissSymbol: "xmark"
+
+    signal dismissed()
+
+    implicitHeight: words.implicitHeight + 24
+    radius: 15
+    color: Theme.withOpacity(tint, 0.10)
+    border.width: 1
+    border.color: Theme.withOpacity(tint, 0.28)
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: title
+    Accessible.description: line
+
+    Symbol {
+        id: icon
+        x: 16
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: root.symbol
+        size: 20
+        tint: root.tint
+    }
+    Column {
+        id: words
+        anchors.left: icon.right
+        anchors.leftMargin: 12
+        anchors.right: dismiss.visible ? dismiss.left : parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Label {
+            width: parent.width
+            text: root.title
+            size: 13
+            weight: Font.Medium
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        Label {
+            width: parent.width
+            visible: text !== ""
+            text: root.line
+            size: 12
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+    IconButton {
+        id: dismiss
+        anchors.right: parent.right
+        anchors.rightMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.dismissLabel !== ""
+        size: 26
+        isFilled: false
+        symbol: root.dismissSymbol
+        text: root.dismissLabel
+        onClicked: root.dismissed()
+    }
+}
