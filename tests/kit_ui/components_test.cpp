@@ -2,6 +2,7 @@
 
 #include <QtGui/qaccessible.h>
 #include <QtGui/qevent.h>
+#include <QtGui/qimage.h>
 #include <QtTest/qtest.h>
 
 #include <vector>
@@ -52,6 +53,16 @@ TEST(Components, TellAssistiveToolsWhatTheyAre) {
         EXPECT_EQ(interface->text(QAccessible::Name), row.name);
     }
     EXPECT_TRUE(accessible(stage.put("SidebarRow { isActive: true }"))->state().selected);
+}
+
+TEST(Components, TheLogosMarkIsKnownByItsShapeAlone) {
+    const QImage mark(":/Tidewell/logos/logo-mark.svg");
+    ASSERT_EQ(mark.size(), QSize(128, 128));
+    const auto isFilled = [&](int x, int y) { return mark.pixelColor(x, y).alpha() == 255; };
+    EXPECT_TRUE(isFilled(64, 7)) << "the well's rim";
+    EXPECT_TRUE(isFilled(64, 110)) << "the water";
+    EXPECT_EQ(mark.pixelColor(64, 30).alpha(), 0) << "the sky above it";
+    EXPECT_EQ(mark.pixelColor(2, 2).alpha(), 0);
 }
 
 TEST(Components, StandWithExtremeInputsWithoutComplaint) {
