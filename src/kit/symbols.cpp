@@ -26,6 +26,7 @@ constexpr std::array symbolRows = std::to_array<SymbolRow>({
     {"arrow.uturn.backward", {0xe166}},                     // undo
     {"bird.fill", {0xe00b}},                                // flutter_dash
     {"brain.head.profile", {0xea4a}},                       // psychology
+    {"camera.fill", {0xe412}},                              // photo_camera
     {"checkmark", {0xe5ca}},                                // check
     {"checkmark.circle.fill", {0xe86c}},                    // check_circle
     {"checkmark.seal.fill", {0xef76}},                      // verified

@@ -60,6 +60,7 @@ class ContentView : public std::enable_shared_from_this<ContentView> {
     /// The sections of the sidebar: Dev Mode only on a developer's machine.
     std::vector<Mode> sidebarModes() const;
     const Host& host() const { return application_.host; }
+    const Workspace& workspace() const { return application_.workspace; }
 
     /// To be called each time the window comes into sight: takes what the bridge has noted.
     void appear();

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/user_defaults.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
 #include "support/sample_machine.h"
@@ -22,8 +23,12 @@ namespace tidewell::test {
 /// pointer, by keyboard, and by assistive tools, which find a thing by its name.
 class WindowTest : public testing::Test {
  protected:
-    /// Starts the program; the machine stands by then.
+    /// Starts the program for a user who knows it; the machine stands by then.
     void start() {
+        UserDefaults(machine.host().configurationDirectory).setBoolean("hasOnboarded", true);
+        startForTheFirstTime();
+    }
+    void startForTheFirstTime() {
         application = std::make_unique<Application>(
             machine.host(),
             Workspace{.openUrl = [this](const std::string& url) { openedUrls.push_back(url); },

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
-/// All that the window shows: the sidebar, and beside it one tool at a time.
+/// All that the window shows: the sidebar, beside it one tool at a time, and what lies over both.
 Item {
     id: root
 
@@ -10,55 +10,79 @@ Item {
 
     Ambient.palette: screen.palette
 
-    AmbientBackground { anchors.fill: parent }
-
     Item {
-        id: home
-
-        readonly property real wantedOpacity: root.screen.introHomeOpacity
-
+        id: below
         anchors.fill: parent
-        onWantedOpacityChanged: {
-            if (wantedOpacity > opacity && root.screen.isPlayingIntro) {
-                reveal.start()
-            } else {
-                reveal.stop()
-                opacity = wantedOpacity
+
+        AmbientBackground { anchors.fill: parent }
+
+        FocusScope {
+            id: home
+
+            readonly property real wantedOpacity: root.screen.introHomeOpacity
+
+            anchors.fill: parent
+            focus: true
+            enabled: root.screen.hasOnboarded && wantedOpacity > 0
+            onEnabledChanged: {
+                if (enabled)
+                    forceActiveFocus()
+            }
+            onWantedOpacityChanged: {
+                if (wantedOpacity > opacity && root.screen.isPlayingIntro) {
+                    reveal.start()
+                } else {
+                    reveal.stop()
+                    opacity = wantedOpacity
+                }
+            }
+
+            NumberAnimation {
+                id: reveal
+                target: home
+                property: "opacity"
+                to: home.wantedOpacity
+                duration: 3000
+                easing.type: Easing.InOutQuad
+            }
+
+            Sidebar {
+                id: sidebar
+                width: 236
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                screen: root.screen
+            }
+
+            Rectangle {
+                id: divider
+                anchors.left: sidebar.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                width: 1
+                color: Qt.rgba(1, 1, 1, 0.06)
+            }
+
+            DetailArea {
+                anchors.left: divider.right
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                screen: root.screen
             }
         }
+    }
 
-        NumberAnimation {
-            id: reveal
-            target: home
-            property: "opacity"
-            to: home.wantedOpacity
-            duration: 3000
-            easing.type: Easing.InOutQuad
-        }
+    PassingView {
+        anchors.fill: parent
+        isWanted: !root.screen.hasOnboarded
+        view: "OnboardingView.qml"
+        given: ({screen: root.screen.onboarding, below: below})
+        fadeTime: 400
+    }
 
-        Sidebar {
-            id: sidebar
-            width: 236
-            anchors.top: parent.top
-            anchors.bottom: parent.bottom
-            screen: root.screen
-        }
-
-        Rectangle {
-            id: divider
-            anchors.left: sidebar.right
-            anchors.top: parent.top
-            anchors.bottom: parent.bottom
-            width: 1
-            color: Qt.rgba(1, 1, 1, 0.06)
-        }
-
-        DetailArea {
-            anchors.left: divider.right
-            anchors.right: parent.right
-            anchors.top: parent.top
-            anchors.bottom: parent.bottom
-            screen: root.screen
-        }
+    AboutView {
+        screen: root.screen.about
+        sectionPalette: root.screen.palette
     }
 }

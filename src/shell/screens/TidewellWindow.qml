@@ -35,6 +35,7 @@ Window {
 
         Shortcut {
             required property int index
+            enabled: root.windowScreen.hasOnboarded
             sequence: "Ctrl+" + (index + 1)
             onActivated: root.windowScreen.openRow(index)
         }

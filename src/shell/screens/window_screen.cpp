@@ -30,6 +30,8 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, QObject* parent)
     : Screen(parent),
       view_(std::move(view)),
       rows_(rowKey, rowRoles(), this),
+      onboarding_(view_, this),
+      about_(view_, this),
       home_(view_, this),
       smartScan_(view_, this),
       scan_(view_->cleanupModel, view_->sums, this),
@@ -49,10 +51,6 @@ void WindowScreen::openRow(int row) {
     const auto& rows = rows_.values();
     if (row >= 0 && static_cast<std::size_t>(row) < rows.size())
         view_->mode = rows[static_cast<std::size_t>(row)].mode;
-}
-
-void WindowScreen::finishOnboarding(bool playsIntro) {
-    view_->finishOnboarding(playsIntro ? Intro::play : Intro::skip);
 }
 
 void WindowScreen::update() {

@@ -11,7 +11,9 @@
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "shell/screens/about_screen.h"
 #include "shell/screens/home_screen.h"
+#include "shell/screens/onboarding_screen.h"
 #include "shell/screens/smart_scan_screen.h"
 #include "shell/screens/window_content.h"
 
@@ -30,7 +32,8 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(bool hasOnboarded READ hasOnboarded NOTIFY changed)
     Q_PROPERTY(bool isPlayingIntro READ isPlayingIntro NOTIFY changed)
     Q_PROPERTY(double introHomeOpacity READ introHomeOpacity NOTIFY changed)
-    Q_PROPERTY(bool showsAbout READ showsAbout NOTIFY changed)
+    Q_PROPERTY(tidewell::OnboardingScreen* onboarding READ onboarding CONSTANT)
+    Q_PROPERTY(tidewell::AboutScreen* about READ about CONSTANT)
     Q_PROPERTY(tidewell::HomeScreen* home READ home CONSTANT)
     Q_PROPERTY(tidewell::SmartScanScreen* smartScan READ smartScan CONSTANT)
     Q_PROPERTY(tidewell::ScanScreen* scan READ scan CONSTANT)
@@ -54,7 +57,8 @@ class WindowScreen final : public Screen {
     bool hasOnboarded() const { return view_->hasOnboarded(); }
     bool isPlayingIntro() const { return view_->playingIntro(); }
     double introHomeOpacity() const { return view_->introHomeOpacity(); }
-    bool showsAbout() const { return view_->showAbout(); }
+    OnboardingScreen* onboarding() { return &onboarding_; }
+    AboutScreen* about() { return &about_; }
     HomeScreen* home() { return &home_; }
     SmartScanScreen* smartScan() { return &smartScan_; }
     ScanScreen* scan() { return &scan_; }
@@ -72,8 +76,6 @@ class WindowScreen final : public Screen {
     Q_INVOKABLE void openRow(int row);
     Q_INVOKABLE void enableAccess() { view_->permissions->openSettings(); }
     Q_INVOKABLE void showAbout() { view_->showAbout = true; }
-    Q_INVOKABLE void closeAbout() { view_->showAbout = false; }
-    Q_INVOKABLE void finishOnboarding(bool playsIntro);
     Q_INVOKABLE void revealHome() { view_->revealHome(); }
     Q_INVOKABLE void endIntro() { view_->endIntro(); }
 
@@ -83,6 +85,8 @@ class WindowScreen final : public Screen {
     const std::shared_ptr<ContentView> view_;
     WindowContent content_;
     ListModel<SidebarRowContent> rows_;
+    OnboardingScreen onboarding_;
+    AboutScreen about_;
     HomeScreen home_;
     SmartScanScreen smartScan_;
     ScanScreen scan_;

@@ -15,6 +15,7 @@ struct ScreenState {
 // The states of each section's screens, one file of this folder a section.
 std::vector<ScreenState> homeStates();
 std::vector<ScreenState> cleanStates();
+std::vector<ScreenState> welcomeStates();
 
 /// All of them.
 std::vector<ScreenState> screenStates();

@@ -1,0 +1,124 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// What the program is and who makes it.
+Modal {
+    id: root
+
+    required property AboutScreen screen
+
+    width: 400
+    title: screen.title
+    isWanted: screen.isOpen
+    firstFocus: closeButton
+    onCancelled: screen.close()
+
+    Item {
+        width: parent.width
+        height: column.y + column.height
+
+        IconButton {
+            id: closeButton
+            anchors.right: parent.right
+            anchors.rightMargin: -10
+            y: -10
+            size: 28
+            symbol: root.screen.closeSymbol
+            text: root.screen.closeLabel
+            onClicked: root.screen.close()
+        }
+
+        Column {
+            id: column
+            y: 10
+            width: parent.width
+            spacing: 0
+
+            BrandLogo {
+                anchors.horizontalCenter: parent.horizontalCenter
+                height: 46
+            }
+            Item { width: 1; height: 10 }
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: root.screen.version
+                size: 12
+                color: Theme.faint
+            }
+            Item { width: 1; height: 20 }
+            Repeater {
+                model: [root.screen.purpose, root.screen.usage]
+
+                Label {
+                    required property string modelData
+
+                    width: column.width
+                    bottomPadding: 8
+                    text: modelData
+                    size: 13
+                    lineHeight: 1.3
+                    color: Theme.secondary
+                    wrapMode: Text.Wrap
+                    horizontalAlignment: Text.AlignHCenter
+                }
+            }
+            Item { width: 1; height: 8 }
+            Row {
+                anchors.horizontalCenter: parent.horizontalCenter
+                spacing: 7
+
+                Symbol {
+                    id: shield
+                    symbol: root.screen.privacySymbol
+                    size: 16
+                    tint: root.sectionPalette.primary
+                }
+                Label {
+                    anchors.verticalCenter: shield.verticalCenter
+                    text: root.screen.privacy
+                    size: 11.5
+                    weight: Font.Medium
+                }
+            }
+            Item { width: 1; height: 18 }
+            Rectangle {
+                width: parent.width
+                height: links.height + 12
+                radius: 14
+                color: Qt.rgba(1, 1, 1, 0.04)
+                border.width: 1
+                border.color: Theme.track
+
+                Column {
+                    id: links
+                    x: 6
+                    y: 6
+                    width: parent.width - 12
+
+                    Repeater {
+                        model: root.screen.links
+
+                        AboutLinkRow {
+                            required property int index
+                            required property string title
+                            required symbol
+
+                            width: links.width
+                            text: title
+                            outwardSymbol: root.screen.outwardSymbol
+                            onClicked: root.screen.openLink(index)
+                        }
+                    }
+                }
+            }
+            Item { width: 1; height: 18 }
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: root.screen.footer
+                size: 11.5
+                color: Theme.faint
+            }
+        }
+    }
+}

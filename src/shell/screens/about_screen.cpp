@@ -1,0 +1,25 @@
+#include "shell/screens/about_screen.h"
+
+#include <utility>
+
+namespace tidewell {
+
+AboutScreen::AboutScreen(std::shared_ptr<ContentView> view, QObject* parent)
+    : Screen(parent),
+      view_(std::move(view)),
+      links_([](const AboutLink& link) { return std::string(link.label); },
+             {{"symbol", [](const AboutLink& link) { return toText(link.symbol); }},
+              {"title", [](const AboutLink& link) { return toText(link.label); }}},
+             this) {
+    observe(view_->willChange);
+    const auto links = aboutLinks();
+    links_.set({links.begin(), links.end()});
+}
+
+void AboutScreen::openLink(int row) {
+    const auto& links = links_.values();
+    if (row >= 0 && static_cast<std::size_t>(row) < links.size())
+        view_->workspace().openUrl(std::string(links[static_cast<std::size_t>(row)].target));
+}
+
+}  // namespace tidewell
