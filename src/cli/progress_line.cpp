@@ -3,7 +3,7 @@
 #include <iostream>
 #include <string>
 
-#include "cleanup/screens/scan_content.h"
+#include "kit/percent_text.h"
 #include "platform/terminal.h"
 #include "platform/text.h"
 

@@ -32,7 +32,7 @@ class WindowTest : public testing::Test {
         application = std::make_unique<Application>(
             machine.host(),
             Workspace{.openUrl = [this](const std::string& url) { openedUrls.push_back(url); },
-                      .reveal = [](const std::string&) {}},
+                      .reveal = [this](const std::string& path) { revealedPaths.push_back(path); }},
             [] {});
         view = std::make_shared<ContentView>(*application);
         window = std::make_unique<MainWindow>(*application, view);
@@ -104,6 +104,7 @@ class WindowTest : public testing::Test {
     SampleMachine machine;
     QtMainLoop loop;
     std::vector<std::string> openedUrls;
+    std::vector<std::string> revealedPaths;
     std::unique_ptr<Application> application;
     std::shared_ptr<ContentView> view;
     std::unique_ptr<MainWindow> window;

@@ -18,6 +18,7 @@
 #include "kit/qt/motion.h"
 #include "screens/states.h"
 #include "shell/qt/qt_main_loop.h"
+#include "support/accessible_tree.h"
 
 namespace tidewell::gallery {
 
@@ -41,7 +42,8 @@ void draw(QQuickWindow& window) {
     QElapsedTimer clock;
     clock.start();
     int frames = 0;
-    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&frames] { ++frames; });
+    QObject counting;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &counting, [&frames] { ++frames; });
     window.show();
     QCursor::setPos(window.mapToGlobal(QPoint(2, 2)));  // nothing there to be pointed at
     while (frames < 3 && clock.elapsed() < 20000) {
@@ -85,6 +87,15 @@ void drawPages(const Order& order) {
     for (const auto& page : pages) drawPage(page, order);
 }
 
+void press(QQuickWindow& window, const QString& name) {
+    draw(window);
+    auto* control = test::findAccessible(window, [&](QAccessibleInterface& place) {
+        return place.text(QAccessible::Name) == name && place.actionInterface();
+    });
+    if (!control) return complain("there is no " + name + " to press");
+    control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
+
 void drawScreens(const Order& order) {
     for (const auto& state : screenStates()) {
         if (!order.wants(state.name)) continue;
@@ -92,6 +103,7 @@ void drawScreens(const Order& order) {
         auto& window = sample.window->window();
         window.resize(order.size);
         state.setUp(sample);
+        if (state.pressed) press(window, state.pressed);
         order.save(window, state.name);
     }
 }

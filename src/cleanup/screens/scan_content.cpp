@@ -1,6 +1,7 @@
 #include "cleanup/screens/scan_content.h"
 
 #include "kit/byte_text.h"
+#include "kit/percent_text.h"
 
 namespace tidewell {
 
@@ -13,10 +14,6 @@ constexpr std::string_view failureAdvice =
     "Security.";
 
 }  // namespace
-
-std::string percentText(double fraction) {
-    return std::to_string(static_cast<int>(fraction * 100)) + "%";
-}
 
 ScanContent scanContent(const CleanupViewModel& model, ByteCount totalFreedBytes) {
     const bool isScanning = model.phase() == CleanupViewModel::Phase::scanning;

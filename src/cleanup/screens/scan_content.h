@@ -25,9 +25,6 @@ inline constexpr std::string_view notCleanedTitle = "A few items wouldn't budge"
 inline constexpr std::string_view notCleanedSymbol = "exclamationmark.triangle.fill";
 inline constexpr std::string_view doneLabel = "Done";
 
-/// A fraction as a whole percent, cut and not rounded: "99%" until the very end.
-std::string percentText(double fraction);
-
 struct ScanContent {
     std::string_view caption;
     std::optional<std::string> soFar;  ///< "+2.5 GB so far", before a scan

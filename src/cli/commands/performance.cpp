@@ -3,8 +3,7 @@
 #include "cli/commands/commands.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
-#include "kit/byte_text.h"
-#include "performance/performance_view_model.h"
+#include "performance/screens/performance_content.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {
@@ -38,23 +37,23 @@ Value loginItemShape(const LoginItem& item) {
                          {"scope", item.scope}};
 }
 
-void printApps(const PerformanceViewModel& model) {
-    printLine(inked("Using the most memory", Ink::strong));
-    for (const auto& app : model.apps())
+void printApps(const std::vector<AppMemoryRowContent>& rows) {
+    printLine(inked(mostMemoryHeading, Ink::strong));
+    for (const auto& [app, fraction, size, isBusy] : rows)
         printLine("  " + rightAligned(std::to_string(app.id), pidColumns) + "  " +
                   leftAligned(terminalText(app.name), nameColumns) +
-                  rightAligned(app.memoryBytes < 1 ? "—" : byteText(app.memoryBytes), sizeColumns) +
-                  "  " + inked(terminalText(app.bundleID.value_or("")), Ink::faint));
-    if (model.apps().empty()) printLine("  " + inked("No applications are running.", Ink::faint));
+                  rightAligned(size, sizeColumns) + "  " +
+                  inked(terminalText(app.bundleID.value_or("")), Ink::faint));
+    if (rows.empty()) printLine("  " + inked("No applications are running.", Ink::faint));
 }
 
-void printLoginItems(const PerformanceViewModel& model) {
-    printLine(inked("Starts automatically", Ink::strong));
-    for (const auto& item : model.loginItems()) {
-        printLine("  " + leftAligned(terminalText(item.label), nameColumns) + item.scope);
-        printLine("    " + inked(terminalText(item.program), Ink::faint));
+void printLoginItems(const std::vector<LoginItemRowContent>& rows) {
+    printLine(inked(startupHeading, Ink::strong));
+    for (const auto& row : rows) {
+        printLine("  " + leftAligned(terminalText(row.label), nameColumns) + row.scope);
+        printLine("    " + inked(terminalText(row.program), Ink::faint));
     }
-    if (model.loginItems().empty()) printLine("  " + inked("Nothing.", Ink::faint));
+    if (rows.empty()) printLine("  " + inked("Nothing.", Ink::faint));
 }
 
 Value quitShape(const PerformanceViewModel& model, Termination termination) {
@@ -84,13 +83,12 @@ Outcome runPerformance(const Context& context, const PerformanceCall&) {
                                     {"loginItems", listOf(model->loginItems(), loginItemShape)}});
         return ExitStatus::done;
     }
-    printLine(inked(
-        byteText(model->memoryUsed()) + " of " + byteText(model->memoryTotal()) + " memory in use",
-        Ink::strong));
+    const auto content = performanceContent(*model, PerformancePanel::memory);
+    printLine(inked(content.subtitle, Ink::strong));
     printLine();
-    printApps(*model);
+    printApps(content.apps);
     printLine();
-    printLoginItems(*model);
+    printLoginItems(content.loginItems);
     return ExitStatus::done;
 }
 

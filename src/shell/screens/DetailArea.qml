@@ -13,6 +13,7 @@ ViewLoader {
         "ScanView": ["../../cleanup/screens/ScanView.qml", {screen: screen.scan}],
         "ReviewView": ["../../cleanup/screens/ReviewView.qml", {screen: screen.review}],
         "CleanedView": ["../../cleanup/screens/CleanedView.qml", {screen: screen.cleaned}],
+        "PerformanceView": ["../../performance/screens/PerformanceView.qml", {screen: screen.performance}],
     })
     readonly property string wanted: screen.detailView
 

@@ -4,9 +4,9 @@
 #include <chrono>
 #include <cstdint>
 
-#include "cleanup/screens/scan_content.h"
 #include "kit/byte_text.h"
 #include "kit/count_text.h"
+#include "kit/percent_text.h"
 #include "platform/dates.h"
 
 namespace tidewell {

@@ -5,9 +5,9 @@
 #include <tuple>
 #include <utility>
 
-#include "cleanup/screens/scan_content.h"
 #include "kit/byte_text.h"
 #include "kit/count_text.h"
+#include "kit/percent_text.h"
 #include "platform/dates.h"
 
 namespace tidewell {

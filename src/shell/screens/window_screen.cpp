@@ -36,7 +36,8 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, QObject* parent)
       smartScan_(view_, this),
       scan_(view_->cleanupModel, view_->sums, this),
       review_(view_->cleanupModel, view_->theme, this),
-      cleaned_(view_->cleanupModel, this) {
+      cleaned_(view_->cleanupModel, this),
+      performance_(view_->performanceModel, view_->workspace(), this) {
     observe(view_->willChange);
     observe(view_->cleanupModel->willChange);
     observe(view_->permissions->willChange);

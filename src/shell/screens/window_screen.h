@@ -11,6 +11,7 @@
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "performance/screens/performance_screen.h"
 #include "shell/screens/about_screen.h"
 #include "shell/screens/home_screen.h"
 #include "shell/screens/onboarding_screen.h"
@@ -39,6 +40,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::ScanScreen* scan READ scan CONSTANT)
     Q_PROPERTY(tidewell::ReviewScreen* review READ review CONSTANT)
     Q_PROPERTY(tidewell::CleanedScreen* cleaned READ cleaned CONSTANT)
+    Q_PROPERTY(tidewell::PerformanceScreen* performance READ performance CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
     Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
@@ -64,6 +66,7 @@ class WindowScreen final : public Screen {
     ScanScreen* scan() { return &scan_; }
     ReviewScreen* review() { return &review_; }
     CleanedScreen* cleaned() { return &cleaned_; }
+    PerformanceScreen* performance() { return &performance_; }
     static QString title() { return toText(windowTitle); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
     static QString accessLine() { return toText(tidewell::accessLine); }
@@ -92,6 +95,7 @@ class WindowScreen final : public Screen {
     ScanScreen scan_;
     ReviewScreen review_;
     CleanedScreen cleaned_;
+    PerformanceScreen performance_;
 };
 
 }  // namespace tidewell

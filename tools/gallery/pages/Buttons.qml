@@ -28,6 +28,15 @@ Page {
             Specimen { name: "focus"; GhostPillButton { text: "Rescan"; FocusRing { cornerRadius: height / 2 } } }
             Specimen { name: "destructive"; PillButton { text: "Move to Trash"; symbol: "trash"; tint: Theme.destructive } }
             Specimen { name: "small"; PillButton { text: "Delete…"; fontSize: 11.5; horizontalPadding: 14; verticalPadding: 6 } }
+            Specimen {
+                name: "picker"
+                SegmentedPicker {
+                    model: ListModel {
+                        ListElement { label: "Memory"; isChosen: true }
+                        ListElement { label: "Startup"; isChosen: false }
+                    }
+                }
+            }
             Specimen { name: "too narrow"; PillButton { width: 130; text: "A very long label"; symbol: "sparkles" } }
         }
         Row {

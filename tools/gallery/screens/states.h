@@ -10,11 +10,14 @@ namespace tidewell::gallery {
 struct ScreenState {
     const char* name;
     void (*setUp)(Sample& sample);
+    /// The name of a control that is pressed before the picture is taken, if any.
+    const char* pressed = nullptr;
 };
 
 // The states of each section's screens, one file of this folder a section.
 std::vector<ScreenState> homeStates();
 std::vector<ScreenState> cleanStates();
+std::vector<ScreenState> performanceStates();
 std::vector<ScreenState> welcomeStates();
 
 /// All of them.

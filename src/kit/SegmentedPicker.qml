@@ -1,0 +1,90 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// A choice among a few, all in sight: one of them is lit. The model's rows have `label` and
+/// `isChosen`. The keyboard comes to it once and chooses with the arrows.
+Rectangle {
+    id: root
+
+    property alias model: segments.model
+
+    signal chosen(int row)
+
+    implicitWidth: row.width + 6
+    implicitHeight: 36
+    radius: height / 2
+    color: Qt.rgba(1, 1, 1, 0.05)
+    border.width: 1
+    border.color: Qt.rgba(1, 1, 1, 0.08)
+    Accessible.role: Accessible.PageTabList
+
+    Keys.onLeftPressed: step(-1)
+    Keys.onRightPressed: step(1)
+
+    function step(by: int) {
+        for (let row = 0; row < segments.count; ++row) {
+            const next = segments.itemAt(row + by) as Pressable
+            if (segments.itemAt(row).activeFocus && next) {
+                next.forceActiveFocus(Qt.TabFocusReason)
+                chosen(row + by)
+                return
+            }
+        }
+    }
+
+    Row {
+        id: row
+        anchors.centerIn: parent
+
+        Repeater {
+            id: segments
+
+            Pressable {
+                id: segment
+
+                required property int index
+                required property string label
+                required property bool isChosen
+
+                height: 30
+                implicitHeight: 30
+                horizontalPadding: 17
+                focusGap: 2
+                text: label
+                focusPolicy: isChosen ? Qt.StrongFocus : Qt.ClickFocus
+                Accessible.selectable: true
+                Accessible.selected: isChosen
+                onClicked: root.chosen(index)
+
+                background: Item {
+                    GlowBox {
+                        anchors.fill: parent
+                        visible: segment.isChosen
+                        cornerRadius: height / 2
+                        reach: 18
+                        glow: Theme.withOpacity(segment.Ambient.palette.primary, 0.22)
+                        fillTop: Qt.tint(segment.Ambient.palette.primary, Qt.rgba(1, 1, 1, 0.12))
+                        fillBottom: Qt.tint(segment.Ambient.palette.primary, Qt.rgba(0, 0, 0, 0.14))
+                        rim: Qt.rgba(1, 1, 1, 0.20)
+                        shade: 0.2
+                    }
+                    Rectangle {
+                        anchors.fill: parent
+                        visible: !segment.isChosen
+                        radius: height / 2
+                        color: Theme.hoverFill
+                        opacity: segment.lift
+                    }
+                }
+                contentItem: SymbolLabel {
+                    text: segment.label
+                    size: 12.5
+                    weight: segment.isChosen ? Font.DemiBold : Font.Medium
+                    tint: segment.isChosen ? Theme.textOn(segment.Ambient.palette.primary)
+                                           : Theme.withOpacity(Theme.text, 0.74 + 0.20 * segment.lift)
+                }
+            }
+        }
+    }
+}

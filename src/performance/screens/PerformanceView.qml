@@ -1,0 +1,39 @@
+import QtQuick
+import Tidewell
+
+/// What uses memory, and what starts by itself.
+FocusScope {
+    id: root
+
+    required property PerformanceScreen screen
+
+    readonly property real margin: 34
+
+    Component.onCompleted: screen.open()
+
+    ScreenHeader {
+        x: root.margin
+        y: 30
+        width: parent.width - 2 * root.margin - 330
+        visible: root.screen.phase !== PerformanceScreen.Idle
+        title: root.screen.title
+        subtitle: root.screen.subtitle
+    }
+
+    ViewLoader {
+        readonly property int phase: root.screen.phase
+
+        anchors.fill: parent
+        onPhaseChanged: show()
+        Component.onCompleted: show()
+
+        function show() {
+            if (phase === PerformanceScreen.Idle)
+                setSource("PerformanceStart.qml", {screen: root.screen})
+            else if (phase === PerformanceScreen.Scanning)
+                setSource("PerformanceScanning.qml", {screen: root.screen})
+            else
+                setSource("PerformanceList.qml", {screen: root.screen, margin: root.margin})
+        }
+    }
+}

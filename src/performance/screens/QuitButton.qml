@@ -1,0 +1,36 @@
+import QtQuick
+import Tidewell
+
+/// Asks an application to quit; a spinner while the answer is awaited. The keyboard stays at it all
+/// the time.
+Pressable {
+    id: root
+
+    property bool isBusy: false
+
+    implicitHeight: 28
+    horizontalPadding: 6
+
+    background: GhostPillButtonStyle {
+        visible: !root.isBusy
+        lift: root.lift
+    }
+    contentItem: Item {
+        Label {
+            anchors.centerIn: parent
+            visible: !root.isBusy
+            text: root.text
+            size: 12
+            weight: Font.Medium
+            color: Theme.withOpacity(Theme.text, 0.78 + 0.22 * root.lift)
+            Accessible.ignored: true
+        }
+        Spinner {
+            anchors.centerIn: parent
+            visible: root.isBusy
+            diameter: 16
+            lineWidth: 2
+            Accessible.name: root.description
+        }
+    }
+}
