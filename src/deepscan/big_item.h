@@ -31,6 +31,7 @@ struct BigItem {
     std::optional<std::string> reclaimCommand;  ///< frees the room from inside the tool
 
     const std::string& path() const { return id; }
+    bool operator==(const BigItem&) const = default;
 };
 
 /// Largest first; items of equal size keep their order.

@@ -4,9 +4,9 @@ namespace tidewell {
 
 /// A colour of the screens: sRGB components and opacity, each from 0 to 1.
 struct Color {
-    double red;
-    double green;
-    double blue;
+    double red = 0;
+    double green = 0;
+    double blue = 0;
     double opacity = 1;
 
     constexpr Color withOpacity(double newOpacity) const { return {red, green, blue, newOpacity}; }

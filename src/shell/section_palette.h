@@ -3,22 +3,15 @@
 #include <array>
 #include <cstddef>
 
+#include "kit/color.h"
+
 namespace tidewell {
-
-/// A colour in sRGB, opaque; each part from 0 to 1.
-struct Rgb {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-
-    bool operator==(const Rgb&) const = default;
-};
 
 /// The three shades of a section.
 struct SectionPalette {
-    Rgb primary;  ///< the accent
-    Rgb soft;     ///< lighter, for glows and highlights
-    Rgb deep;     ///< darker, for ends of gradients and shadows
+    Color primary;  ///< the accent
+    Color soft;     ///< lighter, for glows and highlights
+    Color deep;     ///< darker, for ends of gradients and shadows
 
     bool operator==(const SectionPalette&) const = default;
 };
@@ -58,6 +51,6 @@ constexpr const SectionPalette& sectionPalette(SectionAccent accent) {
 inline constexpr SectionAccent defaultSectionAccent = SectionAccent::green;
 
 /// The colour of whatever destroys something, in every section.
-inline constexpr Rgb destructiveRed{0.96, 0.26, 0.37};
+inline constexpr Color destructiveRed{0.96, 0.26, 0.37};
 
 }  // namespace tidewell

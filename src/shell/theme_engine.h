@@ -15,7 +15,7 @@ namespace tidewell {
 struct ThemePalette {
     std::string_view label;
     std::string_view message;
-    Rgb healthRGB;
+    Color healthRGB;
 
     bool operator==(const ThemePalette&) const = default;
 };

@@ -15,6 +15,7 @@
 #include "platform/user_defaults.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
+#include "support/accessible_tree.h"
 #include "support/sample_machine.h"
 
 namespace tidewell::test {
@@ -43,6 +44,16 @@ class WindowTest : public testing::Test {
     /// Lets the program go on until it has come to something.
     [[nodiscard]] static bool comesTo(const std::function<bool()>& condition) {
         return QTest::qWaitFor(condition, 20'000);
+    }
+
+    /// Lets all that has just appeared take its place.
+    [[nodiscard]] bool comesToRest() const {
+        bool isDrawn = false;
+        QObject waiting;
+        QObject::connect(&window->window(), &QQuickWindow::frameSwapped, &waiting,
+                         [&isDrawn] { isDrawn = true; });
+        window->window().update();
+        return comesTo([&isDrawn] { return isDrawn; });
     }
 
     /// What assistive tools are told of a thing that is seen; null if there is none of that name.
@@ -74,6 +85,7 @@ class WindowTest : public testing::Test {
         QAccessibleInterface* control = nullptr;
         ASSERT_TRUE(comesTo([&] { return (control = find(name, role)) != nullptr; }))
             << name.toStdString() << " is not among" << told();
+        ASSERT_TRUE(comesToRest());
         QTest::mouseClick(&window->window(), Qt::LeftButton, {},
                           window->window().mapFromGlobal(control->rect().center()));
     }
@@ -110,17 +122,8 @@ class WindowTest : public testing::Test {
     std::unique_ptr<MainWindow> window;
 
  private:
-    using Criterion = std::function<bool(QAccessibleInterface&)>;
-
-    QAccessibleInterface* findIf(const Criterion& isWanted) const {
-        return findBelow(QAccessible::queryAccessibleInterface(&window->window()), isWanted);
-    }
-    static QAccessibleInterface* findBelow(QAccessibleInterface* place, const Criterion& isWanted) {
-        if (!place || place->state().invisible) return nullptr;
-        if (isWanted(*place)) return place;
-        for (int child = 0; child < place->childCount(); ++child)
-            if (auto* found = findBelow(place->child(child), isWanted)) return found;
-        return nullptr;
+    QAccessibleInterface* findIf(const AccessibleCriterion& isWanted) const {
+        return findAccessible(window->window(), isWanted);
     }
 
     static std::string toldBelow(QAccessibleInterface* place, const std::string& lineBreak) {

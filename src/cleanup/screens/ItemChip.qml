@@ -76,24 +76,12 @@ Pressable {
                     elide: Text.ElideRight
                     Accessible.ignored: true
                 }
-                Rectangle {
+                Tag {
                     id: mark
                     anchors.verticalCenter: parent.verticalCenter
-                    visible: root.badge !== ""
-                    width: badgeLabel.implicitWidth + 14
-                    height: 18
-                    radius: 6
-                    color: Theme.withOpacity(root.caution, 0.18)
-
-                    Label {
-                        id: badgeLabel
-                        anchors.centerIn: parent
-                        text: root.badge
-                        size: 10.5
-                        weight: Font.DemiBold
-                        color: root.caution
-                        Accessible.ignored: true
-                    }
+                    visible: text !== ""
+                    text: root.badge
+                    tint: root.caution
                 }
             }
             Label {

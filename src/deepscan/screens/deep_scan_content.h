@@ -36,6 +36,8 @@ struct RiskBucketLook {
     std::string_view subtitle;
     Color iconColor;       ///< of the symbol in the bucket's row
     Color iconBackground;  ///< behind it
+
+    bool operator==(const RiskBucketLook&) const = default;
 };
 
 RiskBucketLook look(RiskBucket bucket);
@@ -72,6 +74,8 @@ struct RiskRow {
     ByteCount bytes = 0;
     std::string line;  ///< "3 · 1.2 GB"
     bool isViewing = false;
+
+    bool operator==(const RiskRow&) const = default;
 };
 
 inline constexpr std::string_view riskRowChevron = "chevron.right";
@@ -80,6 +84,8 @@ struct CopyCommandButton {
     std::string command;  ///< what goes to the pasteboard
     std::string_view label;
     std::string help;
+
+    bool operator==(const CopyCommandButton&) const = default;
 };
 
 struct BigItemCard {
@@ -93,6 +99,8 @@ struct BigItemCard {
     std::string_view revealHelp;
     std::optional<std::string> trashHelp;          ///< absent: there is no such button
     std::optional<CopyCommandButton> copyCommand;  ///< the same
+
+    bool operator==(const BigItemCard&) const = default;
 };
 
 /// `copiedItems` as in the screen's state.

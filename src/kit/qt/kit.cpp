@@ -29,9 +29,9 @@ FontFace face(int weight, bool isRounded) {
 
 }  // namespace
 
-QColor toQColor(const Rgb& rgb) {
-    return QColor::fromRgbF(static_cast<float>(rgb.red), static_cast<float>(rgb.green),
-                            static_cast<float>(rgb.blue));
+QColor toQColor(const Color& color) {
+    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                            static_cast<float>(color.blue), static_cast<float>(color.opacity));
 }
 
 PaletteValue Kit::palette(SectionAccent accent) {
@@ -43,9 +43,7 @@ QColor Kit::destructive() {
 }
 
 QColor Kit::secondary() {
-    auto color = toQColor({secondaryColor.red, secondaryColor.green, secondaryColor.blue});
-    color.setAlphaF(static_cast<float>(secondaryColor.opacity));
-    return color;
+    return toQColor(secondaryColor);
 }
 
 QString Kit::symbolFamilyName() {

@@ -8,7 +8,7 @@
 
 namespace tidewell {
 
-QColor toQColor(const Rgb& rgb);
+QColor toQColor(const Color& color);
 
 /// The three shades of a section, as a value of QML.
 class PaletteValue {

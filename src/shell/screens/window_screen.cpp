@@ -37,7 +37,8 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, QObject* parent)
       scan_(view_->cleanupModel, view_->sums, this),
       review_(view_->cleanupModel, view_->theme, this),
       cleaned_(view_->cleanupModel, this),
-      performance_(view_->performanceModel, view_->workspace(), this) {
+      performance_(view_->performanceModel, view_->workspace(), this),
+      deepScan_(view_->deepScanModel, view_->workspace(), this) {
     observe(view_->willChange);
     observe(view_->cleanupModel->willChange);
     observe(view_->permissions->willChange);

@@ -7,6 +7,7 @@
 #include "cleanup/screens/cleaned_screen.h"
 #include "cleanup/screens/review_screen.h"
 #include "cleanup/screens/scan_screen.h"
+#include "deepscan/screens/deep_scan_screen.h"
 #include "kit/qt/list_model.h"
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
@@ -41,6 +42,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::ReviewScreen* review READ review CONSTANT)
     Q_PROPERTY(tidewell::CleanedScreen* cleaned READ cleaned CONSTANT)
     Q_PROPERTY(tidewell::PerformanceScreen* performance READ performance CONSTANT)
+    Q_PROPERTY(tidewell::DeepScanScreen* deepScan READ deepScan CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
     Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
@@ -67,6 +69,7 @@ class WindowScreen final : public Screen {
     ReviewScreen* review() { return &review_; }
     CleanedScreen* cleaned() { return &cleaned_; }
     PerformanceScreen* performance() { return &performance_; }
+    DeepScanScreen* deepScan() { return &deepScan_; }
     static QString title() { return toText(windowTitle); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
     static QString accessLine() { return toText(tidewell::accessLine); }
@@ -96,6 +99,7 @@ class WindowScreen final : public Screen {
     ReviewScreen review_;
     CleanedScreen cleaned_;
     PerformanceScreen performance_;
+    DeepScanScreen deepScan_;
 };
 
 }  // namespace tidewell

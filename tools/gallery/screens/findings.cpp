@@ -42,15 +42,17 @@ InstalledApp app(const std::string& name, ByteCount size, int daysUnused) {
 }
 
 BigItem bigItem(const std::string& name, const std::string& location, ByteCount size,
-                BigItem::Kind kind) {
+                BigItem::Kind kind, std::optional<std::string> note = {}) {
     return {.id = "/nowhere/" + name,
             .name = name,
             .location = location,
             .sizeBytes = size,
-            .isDirectory = true,
+            .isDirectory = name.find(".dmg") == std::string::npos,
             .kind = kind,
-            .note = {},
-            .reclaimCommand = {}};
+            .note = std::move(note),
+            .reclaimCommand = kind == BigItem::Kind::container
+                                  ? std::optional("docker system prune")
+                                  : std::nullopt};
 }
 
 }  // namespace
@@ -88,10 +90,22 @@ void findApps(const ContentView& view) {
 void findBigItems(const ContentView& view) {
     using Kind = BigItem::Kind;
     view.deepScanModel->items = {
-        bigItem("Docker.raw", "Docker's virtual disk", 41'200 * megabyte, Kind::container),
-        bigItem("Holiday 2019", "Movies", 18'600 * megabyte, Kind::personal),
-        bigItem("Install Studio.dmg", "Downloads", 6'240 * megabyte, Kind::installer),
-        bigItem("com.example.Browser", "Library/Caches", 2'870 * megabyte, Kind::cache),
+        bigItem("Docker", "~/Library/Containers/com.docker.docker/Data/vms", 41'200 * megabyte,
+                Kind::container,
+                "Docker's VM disk: every image, container and volume. Reclaim from inside Docker, "
+                "don't delete this file."),
+        bigItem("Holiday 2019", "~/Movies", 18'600 * megabyte, Kind::personal),
+        bigItem("Install Studio.dmg", "~/Downloads", 6'240 * megabyte, Kind::installer,
+                "Disk image. Safe to trash once the app is installed."),
+        bigItem("com.example.Browser", "~/Library/Caches", 2'870 * megabyte, Kind::cache,
+                "Browser cache. Refills as you browse."),
+        bigItem("target", "~/Code/engine", 2'110 * megabyte, Kind::rebuildable,
+                "Build output. Re-created by the next build."),
+        bigItem("a-folder-with-a-name-that-is-very-much-longer-than-its-card-is-wide-and-then-some",
+                "~/Library/Caches/and/it/lies/deep/below/folders/that/have/long/names/too/each/one",
+                412 * megabyte, Kind::cache),
+        bigItem("Mail Courier", "~/Library/Application Support", 390 * megabyte, Kind::appData),
+        bigItem("scratch", "~/Public", 96 * megabyte, Kind::other),
     };
     view.deepScanModel->phase = DeepScanViewModel::Phase::list;
 }

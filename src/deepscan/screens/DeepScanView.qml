@@ -1,0 +1,179 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// The Deep Scan tool: what is really big, sorted by what may be done with it.
+FocusScope {
+    id: root
+
+    required property DeepScanScreen screen
+
+    readonly property real margin: 34
+
+    Component.onCompleted: screen.open()
+
+    StartNote {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -8
+        visible: root.screen.isStart
+        focus: root.screen.isStart
+        symbol: root.screen.placardSymbol
+        title: root.screen.title
+        line: root.screen.subtitle
+        buttonSymbol: root.screen.placardSymbol
+        buttonLabel: root.screen.scanLabel
+        onStarted: root.screen.scan()
+    }
+
+    ScreenHeader {
+        id: header
+        anchors.left: parent.left
+        anchors.leftMargin: root.margin
+        anchors.right: rescan.left
+        anchors.rightMargin: 20
+        y: 30
+        visible: !root.screen.isStart
+        title: root.screen.title
+        subtitle: root.screen.subtitle
+    }
+    SmallButton {
+        id: rescan
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        y: 36
+        visible: root.screen.isList || root.screen.foundNothing
+        focus: visible
+        text: root.screen.scanLabel
+        onClicked: root.screen.scan()
+    }
+
+    ScanningNote {
+        anchors.centerIn: parent
+        visible: root.screen.isScanning
+        symbol: root.screen.placardSymbol
+        title: root.screen.placardTitle
+        line: root.screen.placardLine
+        progress: root.screen.progress
+    }
+    StartNote {
+        anchors.centerIn: parent
+        visible: root.screen.foundNothing
+        symbol: root.screen.placardSymbol
+        title: root.screen.placardTitle
+        line: root.screen.placardLine
+    }
+
+    Item {
+        anchors.fill: parent
+        anchors.topMargin: 104
+        visible: root.screen.isList
+
+        Banner {
+            id: banner
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: root.margin
+            anchors.rightMargin: root.margin
+            y: 4
+            visible: root.screen.hasBanner
+            symbol: root.screen.bannerSymbol
+            tint: root.screen.bannerColor
+            title: root.screen.bannerText
+        }
+
+        Column {
+            id: rail
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin - 12
+            y: banner.visible ? banner.height + 20 : 8
+            width: 240
+            spacing: 6
+
+            Repeater {
+                model: root.screen.rail
+
+                RailRow {
+                    required property int index
+                    required symbol
+                    required title
+                    required line
+                    required isViewing
+                    required symbolColor
+                    required symbolBackground
+
+                    width: rail.width
+                    onClicked: root.screen.viewBucket(index)
+                }
+            }
+        }
+
+        Rectangle {
+            id: divider
+            anchors.left: rail.right
+            anchors.leftMargin: 18
+            anchors.top: rail.top
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 24
+            width: 1
+            color: Qt.rgba(1, 1, 1, 0.07)
+        }
+
+        Label {
+            id: advice
+            anchors.left: divider.right
+            anchors.leftMargin: 22
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin
+            anchors.top: rail.top
+            anchors.topMargin: 4
+            text: root.screen.bucketSubtitle
+            size: 12.5
+            lineHeight: 1.2
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+        }
+        CardList {
+            anchors.left: divider.right
+            anchors.leftMargin: 16
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin - 12
+            anchors.top: advice.bottom
+            anchors.topMargin: 6
+            anchors.bottom: parent.bottom
+            model: root.screen.cards
+            Accessible.name: root.screen.bucketTitle
+
+            delegate: BigItemCard {
+                required property int index
+                required symbol
+                required title
+                required place
+                required size
+                required badge
+                required badgeColor
+                required note
+                required revealSymbol
+                required revealHelp
+                required trashHelp
+                required commandLabel
+                required commandHelp
+
+                width: ListView.view.width - 18
+                onRevealed: root.screen.reveal(index)
+                onTrashed: root.screen.trash(index)
+                onCopied: root.screen.copyCommand(index)
+            }
+        }
+    }
+
+    AlertDialog {
+        isWanted: root.screen.asksToTrash
+        sectionPalette: root.Ambient.palette
+        title: root.screen.questionTitle
+        text: root.screen.questionText
+        confirmLabel: root.screen.confirmLabel
+        cancelLabel: root.screen.cancelLabel
+        onConfirmed: root.screen.confirmTrash()
+        onCancelled: root.screen.cancelTrash()
+    }
+}

@@ -1,0 +1,140 @@
+#include "deepscan/screens/deep_scan_screen.h"
+
+#include <QtCore/qtimer.h>
+#include <QtGui/qclipboard.h>
+#include <QtGui/qguiapplication.h>
+
+#include <utility>
+
+#include "async/executor.h"
+
+namespace tidewell {
+
+namespace {
+
+std::string rowKey(const RiskRow& row) {
+    return std::string(row.look.title);
+}
+
+std::vector<ListModel<RiskRow>::Role> rowRoles() {
+    using Row = RiskRow;
+    return {
+        {"symbol", [](const Row& row) { return toText(row.look.symbol); }},
+        {"title", [](const Row& row) { return toText(row.look.title); }},
+        {"line", [](const Row& row) { return toText(row.line); }},
+        {"isViewing", [](const Row& row) { return row.isViewing; }},
+        {"symbolColor", [](const Row& row) { return toQColor(row.look.iconColor); }},
+        {"symbolBackground", [](const Row& row) { return toQColor(row.look.iconBackground); }},
+    };
+}
+
+std::string cardKey(const BigItemCard& card) {
+    return card.item.id;
+}
+
+std::vector<ListModel<BigItemCard>::Role> cardRoles() {
+    using Card = BigItemCard;
+    const auto commandText = [](auto field) {
+        return [field](const Card& card) {
+            return card.copyCommand ? toText((*card.copyCommand).*field) : QString();
+        };
+    };
+    return {
+        {"symbol", [](const Card& card) { return toText(card.symbol); }},
+        {"title", [](const Card& card) { return toText(card.item.name); }},
+        {"place", [](const Card& card) { return toText(card.item.location); }},
+        {"size", [](const Card& card) { return toText(card.size); }},
+        {"badge", [](const Card& card) { return toText(card.badge); }},
+        {"badgeColor", [](const Card& card) { return toQColor(card.badgeColor); }},
+        {"note", [](const Card& card) { return toText(card.note); }},
+        {"revealSymbol", [](const Card& card) { return toText(card.revealSymbol); }},
+        {"revealHelp", [](const Card& card) { return toText(card.revealHelp); }},
+        {"trashHelp", [](const Card& card) { return toText(card.trashHelp.value_or("")); }},
+        {"commandLabel", commandText(&CopyCommandButton::label)},
+        {"commandHelp", commandText(&CopyCommandButton::help)},
+    };
+}
+
+}  // namespace
+
+DeepScanScreen::DeepScanScreen(std::shared_ptr<DeepScanViewModel> model, Workspace workspace,
+                               QObject* parent)
+    : Screen(parent),
+      model_(std::move(model)),
+      workspace_(std::move(workspace)),
+      rail_(rowKey, rowRoles(), this),
+      cards_(cardKey, cardRoles(), this) {
+    observe(model_->willChange);
+    update();
+}
+
+void DeepScanScreen::update() {
+    content_ = deepScanContent(*model_, state_);
+    if (content_.banner) banner_ = *content_.banner;
+    if (content_.confirmation) question_ = *content_.confirmation;
+    rail_.set(content_.rail);
+    cards_.set(content_.cards);
+}
+
+QString DeepScanScreen::bucketTitle() const {
+    for (const auto& row : content_.rail)
+        if (row.isViewing) return toText(row.look.title);
+    return {};
+}
+
+void DeepScanScreen::open() {
+    state_ = {};
+    QMetaObject::invokeMethod(this, &DeepScanScreen::refresh, Qt::QueuedConnection);
+}
+
+void DeepScanScreen::scan() {
+    spawn(model_, &DeepScanViewModel::scan);
+}
+
+void DeepScanScreen::viewBucket(int row) {
+    state_.viewingBucket = rail_.values().at(static_cast<std::size_t>(row)).bucket;
+    refresh();
+}
+
+const BigItemCard& DeepScanScreen::card(int row) const {
+    return cards_.values().at(static_cast<std::size_t>(row));
+}
+
+void DeepScanScreen::reveal(int row) {
+    workspace_.reveal(card(row).item.path());
+}
+
+void DeepScanScreen::copyCommand(int row) {
+    const auto& [command, label, help] = card(row).copyCommand.value();
+    QGuiApplication::clipboard()->setText(toText(command));
+    const auto id = card(row).item.id;
+    state_.copiedItems.insert(id);
+    QTimer::singleShot(copiedDuration, this, [this, id] {
+        state_.copiedItems.erase(id);
+        refresh();
+    });
+    refresh();
+}
+
+void DeepScanScreen::trash(int row) {
+    const auto item = card(row).item;
+    if (!asksBeforeTrashing(item.kind)) return move(item);
+    state_.pendingTrash = item;
+    refresh();
+}
+
+void DeepScanScreen::confirmTrash() {
+    if (const auto item = std::exchange(state_.pendingTrash, std::nullopt)) move(*item);
+    refresh();
+}
+
+void DeepScanScreen::cancelTrash() {
+    state_.pendingTrash.reset();
+    refresh();
+}
+
+void DeepScanScreen::move(BigItem item) {
+    spawn(model_, &DeepScanViewModel::trash, std::move(item));
+}
+
+}  // namespace tidewell

@@ -1,0 +1,58 @@
+#include "screens/findings.h"
+#include "screens/states.h"
+
+namespace tidewell::gallery {
+
+namespace {
+
+using Phase = DeepScanViewModel::Phase;
+
+void find(Sample& sample) {
+    findBigItems(*sample.view);
+    sample.view->mode = Mode::deepScan;
+}
+
+const std::vector<ScreenState> states = {
+    {"deep-scan-start", [](Sample& sample) { sample.view->mode = Mode::deepScan; }},
+    {"deep-scan-scanning",
+     [](Sample& sample) {
+         sample.view->deepScanModel->phase = Phase::scanning;
+         sample.view->deepScanModel->scanProgress = 0.43;
+         sample.view->mode = Mode::deepScan;
+     }},
+    {"deep-scan-nothing",
+     [](Sample& sample) {
+         sample.view->deepScanModel->phase = Phase::list;
+         sample.view->mode = Mode::deepScan;
+     }},
+    {"deep-scan-safe", find},
+    {"deep-scan-containers", find, "Containers & VMs"},
+    {"deep-scan-moved",
+     [](Sample& sample) {
+         find(sample);
+         sample.view->deepScanModel->lastResult = BigItemScanner::TrashOutcome{
+             .name = "com.example.Browser", .freedBytes = 2'870'000'000, .success = true};
+     },
+     "Your stuff"},
+    {"deep-scan-not-moved",
+     [](Sample& sample) {
+         find(sample);
+         sample.view->deepScanModel->lastResult = BigItemScanner::TrashOutcome{
+             .name = "Install Studio.dmg", .freedBytes = 0, .success = false};
+     }},
+    {"deep-scan-asks",
+     [](Sample& sample) {
+         find(sample);
+         std::erase_if(sample.view->deepScanModel->items.mutate(),
+                       [](const BigItem& item) { return item.kind != BigItem::Kind::personal; });
+     },
+     "Move Holiday 2019 to Trash"},
+};
+
+}  // namespace
+
+std::vector<ScreenState> deepScanStates() {
+    return states;
+}
+
+}  // namespace tidewell::gallery
