@@ -15,6 +15,7 @@ class SingleInstance {
  public:
     enum class Role { first, later };
     enum class Delivery { taken, failed };
+    enum class Reach { open, none };
 
     explicit SingleInstance(const Host& host);
     SingleInstance(const SingleInstance&) = delete;
@@ -23,8 +24,9 @@ class SingleInstance {
     ~SingleInstance();
 
     Role role() const;
-    /// For the first start: from now on `received` gets each message, on a thread of its own.
-    void listen(std::function<void(std::string message)> received);
+    /// For the first start: from now on `received` gets each message, on a thread of its own. Tells
+    /// whether any can come.
+    Reach listen(std::function<void(std::string message)> received);
     /// For a later start: blocks until the first has the message, a few seconds at most.
     Delivery send(const std::string& message) const;
 

@@ -15,6 +15,7 @@ namespace {
 
 using Role = SingleInstance::Role;
 using Delivery = SingleInstance::Delivery;
+using Reach = SingleInstance::Reach;
 
 class SingleInstanceTest : public testing::Test {
  protected:
@@ -47,7 +48,8 @@ TEST_F(SingleInstanceTest, ALaterStartHandsItsMessagesToTheFirst) {
     ASSERT_EQ(first.role(), Role::first);
     std::promise<std::string> heard[2];
     int count = 0;
-    first.listen([&](const std::string& message) { heard[count++].set_value(message); });
+    ASSERT_EQ(first.listen([&](const std::string& message) { heard[count++].set_value(message); }),
+              Reach::open);
 
     const SingleInstance later(host);
     EXPECT_EQ(later.role(), Role::later);
@@ -92,7 +94,9 @@ TEST_F(SingleInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst) {
     const SingleInstance one(host);
     EXPECT_EQ(SingleInstance(host).role(), Role::first);
     ::unsetenv("XDG_RUNTIME_DIR");
-    EXPECT_EQ(SingleInstance(host).role(), Role::first);
+    SingleInstance other(host);
+    EXPECT_EQ(other.role(), Role::first);
+    EXPECT_EQ(other.listen([](const std::string&) {}), Reach::none);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 

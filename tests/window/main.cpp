@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QtGui/qguiapplication.h>
+#include <QtWidgets/qapplication.h>
 
 namespace {
 
@@ -16,8 +16,8 @@ void failOnWarnings(QtMsgType type, const QMessageLogContext&, const QString& me
 
 int main(int count, char** words) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication toolkit(count, words);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const QApplication toolkit(count, words);
+    QApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(failOnWarnings);
     testing::InitGoogleTest(&count, words);
     return RUN_ALL_TESTS();

@@ -17,6 +17,7 @@
 #include "kit/qt/module.h"
 #include "kit/qt/motion.h"
 #include "screens/states.h"
+#include "shell/qt/popover.h"
 #include "shell/qt/qt_main_loop.h"
 #include "support/accessible_tree.h"
 
@@ -108,6 +109,17 @@ void drawScreens(const Order& order) {
     }
 }
 
+void drawPopover(const Order& order) {
+    const auto* name = "menu-bar";
+    if (!order.wants(name)) return;
+    const Sample sample;
+    UserDefaults defaults(sample.machine.host().configurationDirectory);
+    defaults.add(totalFreedBytesKey, 23'481'700'000);
+    Popover popover(*sample.application, std::make_shared<LiveSums>(defaults));
+    popover.open({700, 0, 20, 24});
+    order.save(*popover.window(), name);
+}
+
 int run(int count, char** words) {
     QStringList arguments;
     for (int i = 0; i < count; ++i) arguments << QString::fromLocal8Bit(words[i]);
@@ -137,6 +149,7 @@ int run(int count, char** words) {
     if (!order.folder.mkpath(".")) complain("cannot make " + order.folder.path());
     drawPages(order);
     drawScreens(order);
+    drawPopover(order);
     return complaints == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

@@ -188,14 +188,15 @@ SingleInstance::Role SingleInstance::role() const {
     return link_->isFirst ? Role::first : Role::later;
 }
 
-void SingleInstance::listen(std::function<void(std::string)> received) {
-    if (!link_->lock || !link_->isFirst) return;
+SingleInstance::Reach SingleInstance::listen(std::function<void(std::string)> received) {
+    if (!link_->lock || !link_->isFirst) return Reach::none;
     std::array<int, 2> ends{};
     link_->listening = listeningSocket(link_->socketPath);
-    if (!link_->listening || ::pipe2(ends.data(), O_CLOEXEC) != 0) return;
+    if (!link_->listening || ::pipe2(ends.data(), O_CLOEXEC) != 0) return Reach::none;
     link_->end = {Descriptor(ends[0]), Descriptor(ends[1])};
     link_->thread =
         std::thread([link = link_.get(), received = std::move(received)] { link->run(received); });
+    return Reach::open;
 }
 
 SingleInstance::Delivery SingleInstance::send(const std::string& message) const {

@@ -9,6 +9,7 @@
 #include "platform/single_instance.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
+#include "shell/qt/status_item.h"
 #include "shell/qt/timed_application.h"
 #include "shell/start_words.h"
 
@@ -37,6 +38,14 @@ Task<> followMotionSetting(Host host) {
     Motion::setReduced(isReduced);
 }
 
+/// Where neither a status item nor a later start leads back to it, a closed window was the last of
+/// the program that anybody could reach.
+void quitWhenOutOfReach() {
+    QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, qGuiApp, [] {
+        if (!StatusItem::isShown()) QApplication::quit();
+    });
+}
+
 /// Closing the window ends nothing: the program is left with Quit. What is stored is on the disk
 /// already; threads and tools under way are not waited for.
 [[noreturn]] void runToQuit(const Host& host, SingleInstance& instance, const StartWish& wish,
@@ -49,15 +58,17 @@ Task<> followMotionSetting(Host host) {
     const auto view = std::make_shared<ContentView>(application);
     MainWindow window(application, view);
     opened = &window;
+    StatusItem statusItem(application);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, qGuiApp,
                      [&application](Qt::ApplicationState state) {
                          if (state == Qt::ApplicationActive) application.didBecomeActive.fire();
                      });
-    instance.listen([&](std::string message) {
+    const auto reach = instance.listen([&](std::string message) {
         Executor::main().post([&application, &view, message = std::move(message)] {
             hear(application, *view, message);
         });
     });
+    if (reach == SingleInstance::Reach::none) quitWhenOutOfReach();
     spawn(followMotionSetting(host));
     if (timed) timed->watchFirstFrame(window.window());
     window.open();
