@@ -1,8 +1,9 @@
 #include "cli/arguments.h"
 
 #include <CLI/CLI.hpp>
-#include <map>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace tidewell::cli {
 
@@ -30,13 +31,31 @@ void addConsent(CLI::App& command, Consent& consent) {
         "Do it; without this the command only says what it would do");
 }
 
-void addSelection(CLI::App& command, SelectionWish& wish) {
-    static const std::map<std::string, Preselection> preselections = {
-        {"safe", Preselection::safe}, {"all", Preselection::all}, {"none", Preselection::none}};
+/// The words of a choice, its usual one first, and what each stands for.
+template <class Value>
+using Choices = std::vector<std::pair<std::string, Value>>;
+
+/// "{safe,all,none}"
+template <class Value>
+std::string choiceNames(const Choices<Value>& choices) {
+    std::string names;
+    for (const auto& [name, value] : choices) names += (names.empty() ? "{" : ",") + name;
+    return names + "}";
+}
+
+template <class Value>
+void addChoice(CLI::App& command, const std::string& option, Value& chosen,
+               const Choices<Value>& choices, const std::string& description) {
     command
-        .add_option("--select", wish.preselection, "What is picked: safe (default), all or none")
-        ->transform(CLI::Transformer(preselections))
-        ->type_name("WHAT");
+        .add_option(option, chosen, description + "; " + choices.front().first + " if not given")
+        ->transform(CLI::Transformer(choices).description(""))
+        ->type_name(choiceNames(choices));
+}
+
+void addSelection(CLI::App& command, SelectionWish& wish) {
+    static const Choices<Preselection> preselections = {
+        {"safe", Preselection::safe}, {"all", Preselection::all}, {"none", Preselection::none}};
+    addChoice(command, "--select", wish.preselection, preselections, "What is picked");
     command.add_option("--only", wish.only, "Pick exactly this item; may be given several times")
         ->type_name("ID")
         ->allow_extra_args(false);
@@ -72,15 +91,13 @@ void addScanningCommands(CLI::App& app, Call& call) {
 }
 
 void addAppCommands(CLI::App& app, Call& call) {
-    static const std::map<std::string, SortOrder> orders = {{"least-used", SortOrder::leastUsed},
-                                                            {"largest", SortOrder::largest},
-                                                            {"name", SortOrder::name}};
+    static const Choices<SortOrder> orders = {{"least-used", SortOrder::leastUsed},
+                                              {"largest", SortOrder::largest},
+                                              {"name", SortOrder::name}};
     CLI::App* command = nullptr;
     auto& apps = addCommand<AppsCall>(app, call, "apps", "List the installed applications", runApps,
                                       command);
-    command->add_option("--sort", apps.order, "least-used (default), largest or name")
-        ->transform(CLI::Transformer(orders))
-        ->type_name("ORDER");
+    addChoice(*command, "--sort", apps.order, orders, "How the list is ordered");
 
     auto& leftovers = addCommand<LeftoversCall>(app, call, "leftovers",
                                                 "Say what an application would leave behind",
