@@ -33,11 +33,14 @@ Popover::Popover(Application& application, std::shared_ptr<LiveSums> sums)
     : application_(application), sums_(std::move(sums)) {}
 
 Popover::~Popover() {
+    // Both before the engine.
     delete window_;
+    delete leaving_;
 }
 
 void Popover::open(const QRect& item) {
     close();
+    delete leaving_;
     auto* window = makeWindow();
     window_ = window;
     const auto place = popoverPlace(toArea(item), window->width(), window->height(),
@@ -51,10 +54,10 @@ void Popover::open(const QRect& item) {
 
 void Popover::close() {
     if (!window_) return;
-    auto* window = std::exchange(window_, nullptr).data();
-    window->hide();
+    leaving_ = std::exchange(window_, nullptr);
+    leaving_->hide();
     // A verb of its own screen may have closed it.
-    window->deleteLater();
+    leaving_->deleteLater();
 }
 
 bool Popover::hasJustLeft() const {

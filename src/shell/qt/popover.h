@@ -41,6 +41,7 @@ class Popover {
     const std::shared_ptr<LiveSums> sums_;
     std::unique_ptr<QQmlEngine> engine_;  ///< from the first opening on
     QPointer<QQuickWindow> window_;
+    QPointer<QQuickWindow> leaving_;  ///< closed, and gone in a later turn
     QElapsedTimer sinceLeft_;
 };
 

@@ -21,8 +21,8 @@ int widthOf(const QSize& image, int height) {
     return image.height() > 0 ? height * image.width() / image.height() : height;
 }
 
-QPixmap mark(int height) {
-    QImageReader reader(":/Tidewell/logos/logo-mark.svg");
+QPixmap picture(const QString& file, int height) {
+    QImageReader reader(file);
     reader.setScaledSize({widthOf(reader.size(), height), height});
     return QPixmap::fromImage(reader.read());
 }
@@ -41,10 +41,10 @@ QPixmap symbol(int height) {
 
 }  // namespace
 
-QIcon statusImage() {
+QIcon statusImage(const QString& file) {
     QIcon icon;
     for (int scale = 1; scale <= largestScale; ++scale) {
-        const auto image = mark(scale * imageHeight);
+        const auto image = picture(file, scale * imageHeight);
         icon.addPixmap(image.isNull() ? symbol(scale * imageHeight) : image);
     }
     icon.setIsMask(true);
