@@ -124,6 +124,29 @@ TEST_F(PerformanceTest, AnApplicationThatQuitsLeavesAndTheKeyboardStaysNearItsPl
     EXPECT_EQ(focused(), "Rescan");
 }
 
+TEST_F(PerformanceTest, ADoubleClickAsksOneApplicationAlthoughTheRowsMoveUnderIt) {
+    const RunningProgram first(executableOf(machine, "/Applications/First.app"));
+    const RunningProgram second(executableOf(machine, "/Applications/Second.app"));
+    scan();
+    const auto upper = nameOf(0);
+    const auto lower = nameOf(1);
+    const auto place =
+        window->window().mapFromGlobal(findDescribed("Quit", lower)->rect().center());
+    const auto clickThere = [&] {
+        QTest::mouseClick(&window->window(), Qt::LeftButton, {}, place);
+    };
+    clickThere();
+    ASSERT_TRUE(comesTo([&] { return isBusy(lower); }));
+    ASSERT_TRUE(comesTo([&] {
+        const auto* other = findDescribed("Quit", upper);
+        return other && window->window().mapFromGlobal(other->rect().center()).y() == place.y();
+    })) << "the banner has moved the other row to the pointer";
+    clickThere();
+    EXPECT_TRUE(shows("Asked " + lower + " to quit. Its memory frees as it closes."));
+    EXPECT_TRUE(comesTo([&] { return !isListed(lower); }));
+    EXPECT_TRUE(isListed(upper));
+}
+
 TEST_F(PerformanceTest, OneThatDoesNotQuitStaysAndIsAskedOnce) {
     const RunningProgram stubborn(executableOf(machine, "/Applications/Stubborn.app"),
                                   OnRequestToEnd::ignore);

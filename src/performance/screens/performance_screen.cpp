@@ -1,5 +1,8 @@
 #include "performance/screens/performance_screen.h"
 
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qstylehints.h>
+
 #include <string>
 #include <utility>
 #include <vector>
@@ -84,7 +87,12 @@ void PerformanceScreen::choosePanel(int row) {
 
 void PerformanceScreen::quit(int row) {
     const auto& chosen = apps_.values().at(static_cast<std::size_t>(row));
-    if (!chosen.isBusy) model_->quit(chosen.app);
+    const auto longestDoubleClick = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    const bool isSecondClick =
+        sinceRequest_.isValid() && !sinceRequest_.hasExpired(longestDoubleClick);
+    if (chosen.isBusy || isSecondClick) return;
+    sinceRequest_.start();
+    model_->quit(chosen.app);
 }
 
 void PerformanceScreen::openLoginSettings() const {
