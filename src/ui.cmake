@@ -41,6 +41,10 @@ file(GLOB logos CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/assets/logos/*.svg)
 qt_add_resources(tidewell_ui logos
   PREFIX /Tidewell/logos BASE ${CMAKE_SOURCE_DIR}/assets/logos FILES ${logos})
 
+qt_add_resources(tidewell_ui film
+  PREFIX /Tidewell/film BASE ${CMAKE_SOURCE_DIR}/assets/film
+  FILES ${CMAKE_SOURCE_DIR}/assets/film/onboarding.mp4)
+
 target_link_libraries(tidewell_ui
   PUBLIC tidewell_core Qt6::Quick Qt6::Qml Qt6::Widgets
   INTERFACE tidewell_uiplugin)

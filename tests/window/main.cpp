@@ -2,6 +2,8 @@
 
 #include <QtWidgets/qapplication.h>
 
+#include "shell/qt/film_player.h"
+
 namespace {
 
 /// Whatever a .qml file complains of is a fault of the test in hand.
@@ -16,6 +18,7 @@ void failOnWarnings(QtMsgType type, const QMessageLogContext&, const QString& me
 
 int main(int count, char** words) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    tidewell::chooseFilmPlayer();
     const QApplication toolkit(count, words);
     QApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(failOnWarnings);

@@ -1,3 +1,8 @@
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qelapsedtimer.h>
+#include <QtCore/qfile.h>
+
+#include "kit/qt/motion.h"
 #include "shell/screens/welcome_content.h"
 #include "window_test.h"
 
@@ -6,12 +11,37 @@ namespace {
 
 class WelcomeTest : public WindowTest {
  protected:
+    /// A folder for a film that is not the program's own.
+    void layOutFilm(const std::string& text) {
+        machine.text("/Films/onboarding.mov", text);
+        filmFolder = QString::fromStdString(machine.host().systemPath("/Films"));
+    }
+    /// Of the control that has the keyboard, as it is seen.
+    double opacity() const {
+        double product = 1;
+        for (auto* item = window->window().activeFocusItem(); item; item = item->parentItem())
+            product *= item->opacity();
+        return product;
+    }
+    bool isAtHome() const {
+        return !view->playingIntro() && !shows("Get Started") && focused() == "Scan My Mac" &&
+               opacity() == 1.0;
+    }
+    bool isAtHomeAtOnce() {
+        UserDefaults(machine.host().configurationDirectory).setBoolean("hasOnboarded", false);
+        startForTheFirstTime();
+        QElapsedTimer clock;
+        clock.start();
+        key(Qt::Key_Return);
+        return comesTo([&] { return isAtHome(); }) && clock.elapsed() < 2500;
+    }
     bool isOnboardedOnDisk() const {
         return UserDefaults(machine.host().configurationDirectory).boolean("hasOnboarded");
     }
 };
 
 TEST_F(WelcomeTest, TheFirstRunScreenHasTheWindowUntilItsButtonIsPressed) {
+    filmFolder = QString();
     startForTheFirstTime();
     EXPECT_EQ(focused(), "Get Started");
     key(Qt::Key_Tab);
@@ -25,10 +55,48 @@ TEST_F(WelcomeTest, TheFirstRunScreenHasTheWindowUntilItsButtonIsPressed) {
 
     key(Qt::Key_Return);
     EXPECT_TRUE(isOnboardedOnDisk());
-    ASSERT_TRUE(comesTo([&] { return focused() == "Scan My Mac"; })) << focused().toStdString();
-    EXPECT_TRUE(comesTo([&] { return !shows("Get Started"); }));
+    ASSERT_TRUE(comesTo([&] { return isAtHome(); })) << "there is no film";
     click("Apps", QAccessible::Button);
     EXPECT_EQ(view->mode(), Mode::apps);
+}
+
+TEST_F(WelcomeTest, TheFilmPlaysAndGivesWayToHome) {
+    startForTheFirstTime();
+    QElapsedTimer clock;
+    clock.start();
+    click("Get Started");
+    ASSERT_TRUE(comesTo([&] { return view->playingIntro() && !shows("Get Started"); }));
+    EXPECT_EQ(view->introHomeOpacity(), 0.0);
+    key(Qt::Key_Return);
+    EXPECT_EQ(view->smartScan->phase(), SmartScanController::Phase::idle)
+        << "what lies below does not react";
+    ASSERT_TRUE(comesTo([&] { return view->introHomeOpacity() == 1.0; }));
+    EXPECT_GT(clock.elapsed(), 2000) << "the film was not played";
+    EXPECT_LT(clock.elapsed(), 11000) << "the film was given up";
+    EXPECT_TRUE(view->playingIntro()) << "it still fades";
+    EXPECT_TRUE(comesTo([&] { return isAtHome(); }));
+}
+
+TEST_F(WelcomeTest, AFilmThatBreaksOffGivesWayWhereItDoes) {
+    QFile film(QString(ownFilmFolder) + "/onboarding.mp4");
+    ASSERT_TRUE(film.open(QIODevice::ReadOnly));
+    layOutFilm(film.read(film.size() / 4).toStdString());
+    startForTheFirstTime();
+    key(Qt::Key_Return);
+    EXPECT_TRUE(comesTo([&] { return isAtHome(); }));
+}
+
+TEST_F(WelcomeTest, WithoutAFilmAndWhatPlaysItHomeIsThereAtOnce) {
+    layOutFilm("no film");
+    EXPECT_TRUE(isAtHomeAtOnce()) << "a broken film";
+    filmFolder = ownFilmFolder;
+    Motion::setReduced(true);
+    EXPECT_TRUE(isAtHomeAtOnce()) << "the user wants less motion";
+    Motion::setReduced(false);
+    const auto plugins = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
+    EXPECT_TRUE(isAtHomeAtOnce()) << "there is no player";
+    QCoreApplication::setLibraryPaths(plugins);
 }
 
 TEST_F(WelcomeTest, TheAboutSheetIsLeftByEscapeAndByItsButtonAndTheKeyboardReturns) {

@@ -29,14 +29,17 @@ class WindowTest : public testing::Test {
         UserDefaults(machine.host().configurationDirectory).setBoolean("hasOnboarded", true);
         startForTheFirstTime();
     }
+    /// The same for one who does not; may be called again for a further start.
     void startForTheFirstTime() {
+        window.reset();
+        view.reset();
         application = std::make_unique<Application>(
             machine.host(),
             Workspace{.openUrl = [this](const std::string& url) { openedUrls.push_back(url); },
                       .reveal = [this](const std::string& path) { revealedPaths.push_back(path); }},
             [] {});
         view = std::make_shared<ContentView>(*application);
-        window = std::make_unique<MainWindow>(*application, view);
+        window = std::make_unique<MainWindow>(*application, view, filmFolder);
         window->open();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window->window()));
     }
@@ -117,6 +120,7 @@ class WindowTest : public testing::Test {
     QtMainLoop loop;
     std::vector<std::string> openedUrls;
     std::vector<std::string> revealedPaths;
+    QString filmFolder = ownFilmFolder;
     std::unique_ptr<Application> application;
     std::shared_ptr<ContentView> view;
     std::unique_ptr<MainWindow> window;

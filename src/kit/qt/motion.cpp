@@ -35,6 +35,10 @@ void Motion::setReduced(bool isReduced) {
     emit wish->changed();
 }
 
+bool Motion::isReduced() {
+    return wish->isReduced;
+}
+
 bool Motion::isAllowed() const {
     return !wish->isReduced && window_ && window_->isSeenAndActive() &&
            window_->drawing() == Drawing::byGraphicsCard;

@@ -37,6 +37,7 @@ class Motion : public QObject {
 
     /// What the user's settings say; holds for all windows.
     static void setReduced(bool isReduced);
+    static bool isReduced();
 
     bool isAllowed() const;
     bool hasPassages() const;

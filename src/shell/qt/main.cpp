@@ -1,3 +1,4 @@
+#include <QtCore/qloggingcategory.h>
 #include <QtWidgets/qapplication.h>
 
 #include <cstdlib>
@@ -7,6 +8,7 @@
 #include "kit/qt/motion.h"
 #include "platform/reduced_motion.h"
 #include "platform/single_instance.h"
+#include "shell/qt/film_player.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
 #include "shell/qt/status_item.h"
@@ -87,7 +89,8 @@ int start(int& count, char** words, const StartWish& wish) {
     }
     SingleInstance instance(*found.host);
     if (instance.role() == SingleInstance::Role::later) return handOver(instance, wish);
-    qputenv("QT_MEDIA_BACKEND", "ffmpeg");  // the other backend needs packages that may be missing
+    chooseFilmPlayer();
+    QLoggingCategory::setFilterRules("default.debug=false");  // the player tells what it tries
     QApplication::setApplicationName("tidewell");
     QApplication::setDesktopFileName("io.tidewell.Tidewell");
     QApplication::setQuitOnLastWindowClosed(false);

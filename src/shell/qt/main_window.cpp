@@ -8,11 +8,12 @@
 
 namespace tidewell {
 
-MainWindow::MainWindow(Application& application, std::shared_ptr<ContentView> view)
+MainWindow::MainWindow(Application& application, std::shared_ptr<ContentView> view,
+                       const QString& filmFolder)
     : application_(application),
       view_(std::move(view)),
       storedSums_(application.host.configurationDirectory, [this] { view_->sums->read(); }),
-      screen_(view_) {
+      screen_(view_, filmFolder) {
     importTidewellModule(engine_);
     engine_.setInitialProperties({{"windowScreen", QVariant::fromValue(&screen_)}});
     engine_.load(QUrl("qrc:/Tidewell/shell/screens/TidewellWindow.qml"));

@@ -14,7 +14,8 @@ namespace tidewell {
 class MainWindow {
  public:
     /// The application outlives it. From now on its bridge can open the window.
-    MainWindow(Application& application, std::shared_ptr<ContentView> view);
+    MainWindow(Application& application, std::shared_ptr<ContentView> view,
+               const QString& filmFolder = ownFilmFolder);
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow();

@@ -41,7 +41,7 @@ Item {
                 id: reveal
                 target: home
                 property: "opacity"
-                to: home.wantedOpacity
+                to: 1
                 duration: 3000
                 easing.type: Easing.InOutQuad
             }
@@ -73,6 +73,12 @@ Item {
         }
     }
 
+    PassingView {
+        anchors.fill: parent
+        isWanted: root.screen.isPlayingIntro
+        view: "IntroRevealView.qml"
+        given: ({screen: root.screen.intro})
+    }
     PassingView {
         anchors.fill: parent
         isWanted: !root.screen.hasOnboarded

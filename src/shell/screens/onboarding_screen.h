@@ -30,7 +30,7 @@ class OnboardingScreen final : public QObject {
     static QString line() { return toText(purposeLine); }
     static QString getStartedLabel() { return toText(tidewell::getStartedLabel); }
 
-    Q_INVOKABLE void getStarted() { view_->finishOnboarding(Intro::skip); }
+    Q_INVOKABLE void getStarted() { view_->finishOnboarding(Intro::play); }
 
  private:
     const std::shared_ptr<ContentView> view_;

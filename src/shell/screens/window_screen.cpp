@@ -26,11 +26,12 @@ std::vector<ListModel<Row>::Role> rowRoles() {
 
 }  // namespace
 
-WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, QObject* parent)
-    : Screen(parent),
+WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, const QString& filmFolder)
+    : Screen(nullptr),
       view_(std::move(view)),
       rows_(rowKey, rowRoles(), this),
       onboarding_(view_, this),
+      intro_(view_, filmFolder, this),
       about_(view_, this),
       home_(view_, this),
       smartScan_(view_, this),

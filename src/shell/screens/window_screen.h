@@ -15,6 +15,7 @@
 #include "performance/screens/performance_screen.h"
 #include "shell/screens/about_screen.h"
 #include "shell/screens/home_screen.h"
+#include "shell/screens/intro_screen.h"
 #include "shell/screens/onboarding_screen.h"
 #include "shell/screens/smart_scan_screen.h"
 #include "shell/screens/window_content.h"
@@ -35,6 +36,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(bool isPlayingIntro READ isPlayingIntro NOTIFY changed)
     Q_PROPERTY(double introHomeOpacity READ introHomeOpacity NOTIFY changed)
     Q_PROPERTY(tidewell::OnboardingScreen* onboarding READ onboarding CONSTANT)
+    Q_PROPERTY(tidewell::IntroScreen* intro READ intro CONSTANT)
     Q_PROPERTY(tidewell::AboutScreen* about READ about CONSTANT)
     Q_PROPERTY(tidewell::HomeScreen* home READ home CONSTANT)
     Q_PROPERTY(tidewell::SmartScanScreen* smartScan READ smartScan CONSTANT)
@@ -52,7 +54,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(QString aboutSymbol READ aboutSymbol CONSTANT)
 
  public:
-    explicit WindowScreen(std::shared_ptr<ContentView> view, QObject* parent = nullptr);
+    WindowScreen(std::shared_ptr<ContentView> view, const QString& filmFolder);
 
     QAbstractItemModel* rows() { return &rows_; }
     QString detailView() const { return toText(content_.detailView); }
@@ -62,6 +64,7 @@ class WindowScreen final : public Screen {
     bool isPlayingIntro() const { return view_->playingIntro(); }
     double introHomeOpacity() const { return view_->introHomeOpacity(); }
     OnboardingScreen* onboarding() { return &onboarding_; }
+    IntroScreen* intro() { return &intro_; }
     AboutScreen* about() { return &about_; }
     HomeScreen* home() { return &home_; }
     SmartScanScreen* smartScan() { return &smartScan_; }
@@ -82,8 +85,6 @@ class WindowScreen final : public Screen {
     Q_INVOKABLE void openRow(int row);
     Q_INVOKABLE void enableAccess() { view_->permissions->openSettings(); }
     Q_INVOKABLE void showAbout() { view_->showAbout = true; }
-    Q_INVOKABLE void revealHome() { view_->revealHome(); }
-    Q_INVOKABLE void endIntro() { view_->endIntro(); }
 
  private:
     void update() override;
@@ -92,6 +93,7 @@ class WindowScreen final : public Screen {
     WindowContent content_;
     ListModel<SidebarRowContent> rows_;
     OnboardingScreen onboarding_;
+    IntroScreen intro_;
     AboutScreen about_;
     HomeScreen home_;
     SmartScanScreen smartScan_;
