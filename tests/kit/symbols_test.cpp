@@ -27,9 +27,8 @@ bool isScreen(const fs::path& path) {
 /// What the screens' sources say of symbols: names in the field of one (which may have colours
 /// too), and names that only a symbol has.
 std::set<std::string> symbolsOnScreens() {
-    const std::regex named(
-        R"re([sS]ymbol(?!Color|Background)\w*\W{1,4}"([a-z0-9.]+)"|)re"
-        R"re("([a-z0-9.]+\.fill|(?:chevron|arrow|checkmark)[a-z0-9.]*)")re");
+    const std::regex named(R"re([sS]ymbol(?!Color|Background)\w*\W{1,4}"([a-z0-9.]+)"|)re"
+                           R"re("([a-z0-9.]+\.fill|(?:chevron|arrow|checkmark)[a-z0-9.]*)")re");
     std::set<std::string> names;
     for (const auto& entry : fs::recursive_directory_iterator(TIDEWELL_SOURCES)) {
         if (!isScreen(entry.path())) continue;
