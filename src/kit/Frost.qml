@@ -6,6 +6,8 @@ Item {
     id: root
 
     required property Item below
+    /// Whether it follows what changes below.
+    property bool isLive: true
 
     readonly property size smallSize: Qt.size(Math.ceil(width / 6), Math.ceil(height / 6))
     readonly property bool hasShaders: GraphicsInfo.api !== GraphicsInfo.Software
@@ -23,6 +25,7 @@ Item {
         sourceItem: root.hasShaders ? root.below : null
         textureSize { width: root.smallSize.width; height: root.smallSize.height }
         smooth: true
+        live: root.isLive
     }
     ShaderEffect {
         readonly property var picture: small

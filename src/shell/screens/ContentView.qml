@@ -14,7 +14,10 @@ Item {
         id: below
         anchors.fill: parent
 
-        AmbientBackground { anchors.fill: parent }
+        AmbientBackground {
+            anchors.fill: parent
+            visible: root.screen.introHomeOpacity > 0
+        }
 
         FocusScope {
             id: home

@@ -12,6 +12,7 @@ FocusScope {
     Ambient.palette: Kit.green
 
     Frost {
+        id: frost
         anchors.fill: parent
         below: root.below
     }
@@ -64,7 +65,10 @@ FocusScope {
             fontSize: 15
             focus: true
             text: root.screen.getStartedLabel
-            onClicked: root.screen.getStarted()
+            onClicked: {
+                frost.isLive = false  // on the way out it shows what it showed
+                root.screen.getStarted()
+            }
         }
     }
 }

@@ -15,10 +15,9 @@ Loader {
     function follow() {
         if (isWanted && !item)
             setSource(view, given)
-        opacity = isWanted ? 1 : 0
     }
 
-    opacity: 0
+    opacity: isWanted ? 1 : 0
     onIsWantedChanged: follow()
     Component.onCompleted: follow()
     onOpacityChanged: {
