@@ -13,6 +13,7 @@
 
 namespace {
 
+// make_film names the size and the rate too.
 constexpr int width = 1456;
 constexpr int height = 962;
 constexpr int framesPerSecond = 30;
@@ -113,10 +114,15 @@ struct Wave {
 constexpr Wave frontAtRest{.level = 6, .height = 10, .shift = -49};
 constexpr Wave backAtRest{.level = -5, .height = 9, .shift = 6};
 
+/// How far the water is from its rest: from 1 to 0.
+double unrestAt(double t) {
+    return 1 - smooth(tideBegins, tideStands + 0.6, t);
+}
+
 /// The water comes up with a swell, runs to and fro, and comes to rest as the mark's wave.
 Wave waveAt(double t, const Wave& rest, double direction) {
     const double rise = easeOut(ramp(tideBegins, tideStands, t));
-    const double unrest = 1 - smooth(tideBegins, tideStands + 0.6, t);
+    const double unrest = unrestAt(t);
     const double swell = std::sin((t - tideBegins) * 5.0) * 9 * unrest * rise;
     return {rest.level + (1 - rise) * 72 - swell * (direction > 0 ? 1 : 0.6),
             rest.height * (1 + 0.9 * unrest * std::cos((t - tideBegins) * 3.4)),
@@ -223,8 +229,8 @@ Rgb inWell(const Frame& frame, Point p) {
     const Rgb far = mix(rgb(0x8df7b8), rgb(0x22bd6c), ramp(-18, 20, p.y - frame.back.level - 5));
     color = mix(color, far, coverage(frame.back.distance(p)) * backOpacity);
     const double distance = frame.front.distance(p);
-    const double unrest = 1 - smooth(tideBegins, tideStands + 0.6, frame.t);
-    Rgb water = mix(wellColor(p), soft, gauss((distance + 1.5) / 1.8) * 0.6 * unrest);
+    const double crest = gauss((distance + 1.5) / 1.8) * 0.6 * unrestAt(frame.t);
+    Rgb water = mix(wellColor(p), soft, crest);
     water = mix(water, soft, bubbles(frame, p));
     return mix(color, water, coverage(distance));
 }
