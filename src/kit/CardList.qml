@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewell
 
-/// A list of any length whose cards hold buttons. The keyboard goes through the buttons, and the
-/// list follows it.
+/// A list of any length whose cards hold buttons. The keyboard goes through the buttons, with Up and
+/// Down too, and the list follows it.
 ListView {
     id: root
 
@@ -21,7 +21,19 @@ ListView {
 
     readonly property real cardWidth: width - leftMargin - rightMargin
 
+    Keys.onUpPressed: step(false)
+    Keys.onDownPressed: step(true)
+
+    function step(isForward: bool) {
+        const next = Window.activeFocusItem.nextItemInFocusChain(isForward)
+        if (follower.isInside(next))
+            next.forceActiveFocus(isForward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
+
     T.ScrollBar.vertical: ScrollHandle {}
 
-    FocusFollower { area: root }
+    FocusFollower {
+        id: follower
+        area: root
+    }
 }

@@ -171,14 +171,19 @@ TEST_F(PerformanceTest, TheStartupPanelLeadsToEachItemAndToTheSettings) {
     EXPECT_TRUE(findDescribed("org.db", "/opt/db. System"));
     press(findDescribed("Reveal", "org.sync"), "Reveal");
     EXPECT_EQ(revealedPaths, std::vector{machine.path("~/Library/LaunchAgents/sync.plist")});
+    for (int number = 0; number < 100; ++number)
+        machine.text("/Library/LaunchAgents/x" + std::to_string(number) + ".plist",
+                     "<plist version=\"1.0\"><dict/></plist>");
+    click("Rescan");
+    ASSERT_TRUE(comesTo([&] { return isListed("x0"); })) << "the panel stays";
     click("Open Login Items Settings");
     EXPECT_EQ(openedUrls, std::vector<std::string>{
                               "x-apple.systempreferences:com.apple.LoginItems-Settings.extension"});
 
-    machine.remove("/Library/LaunchDaemons/db.plist");
-    click("Rescan");
-    EXPECT_TRUE(comesTo([&] { return !isListed("org.db"); }));
-    EXPECT_TRUE(comesTo([&] { return isListed("org.sync"); })) << "the panel stays";
+    key(Qt::Key_Tab);
+    for (int number = 0; number < 101; ++number) key(Qt::Key_Down);
+    EXPECT_TRUE(findDescribed("Reveal", "x99")->state().focused)
+        << "the arrows go through all, however long the list is";
 }
 
 }  // namespace
