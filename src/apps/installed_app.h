@@ -18,6 +18,8 @@ struct InstalledApp {
     std::optional<std::string> version;
     ByteCount sizeBytes = 0;
     std::optional<Date> lastUsed;  ///< absent if the system holds no date
+
+    bool operator==(const InstalledApp&) const = default;
 };
 
 /// "Used 3 months ago", or that there is no record.

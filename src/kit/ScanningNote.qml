@@ -11,6 +11,7 @@ Column {
     property string line
     /// Below 0 if it is not known.
     property double progress: -1
+    property real barWidth: 260
 
     spacing: 0
 
@@ -39,7 +40,7 @@ Column {
     GradientBar {
         anchors.horizontalCenter: parent.horizontalCenter
         visible: root.progress >= 0
-        width: 260
+        width: root.barWidth
         fraction: root.progress
         Accessible.name: root.title
     }

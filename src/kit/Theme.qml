@@ -11,6 +11,8 @@ QtObject {
     readonly property color track: Qt.rgba(1, 1, 1, 0.07)
     readonly property color hoverFill: Qt.rgba(1, 1, 1, 0.06)
     readonly property color destructive: Kit.destructive
+    readonly property color success: "#33d682"
+    readonly property color caution: "#ffa033"
 
     readonly property int hoverTime: 170
     readonly property int pressTime: 110

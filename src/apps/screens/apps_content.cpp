@@ -118,6 +118,7 @@ UninstallSheetContent uninstallSheet(const UninstallPlan& plan) {
         .line = std::to_string(plan.leftovers.size() + 1) + " items · " +
                 byteText(plan.totalBytes()) + " will move to the Trash",
         .rows = {{
+            .id = plan.app.url,
             .symbol = "app.fill",
             .title = plan.app.name + ".app",
             .label = "Application",
@@ -127,6 +128,7 @@ UninstallSheetContent uninstallSheet(const UninstallPlan& plan) {
     };
     for (const auto& leftover : plan.leftovers)
         sheet.rows.push_back({
+            .id = leftover.url,
             .symbol = "folder.fill",
             .title = std::string(lastPathComponent(leftover.url)),
             .label = leftover.category,

@@ -17,6 +17,7 @@ inline constexpr std::string_view scanAppsLabel = "Scan Apps";
 inline constexpr std::string_view huntingLeftoversLine = "Hunting leftovers…";
 inline constexpr std::string_view sortMenuSymbol = "arrow.up.arrow.down";
 inline constexpr std::string_view dismissResultSymbol = "xmark";
+inline constexpr std::string_view dismissResultLabel = "Dismiss";
 inline constexpr std::string_view trashButtonSymbol = "trash";
 
 /// A symbol over a line, where there is no list: before the first scan and during a scan.
@@ -29,6 +30,8 @@ struct SortChoice {
     SortOrder order;
     std::string_view label;
     bool isChosen;
+
+    bool operator==(const SortChoice&) const = default;
 };
 
 /// The strip that tells how an uninstall ended.
@@ -58,15 +61,20 @@ struct AppCardContent {
     std::string size;
     AppMark mark;
     std::string trashHelp;
+
+    bool operator==(const AppCardContent&) const = default;
 };
 
 AppCardContent appCard(const InstalledApp& app, Date now);
 
 struct UninstallRow {
+    std::string id;  ///< tells rows apart
     std::string_view symbol;
     std::string title;
     std::string label;
     std::string size;
+
+    bool operator==(const UninstallRow&) const = default;
 };
 
 struct UninstallSheetContent {

@@ -12,7 +12,6 @@ Pressable {
     /// Said beside the title of what can cost the user something; empty for all else.
     property string badge
 
-    readonly property color caution: "#ffa033"
     readonly property color accent: Ambient.palette.primary
 
     implicitHeight: contentItem.implicitHeight + 26
@@ -81,7 +80,7 @@ Pressable {
                     anchors.verticalCenter: parent.verticalCenter
                     visible: text !== ""
                     text: root.badge
-                    tint: root.caution
+                    tint: Theme.caution
                 }
             }
             Label {

@@ -39,6 +39,7 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, const QString& fil
       review_(view_->cleanupModel, view_->theme, this),
       cleaned_(view_->cleanupModel, this),
       performance_(view_->performanceModel, view_->workspace(), this),
+      apps_(view_->appsModel, this),
       deepScan_(view_->deepScanModel, view_->workspace(), this) {
     observe(view_->willChange);
     observe(view_->cleanupModel->willChange);

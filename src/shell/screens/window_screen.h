@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "apps/screens/apps_screen.h"
 #include "cleanup/screens/cleaned_screen.h"
 #include "cleanup/screens/review_screen.h"
 #include "cleanup/screens/scan_screen.h"
@@ -44,6 +45,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::ReviewScreen* review READ review CONSTANT)
     Q_PROPERTY(tidewell::CleanedScreen* cleaned READ cleaned CONSTANT)
     Q_PROPERTY(tidewell::PerformanceScreen* performance READ performance CONSTANT)
+    Q_PROPERTY(tidewell::AppsScreen* apps READ apps CONSTANT)
     Q_PROPERTY(tidewell::DeepScanScreen* deepScan READ deepScan CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
@@ -72,6 +74,7 @@ class WindowScreen final : public Screen {
     ReviewScreen* review() { return &review_; }
     CleanedScreen* cleaned() { return &cleaned_; }
     PerformanceScreen* performance() { return &performance_; }
+    AppsScreen* apps() { return &apps_; }
     DeepScanScreen* deepScan() { return &deepScan_; }
     static QString title() { return toText(windowTitle); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
@@ -101,6 +104,7 @@ class WindowScreen final : public Screen {
     ReviewScreen review_;
     CleanedScreen cleaned_;
     PerformanceScreen performance_;
+    AppsScreen apps_;
     DeepScanScreen deepScan_;
 };
 

@@ -31,10 +31,10 @@ CleanupTarget projectFolder(const std::string& name, const std::string& project,
             .paths = {"/nowhere"}};
 }
 
-InstalledApp app(const std::string& name, ByteCount size, int daysUnused) {
+InstalledApp app(const Host& host, const std::string& name, ByteCount size, int daysUnused) {
     return {.id = "com.example." + name,
             .name = name,
-            .url = "/Applications/" + name + ".app",
+            .url = host.systemPath("/Applications/" + name + ".app"),
             .bundleID = "com.example." + name,
             .version = "4.2",
             .sizeBytes = size,
@@ -79,11 +79,20 @@ void findJunk(const ContentView& view) {
 }
 
 void findApps(const ContentView& view) {
-    view.appsModel->apps = {
-        app("Sketchpad", 1240 * megabyte, 2),   app("Tidal Studio", 6310 * megabyte, 140),
-        app("Notebook", 310 * megabyte, 0),     app("Skyline Maps", 890 * megabyte, 420),
-        app("Mail Courier", 164 * megabyte, 1), app("Film Cutter", 3870 * megabyte, 95),
+    const auto& host = view.host();
+    std::vector<InstalledApp> apps = {
+        app(host, "Sketchpad", 1240 * megabyte, 2),
+        app(host, "Tidal Studio", 6310 * megabyte, 140),
+        app(host, "Notebook", 310 * megabyte, 0),
+        app(host, "Skyline Maps", 890 * megabyte, 420),
+        app(host, "Mail Courier", 164 * megabyte, 1),
+        app(host, "Film Cutter", 3870 * megabyte, 95),
+        app(host, "Paint Shop Updater", 48 * megabyte, 600),
+        app(host, "The Application With A Name That Fits No Card Of Any Width", 12 * megabyte, 33),
     };
+    apps.back().lastUsed.reset();
+    apps.back().version = "2026.11.23-release-candidate+build.4711";
+    view.appsModel->apps = std::move(apps);
     view.appsModel->phase = AppsViewModel::Phase::list;
 }
 

@@ -1,0 +1,122 @@
+import QtQuick
+import Tidewell
+
+/// An application, what it occupies, and whether it is used at all.
+Rectangle {
+    id: root
+
+    property string icon
+    property string title
+    property string line
+    property string size
+    property string version
+    property string mark
+    property bool isUnused: false
+    property string trashHelp
+    property string trashSymbol
+
+    signal uninstalled()
+
+    implicitHeight: 152
+    radius: 16
+    border.width: 1
+    border.color: hover.hovered ? Theme.withOpacity(Ambient.palette.primary, 0.45) : Qt.rgba(1, 1, 1, 0.07)
+    gradient: Gradient {
+        GradientStop { position: 0; color: Qt.rgba(1, 1, 1, 0.060) }
+        GradientStop { position: 1; color: Qt.rgba(1, 1, 1, 0.032) }
+    }
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.description: size + ". " + line + (mark === "" ? "" : ". " + mark)
+
+    Behavior on border.color {
+        enabled: root.Motion.hasPassages
+        ColorAnimation { duration: Theme.hoverTime }
+    }
+
+    HoverHandler { id: hover }
+
+    AppIcon {
+        id: picture
+        x: 16
+        y: 16
+        source: root.icon
+    }
+    Label {
+        anchors.left: picture.right
+        anchors.leftMargin: 12
+        anchors.right: trash.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: picture.verticalCenter
+        text: root.title
+        size: 14
+        weight: Font.DemiBold
+        lineHeight: 1.1
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    IconButton {
+        id: trash
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: picture.verticalCenter
+        symbol: root.trashSymbol
+        tint: Theme.destructive
+        text: root.trashHelp
+        onClicked: root.uninstalled()
+    }
+    Label {
+        x: 16
+        y: 68
+        width: parent.width - 32
+        height: 36
+        text: root.line
+        size: 12
+        lineHeight: 1.15
+        color: Theme.secondary
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    FigureText {
+        id: figure
+        x: 16
+        anchors.verticalCenter: marks.verticalCenter
+        text: root.size
+        size: 14
+        weight: Font.Bold
+        Accessible.ignored: true
+    }
+    Row {
+        id: marks
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 14
+        spacing: 8
+
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            width: Math.min(implicitWidth,
+                            root.width - 40 - figure.width - (tag.visible ? tag.width + marks.spacing : 0))
+            text: root.version
+            size: 11.5
+            color: Theme.faint
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Tag {
+            id: tag
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.mark !== ""
+            text: root.mark
+            tint: root.isUnused ? Theme.caution : Theme.text
+            textColor: root.isUnused ? Theme.caution : Qt.rgba(1, 1, 1, 0.55)
+            strength: root.isUnused ? 0.16 : 0.10
+        }
+    }
+}

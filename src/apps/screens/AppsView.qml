@@ -1,0 +1,153 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Tidewell
+
+/// The Apps tool: every application with its size and when it was last used, to be uninstalled
+/// together with what it has left elsewhere.
+FocusScope {
+    id: root
+
+    required property AppsScreen screen
+
+    readonly property real margin: 34
+    readonly property bool isList: screen.phase === AppsScreen.List
+
+    Component.onCompleted: screen.open()
+
+    StartNote {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -8
+        visible: root.screen.phase === AppsScreen.Idle
+        focus: visible
+        symbol: root.screen.noticeSymbol
+        line: root.screen.noticeLine
+        buttonLabel: root.screen.scanLabel
+        onStarted: root.screen.scan()
+    }
+
+    ScreenHeader {
+        id: header
+        anchors.left: parent.left
+        anchors.leftMargin: root.margin
+        anchors.right: sort.left
+        anchors.rightMargin: 20
+        y: 30
+        visible: root.screen.phase !== AppsScreen.Idle
+        title: root.screen.title
+        subtitle: root.screen.subtitle
+    }
+    MenuPicker {
+        id: sort
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        y: 36
+        visible: root.isList
+        focus: visible
+        symbol: root.screen.sortSymbol
+        text: root.screen.sortLabel
+        model: root.screen.sortChoices
+        onChosen: row => root.screen.sortBy(row)
+    }
+
+    ScanningNote {
+        anchors.centerIn: parent
+        visible: root.screen.phase === AppsScreen.Scanning
+        symbol: root.screen.noticeSymbol
+        title: root.screen.noticeLine
+        barWidth: 240
+        progress: root.screen.progress
+    }
+
+    Item {
+        anchors.fill: parent
+        anchors.topMargin: 104
+        visible: root.isList
+
+        Banner {
+            id: banner
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: root.margin
+            anchors.rightMargin: root.margin
+            y: 4
+            visible: root.screen.hasBanner
+            symbol: root.screen.bannerSymbol
+            tint: root.screen.isBannerWarning ? Theme.caution : Theme.success
+            title: root.screen.bannerTitle
+            line: root.screen.bannerLine
+            dismissSymbol: root.screen.dismissSymbol
+            dismissLabel: root.screen.dismissLabel
+            onDismissed: root.screen.dismissResult()
+        }
+
+        GridView {
+            id: grid
+
+            readonly property real gap: 12
+            readonly property int columns: Math.max(1, Math.floor(width / (230 + gap)))
+
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin - gap
+            y: banner.visible ? banner.height + 20 : 8
+            height: parent.height - y
+            bottomMargin: 24
+            cellWidth: Math.floor(width / columns)
+            cellHeight: 152 + gap
+            clip: true
+            cacheBuffer: 400
+            boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: false
+            keyNavigationEnabled: false
+            model: root.screen.cards
+            Accessible.role: Accessible.List
+            Accessible.name: root.screen.title
+
+            T.ScrollBar.vertical: ScrollHandle {}
+
+            FocusFollower { area: grid }
+
+            delegate: AppCard {
+                required property int index
+                required icon
+                required title
+                required line
+                required size
+                required version
+                required mark
+                required isUnused
+                required trashHelp
+
+                width: grid.cellWidth - grid.gap
+                trashSymbol: root.screen.trashSymbol
+                onUninstalled: root.screen.prepareUninstall(index)
+            }
+        }
+
+        InfoPill {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 24
+            visible: root.screen.isHuntingLeftovers
+            color: "#1c2421"
+
+            Spinner {
+                anchors.verticalCenter: parent.verticalCenter
+                diameter: 14
+            }
+            Label {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.screen.huntingLine
+                size: 12.5
+                weight: Font.Medium
+            }
+        }
+    }
+
+    UninstallSheet {
+        screen: root.screen
+        sectionPalette: root.Ambient.palette
+    }
+}

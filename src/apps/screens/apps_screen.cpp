@@ -1,0 +1,107 @@
+#include "apps/screens/apps_screen.h"
+
+#include <utility>
+
+#include "async/executor.h"
+#include "kit/qt/bundle_icons.h"
+#include "platform/dates.h"
+
+namespace tidewell {
+
+namespace {
+
+std::string choiceKey(const SortChoice& choice) {
+    return std::string(choice.label);
+}
+
+std::vector<ListModel<SortChoice>::Role> choiceRoles() {
+    using Choice = SortChoice;
+    return {
+        {"label", [](const Choice& choice) { return toText(choice.label); }},
+        {"isChosen", [](const Choice& choice) { return choice.isChosen; }},
+    };
+}
+
+std::string cardKey(const AppCardContent& card) {
+    return card.app.url;
+}
+
+std::vector<ListModel<AppCardContent>::Role> cardRoles() {
+    using Card = AppCardContent;
+    return {
+        {"icon", [](const Card& card) { return BundleIcons::address(card.app.url); }},
+        {"title", [](const Card& card) { return toText(card.app.name); }},
+        {"line", [](const Card& card) { return toText(card.line); }},
+        {"size", [](const Card& card) { return toText(card.size); }},
+        {"version", [](const Card& card) { return toText(card.app.version.value_or("")); }},
+        {"mark", [](const Card& card) { return toText(label(card.mark)); }},
+        {"isUnused", [](const Card& card) { return card.mark == AppMark::unused; }},
+        {"trashHelp", [](const Card& card) { return toText(card.trashHelp); }},
+    };
+}
+
+std::string rowKey(const UninstallRow& row) {
+    return row.id;
+}
+
+std::vector<ListModel<UninstallRow>::Role> rowRoles() {
+    using Row = UninstallRow;
+    return {
+        {"symbol", [](const Row& row) { return toText(row.symbol); }},
+        {"title", [](const Row& row) { return toText(row.title); }},
+        {"label", [](const Row& row) { return toText(row.label); }},
+        {"size", [](const Row& row) { return toText(row.size); }},
+    };
+}
+
+}  // namespace
+
+AppsScreen::AppsScreen(std::shared_ptr<AppsViewModel> model, QObject* parent)
+    : Screen(parent),
+      model_(std::move(model)),
+      sortChoices_(choiceKey, choiceRoles(), this),
+      cards_(cardKey, cardRoles(), this),
+      sheetRows_(rowKey, rowRoles(), this) {
+    observe(model_->willChange);
+    update();
+}
+
+void AppsScreen::update() {
+    content_ = appsContent(*model_, now());
+    if (content_.banner) banner_ = *content_.banner;
+    if (content_.sheet) sheet_ = *content_.sheet;
+    sortChoices_.set(content_.sortChoices);
+    cards_.set(content_.cards);
+    sheetRows_.set(sheet_.rows);
+}
+
+QString AppsScreen::noticeSymbol() const {
+    return content_.notice ? toText(content_.notice->symbol) : QString();
+}
+
+QString AppsScreen::noticeLine() const {
+    return content_.notice ? toText(content_.notice->line) : QString();
+}
+
+void AppsScreen::open() {
+    QMetaObject::invokeMethod(this, &AppsScreen::refresh, Qt::QueuedConnection);
+}
+
+void AppsScreen::scan() {
+    spawn(model_, &AppsViewModel::scan);
+}
+
+void AppsScreen::sortBy(int row) {
+    model_->sortOrder = sortChoices_.values().at(static_cast<std::size_t>(row)).order;
+}
+
+void AppsScreen::prepareUninstall(int row) {
+    auto app = cards_.values().at(static_cast<std::size_t>(row)).app;
+    spawn(model_, &AppsViewModel::prepareUninstall, std::move(app));
+}
+
+void AppsScreen::confirmUninstall() {
+    spawn(model_, &AppsViewModel::confirmUninstall);
+}
+
+}  // namespace tidewell

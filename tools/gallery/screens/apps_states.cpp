@@ -1,0 +1,116 @@
+#include <QtCore/qbuffer.h>
+#include <QtCore/qendian.h>
+#include <QtGui/qimage.h>
+#include <QtGui/qpainter.h>
+
+#include "screens/findings.h"
+#include "screens/states.h"
+
+namespace tidewell::gallery {
+
+namespace {
+
+using Phase = AppsViewModel::Phase;
+
+constexpr ByteCount megabyte = 1'000'000;
+
+QByteArray drawnIcon(const QColor& color) {
+    QImage image(128, 128, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(8, 8, 112, 112, 26, 26);
+    painter.setBrush(color.lighter(150));
+    painter.drawEllipse(38, 38, 52, 52);
+    QByteArray png;
+    QBuffer buffer(&png);
+    image.save(&buffer, "PNG");
+    return png;
+}
+
+QByteArray lengthOf(const QByteArray& content) {
+    const auto length = qToBigEndian(static_cast<quint32>(content.size() + 8));
+    return {reinterpret_cast<const char*>(&length), sizeof length};
+}
+
+void lookLike(const Sample& sample, const std::string& name, const QColor& color) {
+    const auto bundle = "/Applications/" + name + ".app";
+    sample.machine.application(bundle, {{"CFBundleIconFile", "Icon"}});
+    const auto png = drawnIcon(color);
+    const auto picture = "ic07" + lengthOf(png) + png;
+    sample.machine.text(bundle + "/Contents/Resources/Icon.icns",
+                        ("icns" + lengthOf(picture) + picture).toStdString());
+}
+
+void findAppsWithIcons(Sample& sample) {
+    lookLike(sample, "Sketchpad", QColor(240, 150, 60));
+    lookLike(sample, "Tidal Studio", QColor(70, 120, 240));
+    lookLike(sample, "Film Cutter", QColor(200, 60, 90));
+    findApps(*sample.view);
+    sample.view->mode = Mode::apps;
+}
+
+void prepareUninstall(Sample& sample, std::vector<LeftoverFile> leftovers) {
+    findAppsWithIcons(sample);
+    sample.view->appsModel->pendingPlan = UninstallPlan{
+        .app = sample.view->appsModel->apps().front(), .leftovers = std::move(leftovers)};
+}
+
+LeftoverFile leftover(const std::string& name, const std::string& category, ByteCount size) {
+    return {.id = name, .url = "/nowhere/" + name, .category = category, .sizeBytes = size};
+}
+
+const std::vector<ScreenState> states = {
+    {"apps-start", [](Sample& sample) { sample.view->mode = Mode::apps; }},
+    {"apps-scanning",
+     [](Sample& sample) {
+         sample.view->appsModel->phase = Phase::scanning;
+         sample.view->appsModel->scanProgress = 0.6;
+         sample.view->mode = Mode::apps;
+     }},
+    {"apps-list", findAppsWithIcons},
+    {"apps-sort-menu", findAppsWithIcons, "Least used"},
+    {"apps-hunting",
+     [](Sample& sample) {
+         findAppsWithIcons(sample);
+         sample.view->appsModel->isBuildingPlan = true;
+     }},
+    {"apps-moved",
+     [](Sample& sample) {
+         findAppsWithIcons(sample);
+         sample.view->appsModel->lastResult = UninstallResult{.appName = "Postcards",
+                                                              .movedCount = 4,
+                                                              .freedBytes = 812 * megabyte,
+                                                              .failed = {},
+                                                              .appBundleMoved = true};
+     }},
+    {"apps-not-moved",
+     [](Sample& sample) {
+         findAppsWithIcons(sample);
+         sample.view->appsModel->lastResult =
+             UninstallResult{.appName = "Film Cutter",
+                             .movedCount = 0,
+                             .freedBytes = 0,
+                             .failed = {"Film Cutter is still running. Quit it and try again"},
+                             .appBundleMoved = false};
+     }},
+    {"apps-uninstall",
+     [](Sample& sample) {
+         prepareUninstall(sample,
+                          {leftover("Sketchpad", "Application Support", 640 * megabyte),
+                           leftover("com.example.Sketchpad", "Cache", 212 * megabyte),
+                           leftover("com.example.Sketchpad.plist", "Preferences", megabyte / 9),
+                           leftover("com.example.Sketchpad.savedState", "Saved State", megabyte)});
+     }},
+    {"apps-uninstall-clean", [](Sample& sample) { prepareUninstall(sample, {}); }},
+};
+
+}  // namespace
+
+std::vector<ScreenState> appsStates() {
+    return states;
+}
+
+}  // namespace tidewell::gallery
