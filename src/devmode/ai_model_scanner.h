@@ -17,6 +17,7 @@ struct AIModelStore {
     std::string note;  ///< what it may hold
 
     const std::string& path() const { return id; }
+    bool operator==(const AIModelStore&) const = default;
 };
 
 /// The sizes of all stores together.

@@ -29,7 +29,7 @@ FocusScope {
         Item { width: 1; height: 34 }
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: parent.width
+            width: Math.min(implicitWidth, 620)
             visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
             text: root.title
@@ -43,6 +43,7 @@ FocusScope {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             width: parent.width
+            visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
             text: root.line
             size: 14

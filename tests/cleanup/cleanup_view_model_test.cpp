@@ -234,7 +234,7 @@ TEST_F(CleanTool, WordsTheReviewOfWhatItFound) {
     EXPECT_EQ(review.selectedSize, "6.1 MB");
     EXPECT_EQ(review.freeAfterLine, "1.01 GB free after this");
     ASSERT_EQ(review.chips.size(), 3U);
-    EXPECT_TRUE(review.chips[2].hasReviewBadge);
+    EXPECT_EQ(review.chips[2].badge, "Review");
     EXPECT_TRUE(review.canClean);
 
     model->selectAll(Tick::off);

@@ -12,11 +12,15 @@ FocusScope {
 
     Component.onCompleted: screen.open()
 
-    NothingToClean {
+    StartNote {
         anchors.centerIn: parent
         visible: root.screen.isEmpty
         focus: root.screen.isEmpty
-        screen: root.screen
+        symbol: root.screen.emptySymbol
+        title: root.screen.emptyTitle
+        line: root.screen.emptyLine
+        buttonLabel: root.screen.scanAgainLabel
+        onStarted: root.screen.scanAgain()
     }
 
     Item {
@@ -97,7 +101,7 @@ FocusScope {
             color: Qt.rgba(1, 1, 1, 0.07)
         }
 
-        ReviewItems {
+        ItemList {
             anchors.left: divider.right
             anchors.leftMargin: 22
             anchors.right: parent.right
@@ -105,16 +109,35 @@ FocusScope {
             anchors.top: categories.top
             anchors.bottom: bar.top
             focus: !root.screen.isEmpty
-            screen: root.screen
+            symbol: root.screen.viewingSymbol
+            title: root.screen.viewingTitle
+            smartLabel: root.screen.smartLabel
+            allLabel: root.screen.allLabel
+            noneLabel: root.screen.noneLabel
+            model: root.screen.chips
+            onSmartPicked: root.screen.selectSmartInView()
+            onAllPicked: root.screen.selectAllInView()
+            onNonePicked: root.screen.selectNoneInView()
+            onToggled: row => root.screen.toggleChip(row)
         }
 
-        ReviewBar {
+        PickedBar {
             id: bar
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
             margin: root.margin
-            screen: root.screen
+            canClean: root.screen.canClean
+            selectedSize: root.screen.selectedSize
+            pickedLine: root.screen.pickedLine
+            hint: root.screen.hint
+            freeAfterSymbol: root.screen.freeAfterSymbol
+            freeAfterLine: root.screen.freeAfterLine
+            backLabel: root.screen.backLabel
+            cleanUpSymbol: root.screen.cleanUpSymbol
+            cleanUpLabel: root.screen.cleanUpLabel
+            onBack: root.screen.back()
+            onCleanUp: root.screen.cleanUp()
         }
     }
 }

@@ -33,18 +33,18 @@ CategoryRowContent categoryRow(const CleanupViewModel& model, CleanupCategory ca
     };
 }
 
-ItemChipContent itemChip(const CleanupItem& item) {
+}  // namespace
+
+ItemChipContent itemChip(const CleanupItem& item, std::string_view cautionBadge) {
     return {
         .id = item.target.id,
         .title = item.target.title,
         .detail = item.target.detail,
         .size = byteText(item.sizeBytes),
         .isOn = item.isSelected,
-        .hasReviewBadge = item.target.safety == SafetyLevel::caution,
+        .badge = item.target.safety == SafetyLevel::caution ? cautionBadge : std::string_view(),
     };
 }
-
-}  // namespace
 
 CheckMark checkMark(std::size_t selected, std::size_t count) {
     if (selected == 0) return CheckMark::off;

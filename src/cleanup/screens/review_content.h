@@ -62,10 +62,13 @@ struct ItemChipContent {
     std::string detail;
     std::string size;
     bool isOn;
-    bool hasReviewBadge;
+    std::string_view badge;  ///< said of what can cost the user something; empty for all else
 
     bool operator==(const ItemChipContent&) const = default;
 };
+
+/// `cautionBadge` is the word for an item that is not safe.
+ItemChipContent itemChip(const CleanupItem& item, std::string_view cautionBadge = reviewBadge);
 
 struct ReviewContent {
     std::string headline;  ///< "Found 2.5 GB of junk."

@@ -21,21 +21,6 @@ std::vector<ListModel<CategoryRowContent>::Role> categoryRoles() {
     };
 }
 
-std::string chipKey(const ItemChipContent& chip) {
-    return chip.id;
-}
-
-std::vector<ListModel<ItemChipContent>::Role> chipRoles() {
-    using Chip = ItemChipContent;
-    return {
-        {"title", [](const Chip& chip) { return toText(chip.title); }},
-        {"detail", [](const Chip& chip) { return toText(chip.detail); }},
-        {"size", [](const Chip& chip) { return toText(chip.size); }},
-        {"isOn", [](const Chip& chip) { return chip.isOn; }},
-        {"hasReviewBadge", [](const Chip& chip) { return chip.hasReviewBadge; }},
-    };
-}
-
 }  // namespace
 
 ReviewScreen::ReviewScreen(std::shared_ptr<CleanupViewModel> model,
@@ -44,7 +29,7 @@ ReviewScreen::ReviewScreen(std::shared_ptr<CleanupViewModel> model,
       model_(std::move(model)),
       theme_(std::move(theme)),
       categories_(categoryKey, categoryRoles(), this),
-      chips_(chipKey, chipRoles(), this) {
+      chips_(itemChipKey, itemChipRoles(), this) {
     observe(model_->willChange);
     observe(theme_->willChange);
     update();

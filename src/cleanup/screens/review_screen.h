@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "cleanup/screens/item_chips_screen.h"
 #include "cleanup/screens/review_content.h"
 #include "kit/qt/list_model.h"
 #include "kit/qt/screen.h"
@@ -39,7 +40,6 @@ class ReviewScreen final : public Screen {
     Q_PROPERTY(QString allLabel READ allLabel CONSTANT)
     Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT)
     Q_PROPERTY(QString hint READ hint CONSTANT)
-    Q_PROPERTY(QString reviewBadge READ reviewBadge CONSTANT)
     Q_PROPERTY(QString freeAfterSymbol READ freeAfterSymbol CONSTANT)
     Q_PROPERTY(QString backLabel READ backLabel CONSTANT)
     Q_PROPERTY(QString cleanUpLabel READ cleanUpLabel CONSTANT)
@@ -71,7 +71,6 @@ class ReviewScreen final : public Screen {
     static QString allLabel() { return toText(tidewell::allLabel); }
     static QString noneLabel() { return toText(tidewell::noneLabel); }
     static QString hint() { return toText(nothingPickedHint); }
-    static QString reviewBadge() { return toText(tidewell::reviewBadge); }
     static QString freeAfterSymbol() { return toText(tidewell::freeAfterSymbol); }
     static QString backLabel() { return toText(tidewell::backLabel); }
     static QString cleanUpLabel() { return toText(tidewell::cleanUpLabel); }

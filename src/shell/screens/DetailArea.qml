@@ -14,6 +14,7 @@ ViewLoader {
         "ReviewView": ["../../cleanup/screens/ReviewView.qml", {screen: screen.review}],
         "CleanedView": ["../../cleanup/screens/CleanedView.qml", {screen: screen.cleaned}],
         "PerformanceView": ["../../performance/screens/PerformanceView.qml", {screen: screen.performance}],
+        "DevModeView": ["../../devmode/screens/DevModeView.qml", {screen: screen.devMode}],
         "AppsView": ["../../apps/screens/AppsView.qml", {screen: screen.apps}],
         "DeepScanView": ["../../deepscan/screens/DeepScanView.qml", {screen: screen.deepScan}],
     })

@@ -40,6 +40,7 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, const QString& fil
       cleaned_(view_->cleanupModel, this),
       performance_(view_->performanceModel, view_->workspace(), this),
       apps_(view_->appsModel, this),
+      devMode_(view_->devModeModel, view_->workspace(), this),
       deepScan_(view_->deepScanModel, view_->workspace(), this) {
     observe(view_->willChange);
     observe(view_->cleanupModel->willChange);

@@ -9,6 +9,7 @@
 #include "cleanup/screens/review_screen.h"
 #include "cleanup/screens/scan_screen.h"
 #include "deepscan/screens/deep_scan_screen.h"
+#include "devmode/screens/dev_mode_screen.h"
 #include "kit/qt/list_model.h"
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
@@ -46,6 +47,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::CleanedScreen* cleaned READ cleaned CONSTANT)
     Q_PROPERTY(tidewell::PerformanceScreen* performance READ performance CONSTANT)
     Q_PROPERTY(tidewell::AppsScreen* apps READ apps CONSTANT)
+    Q_PROPERTY(tidewell::DevModeScreen* devMode READ devMode CONSTANT)
     Q_PROPERTY(tidewell::DeepScanScreen* deepScan READ deepScan CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
@@ -75,6 +77,7 @@ class WindowScreen final : public Screen {
     CleanedScreen* cleaned() { return &cleaned_; }
     PerformanceScreen* performance() { return &performance_; }
     AppsScreen* apps() { return &apps_; }
+    DevModeScreen* devMode() { return &devMode_; }
     DeepScanScreen* deepScan() { return &deepScan_; }
     static QString title() { return toText(windowTitle); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
@@ -105,6 +108,7 @@ class WindowScreen final : public Screen {
     CleanedScreen cleaned_;
     PerformanceScreen performance_;
     AppsScreen apps_;
+    DevModeScreen devMode_;
     DeepScanScreen deepScan_;
 };
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "cleanup/target_catalogue.h"
+#include "devmode/dev_targets.h"
 
 namespace tidewell::gallery {
 
@@ -76,6 +77,33 @@ void findJunk(const ContentView& view) {
     std::ranges::stable_sort(items, std::ranges::greater(), &CleanupItem::sizeBytes);
     view.cleanupModel->items = std::move(items);
     view.cleanupModel->phase = CleanupViewModel::Phase::review;
+}
+
+void findDevItems(const ContentView& view) {
+    CleanupItems items = {
+        junk(projectFolder("node_modules", "shop-frontend", SafetyLevel::safe), 1480 * megabyte),
+        junk(projectFolder("target", "engine", SafetyLevel::caution), 930 * megabyte),
+        junk(projectFolder("build", "engine", SafetyLevel::caution), 470 * megabyte),
+    };
+    ByteCount size = 9120 * megabyte;
+    for (auto& target : devTargets(view.host())) {
+        items.push_back(junk(std::move(target), size));
+        size = size * 5 / 6;
+    }
+    std::ranges::stable_sort(items, std::ranges::greater(), &CleanupItem::sizeBytes);
+    view.devModeModel->items = std::move(items);
+    view.devModeModel->models = {
+        {.id = "/nowhere/.ollama/models",
+         .tool = "Ollama models",
+         .sizeBytes = 48'300 * megabyte,
+         .note = "Downloaded weights, and models you made with your own Modelfiles."},
+        {.id = "/nowhere/huggingface",
+         .tool = "Hugging Face cache",
+         .sizeBytes = 12'700 * megabyte,
+         .note =
+             "Weights and datasets. What you uploaded is elsewhere; what you trained may be here."},
+    };
+    view.devModeModel->phase = DevModeViewModel::Phase::review;
 }
 
 void findApps(const ContentView& view) {

@@ -8,6 +8,8 @@ namespace tidewell::gallery {
 
 /// Half of the Clean tool's catalogue and some project folders, one with a very long name.
 void findJunk(const ContentView& view);
+/// What Dev Mode would find on a busy developer's machine.
+void findDevItems(const ContentView& view);
 void findApps(const ContentView& view);
 void findBigItems(const ContentView& view);
 void findAdvisorWins(const ContentView& view);

@@ -4,8 +4,8 @@ namespace tidewell::gallery {
 
 std::vector<ScreenState> screenStates() {
     std::vector<ScreenState> all;
-    for (const auto& section : {homeStates(), cleanStates(), performanceStates(), appsStates(),
-                                deepScanStates(), welcomeStates()})
+    for (const auto& section : {homeStates(), cleanStates(), performanceStates(), devModeStates(),
+                                appsStates(), deepScanStates(), welcomeStates()})
         all.insert(all.end(), section.begin(), section.end());
     return all;
 }

@@ -19,6 +19,7 @@ std::vector<ScreenState> homeStates();
 std::vector<ScreenState> cleanStates();
 std::vector<ScreenState> performanceStates();
 std::vector<ScreenState> welcomeStates();
+std::vector<ScreenState> devModeStates();
 std::vector<ScreenState> appsStates();
 std::vector<ScreenState> deepScanStates();
 

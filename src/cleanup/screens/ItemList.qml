@@ -3,15 +3,26 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewell
 
-/// The items of the category in view, largest first.
+/// The items of one group, to be ticked one by one or all at once.
 FocusScope {
     id: root
 
-    required property ReviewScreen screen
+    property string symbol
+    property string title
+    property string smartLabel
+    property string allLabel
+    property string noneLabel
+    /// Its rows have what an ItemChip shows.
+    property var model
+
+    signal smartPicked()
+    signal allPicked()
+    signal nonePicked()
+    signal toggled(int row)
 
     IconChip {
         id: icon
-        symbol: root.screen.viewingSymbol
+        symbol: root.symbol
         size: 34
     }
     Label {
@@ -20,7 +31,7 @@ FocusScope {
         anchors.right: choices.left
         anchors.rightMargin: 12
         anchors.verticalCenter: icon.verticalCenter
-        text: root.screen.viewingTitle
+        text: root.title
         size: 17
         weight: Font.DemiBold
         elide: Text.ElideRight
@@ -34,16 +45,16 @@ FocusScope {
         spacing: 8
 
         SmallButton {
-            text: root.screen.smartLabel
-            onClicked: root.screen.selectSmartInView()
+            text: root.smartLabel
+            onClicked: root.smartPicked()
         }
         SmallButton {
-            text: root.screen.allLabel
-            onClicked: root.screen.selectAllInView()
+            text: root.allLabel
+            onClicked: root.allPicked()
         }
         SmallButton {
-            text: root.screen.noneLabel
-            onClicked: root.screen.selectNoneInView()
+            text: root.noneLabel
+            onClicked: root.nonePicked()
         }
     }
 
@@ -63,11 +74,11 @@ FocusScope {
         focus: true
         spacing: 8
         boundsBehavior: Flickable.StopAtBounds
-        model: root.screen.chips
+        model: root.model
         activeFocusOnTab: true
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
-        Accessible.name: root.screen.viewingTitle
+        Accessible.name: root.title
 
         Keys.onUpPressed: go(currentIndex - 1)
         Keys.onDownPressed: go(currentIndex + 1)
@@ -90,13 +101,12 @@ FocusScope {
             required detail
             required size
             required isOn
-            required property bool hasReviewBadge
+            required badge
 
             width: list.width - list.leftMargin - list.rightMargin
             // The keyboard comes to the list once, and goes through it with the arrows.
             focusPolicy: Qt.ClickFocus
-            badge: hasReviewBadge ? root.screen.reviewBadge : ""
-            onClicked: root.screen.toggleChip(index)
+            onClicked: root.toggled(index)
             onActiveFocusChanged: if (activeFocus) list.currentIndex = index
         }
     }

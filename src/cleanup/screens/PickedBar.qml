@@ -5,8 +5,23 @@ import Tidewell
 Item {
     id: root
 
-    required property ReviewScreen screen
     property real margin: 34
+    property bool canClean: false
+    property string selectedSize
+    property string pickedLine
+    /// Said instead of both while nothing is picked; empty: they stay.
+    property string hint
+    property string freeAfterSymbol
+    property string freeAfterLine
+    /// Empty: there is no such button.
+    property string backLabel
+    property string cleanUpSymbol
+    property string cleanUpLabel
+
+    signal back()
+    signal cleanUp()
+
+    readonly property bool showsHint: !canClean && hint !== ""
 
     implicitHeight: 88
 
@@ -26,8 +41,8 @@ Item {
         anchors.right: buttons.left
         anchors.rightMargin: 20
         anchors.verticalCenter: parent.verticalCenter
-        visible: !root.screen.canClean
-        text: root.screen.hint
+        visible: root.showsHint
+        text: root.hint
         size: 13
         color: Theme.secondary
         elide: Text.ElideRight
@@ -37,7 +52,7 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.screen.canClean
+        visible: !root.showsHint
         spacing: 22
 
         Column {
@@ -45,28 +60,29 @@ Item {
             spacing: 1
 
             FigureText {
-                text: root.screen.selectedSize
+                text: root.selectedSize
                 size: 23
                 weight: Font.Bold
             }
             Label {
-                text: root.screen.pickedLine
+                text: root.pickedLine
                 size: 12
                 color: Theme.secondary
             }
         }
         InfoPill {
             anchors.verticalCenter: parent.verticalCenter
+            visible: root.freeAfterLine !== ""
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
-                symbol: root.screen.freeAfterSymbol
+                symbol: root.freeAfterSymbol
                 size: 15
                 tint: Ambient.palette.primary
             }
             Label {
                 anchors.verticalCenter: parent.verticalCenter
-                text: root.screen.freeAfterLine
+                text: root.freeAfterLine
                 size: 12.5
                 weight: Font.Medium
             }
@@ -82,15 +98,16 @@ Item {
 
         GhostPillButton {
             anchors.verticalCenter: parent.verticalCenter
-            text: root.screen.backLabel
-            onClicked: root.screen.back()
+            visible: text !== ""
+            text: root.backLabel
+            onClicked: root.back()
         }
         PillButton {
             anchors.verticalCenter: parent.verticalCenter
-            enabled: root.screen.canClean
-            symbol: root.screen.cleanUpSymbol
-            text: root.screen.cleanUpLabel
-            onClicked: root.screen.cleanUp()
+            enabled: root.canClean
+            symbol: root.cleanUpSymbol
+            text: root.cleanUpLabel
+            onClicked: root.cleanUp()
         }
     }
 }

@@ -1,0 +1,188 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
+
+/// What Dev Mode has found, one technology at a time.
+FocusScope {
+    id: root
+
+    required property DevModeScreen screen
+
+    readonly property real margin: 34
+
+    ScreenHeader {
+        anchors.left: parent.left
+        anchors.leftMargin: root.margin
+        anchors.right: choices.left
+        anchors.rightMargin: 20
+        y: 30
+        title: root.screen.headline
+        subtitle: root.screen.reviewSubtitle
+    }
+    Row {
+        id: choices
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        y: 36
+        spacing: 8
+
+        SmallButton {
+            visible: !root.screen.isEmpty
+            text: root.screen.safeOnlyLabel
+            onClicked: root.screen.selectSafeOnly()
+        }
+        SmallButton {
+            visible: !root.screen.isEmpty
+            text: root.screen.allLabel
+            onClicked: root.screen.selectAll()
+        }
+        SmallButton {
+            visible: !root.screen.isEmpty
+            text: root.screen.noneLabel
+            onClicked: root.screen.selectNone()
+        }
+        SmallButton {
+            focus: root.screen.isEmpty
+            text: root.screen.rescanLabel
+            onClicked: root.screen.scan()
+        }
+    }
+
+    StartNote {
+        anchors.centerIn: parent
+        visible: root.screen.isEmpty
+        symbol: root.screen.emptySymbol
+        title: root.screen.emptyTitle
+        line: root.screen.emptyLine
+    }
+
+    Item {
+        anchors.fill: parent
+        anchors.topMargin: 112
+        visible: !root.screen.isEmpty
+
+        ScrollArea {
+            id: railArea
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin - 12
+            anchors.bottom: bar.top
+            anchors.top: parent.top
+            width: 268
+            contentHeight: rail.height + 24
+
+            Column {
+                id: rail
+                width: railArea.width - 12
+                spacing: 6
+
+                Repeater {
+                    model: root.screen.rail
+
+                    RailRow {
+                        required property int index
+                        required symbol
+                        required title
+                        required line
+                        required isViewing
+
+                        width: rail.width
+                        onClicked: root.screen.viewGroup(index)
+                    }
+                }
+                Item { width: 1; height: 8 }
+                NeverTouchesCard {
+                    width: rail.width
+                    symbol: root.screen.neverTouchesSymbol
+                    title: root.screen.neverTouchesTitle
+                    lines: root.screen.neverTouchesLines
+                }
+            }
+        }
+
+        Rectangle {
+            id: divider
+            anchors.left: railArea.right
+            anchors.leftMargin: 8
+            anchors.top: parent.top
+            anchors.bottom: bar.top
+            anchors.bottomMargin: 14
+            width: 1
+            color: Qt.rgba(1, 1, 1, 0.07)
+        }
+
+        ItemList {
+            anchors.left: divider.right
+            anchors.leftMargin: 22
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin - 12
+            anchors.top: parent.top
+            anchors.bottom: bar.top
+            visible: !root.screen.isViewingModels
+            focus: visible && !root.screen.isEmpty
+            symbol: root.screen.viewingSymbol
+            title: root.screen.viewingTitle
+            smartLabel: root.screen.smartLabel
+            allLabel: root.screen.allLabel
+            noneLabel: root.screen.noneLabel
+            model: root.screen.chips
+            onSmartPicked: root.screen.selectSmartInView()
+            onAllPicked: root.screen.selectAllInView()
+            onNonePicked: root.screen.selectNoneInView()
+            onToggled: row => root.screen.toggleChip(row)
+        }
+
+        Label {
+            id: modelsLine
+            anchors.left: divider.right
+            anchors.leftMargin: 22
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin
+            y: 4
+            visible: root.screen.isViewingModels
+            text: root.screen.modelsLine
+            size: 12.5
+            lineHeight: 1.2
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+        }
+        CardList {
+            anchors.left: divider.right
+            anchors.leftMargin: 16
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin - 12
+            anchors.top: modelsLine.bottom
+            anchors.topMargin: 8
+            anchors.bottom: bar.top
+            visible: root.screen.isViewingModels
+            model: root.screen.models
+            Accessible.name: root.screen.viewingTitle
+
+            delegate: ModelStoreRow {
+                required property int index
+                required title
+                required size
+                required note
+
+                width: ListView.view.width - 18
+                symbol: root.screen.modelSymbol
+                revealLabel: root.screen.revealLabel
+                revealSymbol: root.screen.revealSymbol
+                onRevealed: root.screen.reveal(index)
+            }
+        }
+
+        PickedBar {
+            id: bar
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            margin: root.margin
+            canClean: root.screen.canClean
+            selectedSize: root.screen.selectedSize
+            pickedLine: root.screen.pickedLine
+            cleanUpSymbol: root.screen.cleanUpSymbol
+            cleanUpLabel: root.screen.cleanUpLabel
+            onCleanUp: root.screen.cleanUp()
+        }
+    }
+}

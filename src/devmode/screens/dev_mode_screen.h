@@ -1,0 +1,168 @@
+#pragma once
+
+#include <QtCore/qstring.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "cleanup/screens/item_chips_screen.h"
+#include "cleanup/screens/scan_content.h"
+#include "devmode/screens/dev_mode_content.h"
+#include "kit/qt/list_model.h"
+#include "kit/qt/screen.h"
+#include "kit/qt/text.h"
+#include "platform/workspace.h"
+
+namespace tidewell {
+
+/// A group of the rail, as its row shows it.
+struct DevRailRow {
+    std::string id;
+    std::string symbol;
+    std::string title;
+    std::string line;
+    bool isViewing;
+
+    bool operator==(const DevRailRow&) const = default;
+};
+
+/// Behind Dev Mode: what development leaves behind, by technology, and model stores that are only
+/// shown.
+class DevModeScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(Phase phase READ phase NOTIFY changed)
+    Q_PROPERTY(double scanProgress READ scanProgress NOTIFY changed)
+    Q_PROPERTY(double cleanProgress READ cleanProgress NOTIFY changed)
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
+    Q_PROPERTY(QString headline READ headline NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel* rail READ rail CONSTANT)
+    Q_PROPERTY(QString viewingTitle READ viewingTitle NOTIFY changed)
+    Q_PROPERTY(QString viewingSymbol READ viewingSymbol NOTIFY changed)
+    Q_PROPERTY(bool isViewingModels READ isViewingModels NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel* chips READ chips CONSTANT)
+    Q_PROPERTY(QAbstractItemModel* models READ models CONSTANT)
+    Q_PROPERTY(QString selectedSize READ selectedSize NOTIFY changed)
+    Q_PROPERTY(QString pickedLine READ pickedLine NOTIFY changed)
+    Q_PROPERTY(bool canClean READ canClean NOTIFY changed)
+    Q_PROPERTY(QString doneTitle READ doneTitle NOTIFY changed)
+    Q_PROPERTY(QString failureNote READ failureNote NOTIFY changed)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(QString startTitle READ startTitle CONSTANT)
+    Q_PROPERTY(QString startLine READ startLine CONSTANT)
+    Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
+    Q_PROPERTY(QString scanningLine READ scanningLine CONSTANT)
+    Q_PROPERTY(QString reviewSubtitle READ reviewSubtitle CONSTANT)
+    Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT)
+    Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT)
+    Q_PROPERTY(QString safeOnlyLabel READ safeOnlyLabel CONSTANT)
+    Q_PROPERTY(QString smartLabel READ smartLabel CONSTANT)
+    Q_PROPERTY(QString allLabel READ allLabel CONSTANT)
+    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT)
+    Q_PROPERTY(QString rescanLabel READ rescanLabel CONSTANT)
+    Q_PROPERTY(QString modelsLine READ modelsLine CONSTANT)
+    Q_PROPERTY(QString modelSymbol READ modelSymbol CONSTANT)
+    Q_PROPERTY(QString revealLabel READ revealLabel CONSTANT)
+    Q_PROPERTY(QString revealSymbol READ revealSymbol CONSTANT)
+    Q_PROPERTY(QString neverTouchesSymbol READ neverTouchesSymbol CONSTANT)
+    Q_PROPERTY(QString neverTouchesTitle READ neverTouchesTitle CONSTANT)
+    Q_PROPERTY(QString neverTouchesLines READ neverTouchesLines CONSTANT)
+    Q_PROPERTY(QString cleanUpSymbol READ cleanUpSymbol CONSTANT)
+    Q_PROPERTY(QString cleanUpLabel READ cleanUpLabel CONSTANT)
+    Q_PROPERTY(QString cleaningTitle READ cleaningTitle CONSTANT)
+    Q_PROPERTY(QString doneSymbol READ doneSymbol CONSTANT)
+    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT)
+    Q_PROPERTY(QString failureSymbol READ failureSymbol CONSTANT)
+    Q_PROPERTY(QString failureTitle READ failureTitle CONSTANT)
+
+ public:
+    enum Phase { Idle, Scanning, Review, Cleaning, Done };
+    Q_ENUM(Phase)
+
+    DevModeScreen(std::shared_ptr<DevModeViewModel> model, Workspace workspace, QObject* parent);
+
+    Phase phase() const { return static_cast<Phase>(model_->phase()); }
+    double scanProgress() const { return model_->scanProgress(); }
+    double cleanProgress() const { return model_->cleanProgress(); }
+    bool isEmpty() const { return groups_.empty(); }
+    QString headline() const { return toText(review_.headline); }
+    QAbstractItemModel* rail() { return &rail_; }
+    QString viewingTitle() const { return viewing() ? toText(viewing()->label) : QString(); }
+    QString viewingSymbol() const { return viewing() ? toText(viewing()->symbol) : QString(); }
+    bool isViewingModels() const { return viewing() && viewing()->isModels; }
+    QAbstractItemModel* chips() { return &chips_; }
+    QAbstractItemModel* models() { return &models_; }
+    QString selectedSize() const { return toText(review_.selectedSize); }
+    QString pickedLine() const { return toText(review_.pickedLine); }
+    bool canClean() const { return review_.canClean; }
+    QString doneTitle() const { return toText(devDoneTitle(*model_)); }
+    QString failureNote() const;
+    static QString symbol() { return toText(devSymbol); }
+    static QString startTitle() { return toText(devStartTitle); }
+    static QString startLine() { return toText(devStartLine); }
+    static QString scanLabel() { return toText(devScanButtonLabel); }
+    static QString scanningLine() { return toText(devScanningLine); }
+    static QString reviewSubtitle() { return toText(devReviewSubtitle); }
+    static QString emptySymbol() { return toText(nothingToCleanSymbol); }
+    static QString emptyTitle() { return toText(nothingToCleanTitle); }
+    static QString emptyLine() { return toText(nothingToCleanLine); }
+    static QString safeOnlyLabel() { return toText(tidewell::safeOnlyLabel); }
+    static QString smartLabel() { return toText(tidewell::smartLabel); }
+    static QString allLabel() { return toText(tidewell::allLabel); }
+    static QString noneLabel() { return toText(tidewell::noneLabel); }
+    static QString rescanLabel() { return toText(devRescanLabel); }
+    static QString modelsLine() { return toText(devModelsLine); }
+    static QString modelSymbol() { return toText(devModelSymbol); }
+    static QString revealLabel() { return toText(devRevealLabel); }
+    static QString revealSymbol() { return toText(devRevealSymbol); }
+    static QString neverTouchesSymbol() { return toText(tidewell::neverTouchesSymbol); }
+    static QString neverTouchesTitle() { return toText(tidewell::neverTouchesTitle); }
+    static QString neverTouchesLines() { return toText(tidewell::neverTouchesLines); }
+    static QString cleanUpSymbol() { return toText(tidewell::cleanUpSymbol); }
+    static QString cleanUpLabel() { return toText(tidewell::cleanUpLabel); }
+    static QString cleaningTitle() { return toText(devCleaningTitle); }
+    static QString doneSymbol() { return toText(devDoneSymbol); }
+    static QString doneLabel() { return toText(tidewell::doneLabel); }
+    static QString failureSymbol() { return toText(notCleanedSymbol); }
+    static QString failureTitle() { return toText(notCleanedTitle); }
+
+    /// To be called when the screen comes into sight: it begins with the first group. Has its
+    /// effect in a later turn.
+    Q_INVOKABLE void open();
+    Q_INVOKABLE void scan();
+    Q_INVOKABLE void selectSafeOnly() { model_->selectSafeOnly(); }
+    Q_INVOKABLE void selectAll() { model_->setAllSelected(Tick::on); }
+    Q_INVOKABLE void selectNone() { model_->setAllSelected(Tick::off); }
+    // For the group in view.
+    Q_INVOKABLE void selectSmartInView() { model_->selectSafeOnly(idsInView()); }
+    Q_INVOKABLE void selectAllInView() { model_->setSelected(Tick::on, idsInView()); }
+    Q_INVOKABLE void selectNoneInView() { model_->setSelected(Tick::off, idsInView()); }
+    /// For a row of `rail`.
+    Q_INVOKABLE void viewGroup(int row);
+    /// Flips a row of `chips`.
+    Q_INVOKABLE void toggleChip(int row);
+    /// For a row of `models`.
+    Q_INVOKABLE void reveal(int row);
+    Q_INVOKABLE void cleanUp();
+    Q_INVOKABLE void finish() { model_->reset(); }
+
+ private:
+    void update() override;
+    const RailGroup* viewing() const { return inView_ ? &groups_[*inView_] : nullptr; }
+    DevModeViewModel::TargetIDs idsInView() const;
+
+    const std::shared_ptr<DevModeViewModel> model_;
+    const Workspace workspace_;
+    std::optional<std::string> viewing_;  ///< as the user chose it
+    std::vector<RailGroup> groups_;
+    std::optional<std::size_t> inView_;  ///< of `groups_`
+    DevReviewContent review_;
+    ListModel<DevRailRow> rail_;
+    ListModel<ItemChipContent> chips_;
+    ListModel<AIModelStore> models_;
+};
+
+}  // namespace tidewell
