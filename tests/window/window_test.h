@@ -106,8 +106,8 @@ class WindowTest : public testing::Test {
         const auto* item = window->window().activeFocusItem();
         return item && item->property("visualFocus").toBool();
     }
-    bool isEnabled(const QString& name) const {
-        auto* control = find(name);
+    bool isEnabled(const QString& name) const { return isEnabled(find(name)); }
+    static bool isEnabled(QAccessibleInterface* control) {
         const auto* item = control ? qobject_cast<QQuickItem*>(control->object()) : nullptr;
         return item && item->isEnabled();
     }

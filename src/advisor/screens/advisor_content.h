@@ -23,6 +23,8 @@ struct AdvisorRuntimeRow {
     std::optional<std::string> lastUsed;  ///< "Last used 3 weeks ago"; absent without a date
     std::string usedBy;
     AdvisorControlState deleteButton = AdvisorControlState::ready;
+
+    bool operator==(const AdvisorRuntimeRow&) const = default;
 };
 
 enum class AdvisorAction { removeUnavailableSims, thinSnapshots };
@@ -32,6 +34,8 @@ struct AdvisorActionButton {
     AdvisorAction action = AdvisorAction::removeUnavailableSims;
     std::string_view label;
     AdvisorControlState state = AdvisorControlState::ready;
+
+    bool operator==(const AdvisorActionButton&) const = default;
 };
 
 /// One kind of finding.
@@ -42,6 +46,8 @@ struct AdvisorCard {
     std::optional<std::string> size;
     std::vector<AdvisorRuntimeRow> runtimes;
     std::optional<AdvisorActionButton> button;
+
+    bool operator==(const AdvisorCard&) const = default;
 };
 
 /// A symbol over words, where there are no cards: the start, the scan, and the all-clear, the only
@@ -66,6 +72,7 @@ inline constexpr std::string_view advisorSubtitle =
     "Runs Apple's own tools as you. No admin password, nothing hidden.";
 inline constexpr std::string_view advisorMessageSymbol = "info.circle.fill";
 inline constexpr std::string_view advisorDismissSymbol = "xmark";
+inline constexpr std::string_view advisorDismissLabel = "Dismiss";
 inline constexpr std::string_view advisorDeleteLabel = "Delete…";
 
 AdvisorContent advisorContent(const AdvisorViewModel& model, Date now);

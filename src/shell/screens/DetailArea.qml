@@ -17,6 +17,7 @@ ViewLoader {
         "DevModeView": ["../../devmode/screens/DevModeView.qml", {screen: screen.devMode}],
         "AppsView": ["../../apps/screens/AppsView.qml", {screen: screen.apps}],
         "DeepScanView": ["../../deepscan/screens/DeepScanView.qml", {screen: screen.deepScan}],
+        "AdvisorView": ["../../advisor/screens/AdvisorView.qml", {screen: screen.advisor}],
     })
     readonly property string wanted: screen.detailView
 

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "advisor/screens/advisor_screen.h"
 #include "apps/screens/apps_screen.h"
 #include "cleanup/screens/cleaned_screen.h"
 #include "cleanup/screens/review_screen.h"
@@ -49,6 +50,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::AppsScreen* apps READ apps CONSTANT)
     Q_PROPERTY(tidewell::DevModeScreen* devMode READ devMode CONSTANT)
     Q_PROPERTY(tidewell::DeepScanScreen* deepScan READ deepScan CONSTANT)
+    Q_PROPERTY(tidewell::AdvisorScreen* advisor READ advisor CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
     Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
@@ -79,6 +81,7 @@ class WindowScreen final : public Screen {
     AppsScreen* apps() { return &apps_; }
     DevModeScreen* devMode() { return &devMode_; }
     DeepScanScreen* deepScan() { return &deepScan_; }
+    AdvisorScreen* advisor() { return &advisor_; }
     static QString title() { return toText(windowTitle); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
     static QString accessLine() { return toText(tidewell::accessLine); }
@@ -110,6 +113,7 @@ class WindowScreen final : public Screen {
     AppsScreen apps_;
     DevModeScreen devMode_;
     DeepScanScreen deepScan_;
+    AdvisorScreen advisor_;
 };
 
 }  // namespace tidewell

@@ -22,6 +22,7 @@ std::vector<ScreenState> welcomeStates();
 std::vector<ScreenState> devModeStates();
 std::vector<ScreenState> appsStates();
 std::vector<ScreenState> deepScanStates();
+std::vector<ScreenState> advisorStates();
 
 /// All of them.
 std::vector<ScreenState> screenStates();

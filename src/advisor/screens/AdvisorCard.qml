@@ -1,0 +1,103 @@
+import QtQuick
+import Tidewell
+
+/// One kind of finding: what it is, in honest words, and what can be done about it.
+GlowCard {
+    id: root
+
+    property string symbol
+    property string title
+    property string body
+    property string size
+    /// Empty: the program only tells.
+    property string buttonLabel
+    property bool isBusy: false
+    /// Below the words, for what a card has beside them.
+    property alias rows: more.data
+
+    signal acted()
+
+    implicitHeight: column.implicitHeight + 2 * padding
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.description: (size === "" ? "" : size + ". ") + body
+
+    IconChip {
+        id: icon
+        size: 38
+        symbol: root.symbol
+    }
+    Column {
+        id: column
+        anchors.left: icon.right
+        anchors.leftMargin: 16
+        anchors.right: parent.right
+        spacing: 6
+
+        Item {
+            width: parent.width
+            height: name.height
+
+            Label {
+                id: name
+                anchors.left: parent.left
+                anchors.right: figure.left
+                anchors.rightMargin: 14
+                text: root.title
+                size: 15.5
+                weight: Font.DemiBold
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+            FigureText {
+                id: figure
+                anchors.right: parent.right
+                anchors.verticalCenter: name.verticalCenter
+                text: root.size
+                size: 15.5
+                weight: Font.Bold
+                color: Ambient.palette.soft
+                Accessible.ignored: true
+            }
+        }
+        Label {
+            width: parent.width
+            text: root.body
+            size: 12.5
+            lineHeight: 1.25
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        Column {
+            id: more
+            width: parent.width
+            topPadding: children.length > 1 ? 8 : 0
+        }
+        Item {
+            width: parent.width
+            height: button.height + 10
+            visible: root.buttonLabel !== ""
+
+            PillButton {
+                id: button
+                anchors.bottom: parent.bottom
+                visible: !root.isBusy
+                fontSize: 12.5
+                horizontalPadding: 18
+                verticalPadding: 8
+                textColor: Qt.rgba(0.04, 0.05, 0.08, 1)
+                text: root.buttonLabel
+                onClicked: root.acted()
+            }
+            Spinner {
+                x: 40
+                anchors.verticalCenter: button.verticalCenter
+                visible: root.isBusy
+                diameter: 16
+                Accessible.name: root.buttonLabel
+            }
+        }
+    }
+}

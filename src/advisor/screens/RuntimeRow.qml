@@ -1,0 +1,107 @@
+import QtQuick
+import Tidewell
+
+/// A Simulator runtime, who uses it, and the way to delete it.
+Item {
+    id: root
+
+    property string title
+    property string build
+    property string size
+    property string lastUsed
+    property string usedBy
+    property string deleteLabel
+    property bool isBusy: false
+    property bool isDeletable: true
+
+    signal deletePressed()
+
+    implicitHeight: words.implicitHeight + 22
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.description: size + ". " + (lastUsed === "" ? "" : lastUsed + ". ") + usedBy
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Qt.rgba(1, 1, 1, 0.07)
+    }
+    Column {
+        id: words
+        anchors.left: parent.left
+        anchors.right: figure.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Row {
+            spacing: 8
+
+            Label {
+                id: name
+                text: root.title
+                size: 13.5
+                weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+            Label {
+                y: name.baselineOffset - baselineOffset
+                text: root.build
+                size: 11.5
+                color: Theme.faint
+                Accessible.ignored: true
+            }
+        }
+        Label {
+            width: parent.width
+            visible: text !== ""
+            text: root.lastUsed
+            size: 12
+            color: Theme.secondary
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Label {
+            width: parent.width
+            text: root.usedBy
+            size: 12
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+    FigureText {
+        id: figure
+        anchors.right: control.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.size
+        size: 13.5
+        weight: Font.Bold
+        Accessible.ignored: true
+    }
+    Item {
+        id: control
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: button.implicitWidth
+        height: button.implicitHeight
+
+        SmallButton {
+            id: button
+            anchors.fill: parent
+            visible: !root.isBusy
+            enabled: root.isDeletable
+            textColor: Theme.destructive
+            text: root.deleteLabel
+            description: root.title
+            onClicked: root.deletePressed()
+        }
+        Spinner {
+            anchors.centerIn: parent
+            visible: root.isBusy
+            diameter: 16
+            Accessible.name: root.title
+        }
+    }
+}
