@@ -3,7 +3,7 @@ import QtQuick
 import Tidewell
 
 /// How full the memory is, and which applications fill it.
-ScrollArea {
+Item {
     id: root
 
     required property PerformanceScreen screen
@@ -12,8 +12,6 @@ ScrollArea {
     /// What the keyboard was at has gone, and nothing is left near it: the reason to take it
     /// elsewhere.
     signal deserted(int reason)
-
-    contentHeight: column.y + column.height + 26
 
     Column {
         id: column
@@ -47,25 +45,31 @@ ScrollArea {
             color: Theme.secondary
             Accessible.role: Accessible.Heading
         }
-        ButtonRows {
-            id: rows
-            width: parent.width
-            spacing: 4
-            model: root.screen.apps
-            Accessible.name: root.screen.appsHeading
-            onDeserted: reason => root.deserted(reason)
+    }
+    CardList {
+        id: list
+        anchors.left: parent.left
+        anchors.leftMargin: root.margin - leftMargin
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin - rightMargin
+        anchors.top: column.bottom
+        anchors.topMargin: 6
+        anchors.bottom: parent.bottom
+        spacing: 4
+        model: root.screen.apps
+        Accessible.name: root.screen.appsHeading
+        onDeserted: reason => root.deserted(reason)
 
-            delegate: AppMemoryRow {
-                required property int index
-                required name
-                required fraction
-                required size
-                required isBusy
+        delegate: AppMemoryRow {
+            required property int index
+            required name
+            required fraction
+            required size
+            required isBusy
 
-                width: rows.width
-                quitLabel: root.screen.quitLabel
-                onQuit: root.screen.quit(index)
-            }
+            width: list.cardWidth
+            quitLabel: root.screen.quitLabel
+            onQuit: root.screen.quit(index)
         }
     }
 }
