@@ -36,7 +36,7 @@ Rectangle {
 
     HoverHandler { id: hover }
 
-    AppIcon {
+    AppIconView {
         id: picture
         x: 16
         y: 16

@@ -1,32 +1,36 @@
 import QtQuick
 import Tidewell
 
-/// An application's icon; a plain tile where there is none.
+/// An application's icon, or a plain tile for one without. It is loaded beside the main thread.
 Item {
     id: root
 
+    property string source
     property real size: 40
 
     implicitWidth: size
     implicitHeight: size
     Accessible.ignored: true
 
-    Rectangle {
+    IconChip {
         anchors.fill: parent
-        anchors.margins: root.size * 0.05
-        radius: root.size * 0.23
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.10)
-        gradient: Gradient {
-            GradientStop { position: 0; color: Qt.rgba(1, 1, 1, 0.14) }
-            GradientStop { position: 1; color: Qt.rgba(1, 1, 1, 0.06) }
-        }
+        visible: !picture.isIcon
+        symbol: "app.fill"
+        size: root.size
+    }
+    Image {
+        id: picture
 
-        Symbol {
-            anchors.centerIn: parent
-            symbol: "app.fill"
-            size: Math.round(root.size * 0.46)
-            tint: Theme.withOpacity(Theme.text, 0.55)
-        }
+        // One pixel stands for none.
+        readonly property bool isIcon: status === Image.Ready && implicitWidth > 1
+
+        anchors.fill: parent
+        visible: isIcon
+        source: root.source
+        sourceSize.width: root.size * Screen.devicePixelRatio
+        sourceSize.height: root.size * Screen.devicePixelRatio
+        fillMode: Image.PreserveAspectFit
+        asynchronous: true
+        smooth: true
     }
 }

@@ -5,6 +5,7 @@ import Tidewell
 Rectangle {
     id: root
 
+    property string icon
     property string name
     property double fraction: 0
     property string size
@@ -23,13 +24,14 @@ Rectangle {
     HoverHandler { id: hover }
 
     AppIconView {
-        id: icon
+        id: picture
         x: 14
         anchors.verticalCenter: parent.verticalCenter
         size: 30
+        source: root.icon
     }
     Label {
-        anchors.left: icon.right
+        anchors.left: picture.right
         anchors.leftMargin: 14
         anchors.right: bar.left
         anchors.rightMargin: 18

@@ -62,6 +62,7 @@ Item {
 
         delegate: AppMemoryRow {
             required property int index
+            required icon
             required name
             required fraction
             required size

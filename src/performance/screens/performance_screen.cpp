@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "kit/qt/bundle_icons.h"
+
 namespace tidewell {
 
 namespace {
@@ -25,6 +27,11 @@ std::vector<ListModel<PanelChoice>::Role> panelRoles() {
     };
 }
 
+/// Empty for an application that is no bundle.
+QString iconAddress(const RunningApp& app) {
+    return app.url ? BundleIcons::address(*app.url) : QString();
+}
+
 std::string appKey(const AppRow& row) {
     return std::to_string(row.app.id);
 }
@@ -32,6 +39,7 @@ std::string appKey(const AppRow& row) {
 std::vector<ListModel<AppRow>::Role> appRoles() {
     return {
         {"name", [](const AppRow& row) { return toText(row.app.name); }},
+        {"icon", [](const AppRow& row) { return iconAddress(row.app); }},
         {"fraction", [](const AppRow& row) { return row.fraction; }},
         {"size", [](const AppRow& row) { return toText(row.size); }},
         {"isBusy", [](const AppRow& row) { return row.isBusy; }},

@@ -1,8 +1,4 @@
-#include <QtCore/qbuffer.h>
-#include <QtCore/qendian.h>
-#include <QtGui/qimage.h>
-#include <QtGui/qpainter.h>
-
+#include "screens/app_icons.h"
 #include "screens/findings.h"
 #include "screens/states.h"
 
@@ -13,36 +9,6 @@ namespace {
 using Phase = AppsViewModel::Phase;
 
 constexpr ByteCount megabyte = 1'000'000;
-
-QByteArray drawnIcon(const QColor& color) {
-    QImage image(128, 128, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRoundedRect(8, 8, 112, 112, 26, 26);
-    painter.setBrush(color.lighter(150));
-    painter.drawEllipse(38, 38, 52, 52);
-    QByteArray png;
-    QBuffer buffer(&png);
-    image.save(&buffer, "PNG");
-    return png;
-}
-
-QByteArray lengthOf(const QByteArray& content) {
-    const auto length = qToBigEndian(static_cast<quint32>(content.size() + 8));
-    return {reinterpret_cast<const char*>(&length), sizeof length};
-}
-
-void lookLike(const Sample& sample, const std::string& name, const QColor& color) {
-    const auto bundle = "/Applications/" + name + ".app";
-    sample.machine.application(bundle, {{"CFBundleIconFile", "Icon"}});
-    const auto png = drawnIcon(color);
-    const auto picture = "ic07" + lengthOf(png) + png;
-    sample.machine.text(bundle + "/Contents/Resources/Icon.icns",
-                        ("icns" + lengthOf(picture) + picture).toStdString());
-}
 
 void findAppsWithIcons(Sample& sample) {
     lookLike(sample, "Sketchpad", QColor(240, 150, 60));

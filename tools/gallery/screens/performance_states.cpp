@@ -1,3 +1,4 @@
+#include "screens/app_icons.h"
 #include "screens/states.h"
 
 namespace tidewell::gallery {
@@ -8,14 +9,17 @@ using Phase = PerformanceViewModel::Phase;
 
 constexpr ByteCount megabyte = 1'000'000;
 
-std::vector<RunningApp> runningApps() {
+std::vector<RunningApp> runningApps(const Sample& sample) {
+    lookLike(sample, "Film Cutter", QColor(200, 60, 90));
+    lookLike(sample, "Tidal Studio", QColor(70, 120, 240));
+    lookLike(sample, "Mail Courier", QColor(240, 180, 70));
     std::vector<RunningApp> apps;
-    const auto add = [&apps](const char* name, ByteCount memory) {
+    const auto add = [&](const std::string& name, ByteCount memory) {
         const auto id = static_cast<std::int32_t>(400 + apps.size());
         apps.push_back({.id = id,
                         .name = name,
                         .bundleID = {},
-                        .url = {},
+                        .url = sample.machine.path("/Applications/" + name + ".app"),
                         .memoryBytes = memory,
                         .process = {}});
     };
@@ -55,7 +59,7 @@ std::vector<LoginItem> loginItems() {
 PerformanceViewModel& listed(Sample& sample) {
     auto& model = *sample.view->performanceModel;
     sample.view->mode = Mode::performance;
-    model.apps = runningApps();
+    model.apps = runningApps(sample);
     model.loginItems = loginItems();
     model.memoryUsed = 11'990 * megabyte;
     model.memoryTotal = 17'180 * megabyte;
