@@ -45,12 +45,21 @@ std::vector<CleanupCategory> CleanupViewModel::activeCategories() const {
     return active;
 }
 
+// An item may have very many paths: what is only counted is not copied.
+
+std::size_t CleanupViewModel::countIn(CleanupCategory category) const {
+    return static_cast<std::size_t>(std::ranges::count_if(items(), isIn(category)));
+}
+
 std::size_t CleanupViewModel::selectedCountIn(CleanupCategory category) const {
-    return tidewell::selectedItems(itemsIn(category)).size();
+    const auto isMeant = [isInIt = isIn(category)](const CleanupItem& item) {
+        return item.isSelected && isInIt(item);
+    };
+    return static_cast<std::size_t>(std::ranges::count_if(items(), isMeant));
 }
 
 ByteCount CleanupViewModel::bytesIn(CleanupCategory category) const {
-    return tidewell::totalBytes(itemsIn(category));
+    return tidewell::totalBytes(items(), isIn(category));
 }
 
 TickBinding<CleanupViewModel> CleanupViewModel::selectionBinding(const CleanupItem& item) {

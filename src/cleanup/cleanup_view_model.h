@@ -46,10 +46,11 @@ class CleanupViewModel : public std::enable_shared_from_this<CleanupViewModel> {
 
     CleanupItems selectedItems() const { return tidewell::selectedItems(items()); }
     ByteCount totalBytes() const { return tidewell::totalBytes(items()); }
-    ByteCount selectedBytes() const { return tidewell::totalBytes(selectedItems()); }
+    ByteCount selectedBytes() const { return tidewell::totalBytes(items(), tickedItem); }
     CleanupItems itemsIn(CleanupCategory category) const;
     /// The categories that have at least one item, in their declared order.
     std::vector<CleanupCategory> activeCategories() const;
+    std::size_t countIn(CleanupCategory category) const;
     std::size_t selectedCountIn(CleanupCategory category) const;
     /// The bytes of all items of the category, selected or not.
     ByteCount bytesIn(CleanupCategory category) const;

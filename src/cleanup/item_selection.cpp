@@ -10,12 +10,6 @@ CleanupItems selectedItems(const CleanupItems& items) {
     return selected;
 }
 
-ByteCount totalBytes(const CleanupItems& items) {
-    ByteCount total = 0;
-    for (const auto& item : items) total = addSaturating(total, item.sizeBytes);
-    return total;
-}
-
 const CleanupItem* findItem(const CleanupItems& items, std::string_view id) {
     const auto found = std::ranges::find(
         items, id, [](const auto& item) { return std::string_view(item.target.id); });

@@ -14,19 +14,31 @@ namespace tidewell {
 
 using CleanupItems = std::vector<CleanupItem>;
 
+inline constexpr auto everyItem = [](const CleanupItem&) { return true; };
+inline constexpr auto tickedItem = [](const CleanupItem& item) { return item.isSelected; };
+
 /// The ticked items, in their order.
 CleanupItems selectedItems(const CleanupItems& items);
 
+/// The sizes of all items that `isMeant` names together.
+template <class Predicate>
+ByteCount totalBytes(const CleanupItems& items, Predicate isMeant) {
+    ByteCount total = 0;
+    for (const auto& item : items)
+        if (isMeant(item)) total = addSaturating(total, item.sizeBytes);
+    return total;
+}
+
 /// The sizes of all items together, ticked or not.
-ByteCount totalBytes(const CleanupItems& items);
+inline ByteCount totalBytes(const CleanupItems& items) {
+    return totalBytes(items, everyItem);
+}
 
 enum class Tick { on, off };
 
 inline Tick tickOf(bool isSelected) {
     return isSelected ? Tick::on : Tick::off;
 }
-
-inline constexpr auto everyItem = [](const CleanupItem&) { return true; };
 
 /// Ticks or unticks each item that `isMeant` names, without asking what it is.
 template <class Predicate>

@@ -20,7 +20,7 @@ void addDate(Value::Object& shape, std::string key, const std::optional<Date>& d
 Value categoryShape(const CleanupViewModel& model, CleanupCategory category) {
     return Value::Object{
         {"title", title(category)},
-        {"count", static_cast<std::int64_t>(model.itemsIn(category).size())},
+        {"count", static_cast<std::int64_t>(model.countIn(category))},
         {"selectedCount", static_cast<std::int64_t>(model.selectedCountIn(category))},
         {"bytes", model.bytesIn(category)},
     };

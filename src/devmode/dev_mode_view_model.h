@@ -41,7 +41,7 @@ class DevModeViewModel : public std::enable_shared_from_this<DevModeViewModel> {
     Published<std::vector<std::string>> failedTitles{willChange};
 
     CleanupItems selectedItems() const { return tidewell::selectedItems(items()); }
-    ByteCount selectedBytes() const { return tidewell::totalBytes(selectedItems()); }
+    ByteCount selectedBytes() const { return tidewell::totalBytes(items(), tickedItem); }
     ByteCount itemsBytes() const { return tidewell::totalBytes(items()); }
     ByteCount modelsBytes() const { return tidewell::totalBytes(models()); }
 

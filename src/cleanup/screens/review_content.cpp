@@ -17,7 +17,7 @@ std::optional<CleanupCategory> categoryInView(const std::vector<CleanupCategory>
 
 CategoryRowContent categoryRow(const CleanupViewModel& model, CleanupCategory category,
                                std::optional<CleanupCategory> viewing) {
-    const auto count = model.itemsIn(category).size();
+    const auto count = model.countIn(category);
     const auto selected = model.selectedCountIn(category);
     const auto bytes = model.bytesIn(category);
     return {
@@ -84,26 +84,25 @@ std::string_view symbol(CleanupCategory category) {
 ReviewContent reviewContent(const CleanupViewModel& model, std::optional<CleanupCategory> viewing,
                             ByteCount freeBytes) {
     const auto active = model.activeCategories();
-    const auto selected = model.selectedItems();
-    const auto selectedBytes = totalBytes(selected);
+    const auto selected = std::ranges::count_if(model.items(), tickedItem);
+    const auto selectedBytes = model.selectedBytes();
     ReviewContent content{
         .headline = "Found " + byteText(model.totalBytes()) + " of junk.",
         .categories = {},
         .viewing = categoryInView(active, viewing),
         .chips = {},
         .selectedSize = std::nullopt,
-        .pickedLine = std::to_string(selected.size()) + " of " +
-                      std::to_string(model.items().size()) + " picked",
+        .pickedLine =
+            std::to_string(selected) + " of " + std::to_string(model.items().size()) + " picked",
         .freeAfterLine = byteText(addSaturating(freeBytes, selectedBytes)) + " free after this",
         .isEmpty = model.items().empty(),
-        .canClean = !selected.empty(),
+        .canClean = selected > 0,
     };
-    if (!selected.empty()) content.selectedSize = byteText(selectedBytes);
+    if (selected > 0) content.selectedSize = byteText(selectedBytes);
     for (const auto category : active)
         content.categories.push_back(categoryRow(model, category, content.viewing));
-    if (content.viewing)
-        for (const auto& item : model.itemsIn(*content.viewing))
-            content.chips.push_back(itemChip(item));
+    for (const auto& item : model.items())
+        if (item.target.category == content.viewing) content.chips.push_back(itemChip(item));
     return content;
 }
 

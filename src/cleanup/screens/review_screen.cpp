@@ -68,8 +68,8 @@ void ReviewScreen::selectNoneInView() {
 
 void ReviewScreen::toggleCategory(int row) {
     const auto category = categories_.values().at(static_cast<std::size_t>(row)).category;
-    model_->setCategory(category, toggledCategory(model_->selectedCountIn(category),
-                                                  model_->itemsIn(category).size()));
+    model_->setCategory(
+        category, toggledCategory(model_->selectedCountIn(category), model_->countIn(category)));
 }
 
 void ReviewScreen::viewCategory(int row) {
