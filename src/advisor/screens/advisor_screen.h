@@ -40,6 +40,7 @@ class AdvisorScreen final : public Screen {
     Q_PROPERTY(QString deleteLabel READ deleteLabel CONSTANT)
 
  public:
+    // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
     enum Phase { Idle, Scanning, List };
     Q_ENUM(Phase)
 

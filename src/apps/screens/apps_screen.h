@@ -48,6 +48,7 @@ class AppsScreen final : public Screen {
     Q_PROPERTY(QString confirmLabel READ confirmLabel CONSTANT)
 
  public:
+    // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
     enum Phase { Idle, Scanning, List };
     Q_ENUM(Phase)
 

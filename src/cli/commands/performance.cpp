@@ -99,7 +99,7 @@ Outcome runQuit(const Context& context, const QuitCall& call) {
     if (app == apps.end())
         return WrongCall{"There is no running application with the number " +
                          std::to_string(call.pid)};
-    const auto asked = *app;
+    const auto& asked = *app;
     const auto termination = askToQuit(context, model, asked);
     if (context.form == OutputForm::json) {
         printDocument(quitShape(*model, termination));

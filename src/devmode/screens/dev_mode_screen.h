@@ -79,6 +79,7 @@ class DevModeScreen final : public Screen {
     Q_PROPERTY(QString failureTitle READ failureTitle CONSTANT)
 
  public:
+    // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
     enum Phase { Idle, Scanning, Review, Cleaning, Done };
     Q_ENUM(Phase)
 

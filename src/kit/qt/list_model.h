@@ -64,6 +64,7 @@ class ListModel final : public QAbstractListModel {
  private:
     std::vector<std::string> keysOf(const std::vector<Value>& values) const {
         std::vector<std::string> keys;
+        keys.reserve(values.size());
         for (const auto& value : values) keys.push_back(key_(value));
         return keys;
     }

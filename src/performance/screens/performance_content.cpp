@@ -1,6 +1,7 @@
 #include "performance/screens/performance_content.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "kit/byte_text.h"
 #include "kit/percent_text.h"
@@ -44,7 +45,7 @@ std::vector<AppMemoryRowContent> appRows(const PerformanceViewModel& model) {
 
 std::vector<LoginItemRowContent> loginRows(const std::vector<LoginItem>& items) {
     std::vector<LoginItemRowContent> rows;
-    for (const auto& item : items) rows.push_back(loginItemRow(item));
+    std::ranges::transform(items, std::back_inserter(rows), loginItemRow);
     return rows;
 }
 

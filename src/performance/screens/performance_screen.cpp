@@ -16,6 +16,11 @@ namespace {
 using AppRow = AppMemoryRowContent;
 using ItemRow = LoginItemRowContent;
 
+static_assert(PerformanceScreen::Idle == static_cast<int>(PerformanceViewModel::Phase::idle));
+static_assert(PerformanceScreen::Scanning ==
+              static_cast<int>(PerformanceViewModel::Phase::scanning));
+static_assert(PerformanceScreen::List == static_cast<int>(PerformanceViewModel::Phase::list));
+
 std::string panelKey(const PanelChoice& choice) {
     return std::string(choice.label);
 }

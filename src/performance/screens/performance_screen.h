@@ -47,6 +47,7 @@ class PerformanceScreen final : public Screen {
     Q_PROPERTY(QString revealLabel READ revealLabel CONSTANT)
 
  public:
+    // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
     enum Phase { Idle, Scanning, List };
     Q_ENUM(Phase)
 
