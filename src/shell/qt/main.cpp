@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 
 #include "async/background.h"
 #include "kit/qt/motion.h"
@@ -60,7 +61,7 @@ void quitWhenOutOfReach() {
     const auto view = std::make_shared<ContentView>(application);
     MainWindow window(application, view);
     opened = &window;
-    StatusItem statusItem(application);
+    const auto statusItem = std::make_unique<StatusItem>(application);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, qGuiApp,
                      [&application](Qt::ApplicationState state) {
                          if (state == Qt::ApplicationActive) application.didBecomeActive.fire();
