@@ -1,60 +1,17 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <cerrno>
-#include <chrono>
-#include <filesystem>
-#include <iostream>
 #include <memory>
-#include <thread>
 #include <utility>
-#ifdef __SANITIZE_ADDRESS__
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-#else
-#include <malloc.h>
-#endif
 
 #include "async/main_loop.h"
 #include "platform/dates.h"
 #include "shell/screens/smart_scan_content.h"
+#include "support/footprint.h"
 #include "support/sample_machine.h"
 #include "support/simulator_tools.h"
 
 namespace tidewell::test {
 namespace {
-
-#ifdef __SANITIZE_ADDRESS__
-/// Bytes that the program has asked for and not given back.
-std::size_t heapInUse() {
-    return __sanitizer_get_current_allocated_bytes();
-}
-constexpr std::size_t allocatorsOwn = 0;
-#else
-/// The same, with what the allocator keeps at hand for each thread.
-std::size_t heapInUse() {
-    const auto heap = ::mallinfo2();
-    return heap.uordblks + heap.hblkhd;
-}
-constexpr std::size_t allocatorsOwn = 32 * kilobyte;
-#endif
-
-std::ptrdiff_t entriesOf(const char* folder) {
-    return std::distance(std::filesystem::directory_iterator(folder), {});
-}
-
-/// A thread that has handed over its value may still be on its way out.
-std::ptrdiff_t threadsInTheEnd() {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    std::ptrdiff_t threads = 0;
-    while ((threads = entriesOf("/proc/self/task")) > 1 &&
-           std::chrono::steady_clock::now() < deadline)
-        std::this_thread::yield();
-    return threads;
-}
-
-bool hasChildren() {
-    return ::waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD;
-}
 
 /// Something for each of the four tools, in folders that are walked and by tools that are run.
 void furnish(const SampleMachine& machine) {
@@ -107,16 +64,16 @@ TEST_F(SoakTest, AHundredScansInOneProcessLeaveNothingBehind) {
     for (int number = 0; number < warmUp; ++number) scan();
     const auto found = foundBytes(*controller);
     EXPECT_GT(found, 90 * megabyte);
-    EXPECT_EQ(threadsInTheEnd(), 1);
+    EXPECT_EQ(threadsInTheEnd(1), 1);
     const auto heap = heapInUse();
-    const auto descriptors = entriesOf("/proc/self/fd");
+    const auto descriptors = openDescriptors();
 
     for (int number = warmUp; number < scans; ++number) {
         scan();
         ASSERT_EQ(foundBytes(*controller), found) << "scan " << number;
     }
-    EXPECT_EQ(threadsInTheEnd(), 1);
-    EXPECT_EQ(entriesOf("/proc/self/fd"), descriptors);
+    EXPECT_EQ(threadsInTheEnd(1), 1);
+    EXPECT_EQ(openDescriptors(), descriptors);
     EXPECT_FALSE(hasChildren());
     EXPECT_LE(heapInUse(), heap + allocatorsOwn);
 }

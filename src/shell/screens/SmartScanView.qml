@@ -130,6 +130,7 @@ FocusScope {
             Item { width: 1; height: 18 }
 
             Column {
+                id: insights
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: parent.width
                 spacing: 7
@@ -142,8 +143,9 @@ FocusScope {
                         required text
                         required property sectionPalette accent
 
-                        anchors.horizontalCenter: parent.horizontalCenter
-                        maximumWidth: parent.width
+                        // A row that goes has no parent any more.
+                        anchors.horizontalCenter: insights.horizontalCenter
+                        maximumWidth: insights.width
                         Ambient.palette: accent
                     }
                 }
