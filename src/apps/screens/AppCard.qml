@@ -92,6 +92,7 @@ Rectangle {
     }
     Row {
         id: marks
+        height: 18
         anchors.right: parent.right
         anchors.rightMargin: 16
         anchors.bottom: parent.bottom
