@@ -78,8 +78,8 @@ struct ReviewContent {
     std::optional<std::string> selectedSize;  ///< absent while nothing is picked
     std::string pickedLine;                   ///< "2 of 5 picked"
     std::string freeAfterLine;                ///< "120 GB free after this"
-    bool isEmpty;
-    bool canClean;
+    bool isEmpty = false;
+    bool canClean = false;
 };
 
 /// `viewing` is the category that the user chose to see; one without items falls back to the first

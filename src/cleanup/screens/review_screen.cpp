@@ -36,6 +36,9 @@ ReviewScreen::ReviewScreen(std::shared_ptr<CleanupViewModel> model,
 }
 
 void ReviewScreen::update() {
+    // Nothing of it is seen elsewhere, and working out thousands of rows at every step of a clean
+    // would be felt.
+    if (model_->phase() != CleanupViewModel::Phase::review) return;
     content_ = reviewContent(*model_, viewing_, theme_->freeBytes());
     categories_.set(content_.categories);
     chips_.set(content_.chips);

@@ -51,6 +51,8 @@ DevModeScreen::DevModeScreen(std::shared_ptr<DevModeViewModel> model, Workspace 
 }
 
 void DevModeScreen::update() {
+    // Nothing of the list is seen elsewhere, and it may be long.
+    if (phase() != Review) return;
     groups_ = devRail(model_->items(), model_->models());
     inView_ = devGroupInView(groups_, viewing_);
     review_ = devReviewContent(*model_);
