@@ -57,6 +57,16 @@ TEST_F(HomeTest, AStoppedScanShowsWhatWasSkippedAndATapOnThatDoesNothing) {
     EXPECT_EQ(view->mode(), Mode::clean);
 }
 
+TEST_F(HomeTest, AScanThatIsOverBeforeItIsSeenHandsTheKeyboardToItsNextStepToo) {
+    start();
+    view->cleanupModel->items =
+        CleanupItems{{.target = {}, .resolvedPaths = {}, .sizeBytes = 5'000'000}};
+    view->smartScan->phase = Phase::done;
+    ASSERT_TRUE(comesTo([&] { return shows("All scanned."); }));
+    EXPECT_TRUE(comesTo([&] { return focused() == "Review 5 MB of junk"; }))
+        << focused().toStdString();
+}
+
 TEST_F(HomeTest, WhatTheCommandLineCleansBesideTheWindowIsSeenAtOnce) {
     start();
     ASSERT_TRUE(comesTo([&] { return shows("First scan = first win. Try it."); }));

@@ -9,15 +9,17 @@ FocusScope {
     required property SmartScanScreen screen
 
     readonly property bool isRunning: screen.isRunning
+    readonly property bool hasNextStep: screen.primaryLabel !== ""
 
     onIsRunningChanged: takeKeyboard()
+    onHasNextStepChanged: takeKeyboard()  // a short scan is over before it was seen to run
     Component.onCompleted: takeKeyboard()
 
     /// The keyboard is at what most people do next.
     function takeKeyboard() {
-        if (screen.isRunning)
+        if (isRunning)
             stopButton.focus = true
-        else if (screen.primaryLabel !== "")
+        else if (hasNextStep)
             primaryButton.focus = true
         else
             backButton.focus = true
@@ -175,7 +177,7 @@ FocusScope {
                 PillButton {
                     id: primaryButton
                     anchors.verticalCenter: parent.verticalCenter
-                    visible: root.screen.primaryLabel !== ""
+                    visible: root.hasNextStep
                     text: root.screen.primaryLabel
                     symbol: root.screen.primarySymbol
                     isSymbolLast: true
