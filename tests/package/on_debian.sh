@@ -19,7 +19,10 @@ fail() {
 system=$(mktemp -d /tmp/tidewell-debian.XXXXXX)
 window=
 clean_up() {
-    [ -z "$window" ] || kill "$window" || true
+    if [ -n "$window" ]; then
+        kill "$window" || true
+        wait "$window" || true
+    fi
     umount --recursive "$system/proc" 2>/dev/null || true
     rm -rf --one-file-system -- "$system"
 }
