@@ -33,7 +33,7 @@ TEST(IconImage, TakesTheSmallestPictureThatIsLargeEnoughElseTheLargest) {
 TEST(IconImage, AFileThatIsCutShortGivesWhatStandsBeforeTheCut) {
     const auto file = iconFile(entry("ic07", png + "128") + entry("ic08", png + "256"));
     EXPECT_EQ(pngOfIconFile(file.substr(0, file.size() - 1), 256), png + "128");
-    EXPECT_EQ(pngOfIconFile(file.substr(0, 30), 256), std::nullopt) << "inside the first picture";
+    EXPECT_EQ(pngOfIconFile(file.substr(0, 26), 256), std::nullopt) << "inside the first picture";
     EXPECT_EQ(pngOfIconFile(iconFile(std::string("ic07\0\0\0\0", 8) + png), 64), std::nullopt)
         << "a picture of no length";
     EXPECT_EQ(pngOfIconFile(png + png, 64), std::nullopt);
