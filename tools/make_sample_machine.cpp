@@ -289,7 +289,7 @@ void layOut(const SampleMachine& machine) {
 }  // namespace
 
 int main(int count, char** words) {
-    if (count != 2) {
+    if (count != 2 || words[1][0] == '-') {
         std::cerr << "usage: make-sample-machine DIR\n";
         return 2;
     }
