@@ -8,7 +8,8 @@ completion=$1
 shift
 
 zpty shell zsh -f -i
-# Keeps what the shell offers, until it says the word. It may offer a thing several times.
+# Keeps what the shell offers, until it says the word. It may offer a thing several times. What is typed
+# comes back too: the quotes keep it apart from what is said.
 typeset -aU found
 hear() {
     local line
@@ -19,10 +20,10 @@ hear() {
     done
 }
 zpty -w shell "PS1=; fpath=(${(q)completion:h} \$fpath); autoload -U compinit; compinit -u -d ./zcompdump"
-zpty -w shell 'offer() { builtin compadd -O found "$@"; print -rl -- offered:${^found}; builtin compadd "$@" }'
+zpty -w shell 'offer() { builtin compadd -O found "$@"; print -rl -- offe""red:${^found}; builtin compadd "$@" }'
 zpty -w shell 'functions[compadd]=$functions[offer]'
-zpty -w shell 'finish() { zle -I; print the''end }; zle -N finish; bindkey "^X" finish'
-zpty -w shell 'print be''gun'
+zpty -w shell 'finish() { zle -I; print the""end }; zle -N finish; bindkey "^X" finish'
+zpty -w shell 'print be""gun'
 hear begun
 found=()
 zpty -w -n shell "$*"$'\t\x18'
