@@ -1,5 +1,5 @@
 #!/usr/bin/perl
-# removal.pl TREE: one file removes and moves the user's things, one writes the program's own, and
+# removal.pl TREE: one place removes and moves the user's things, one writes the program's own, and
 # nothing else changes the disk or opens a connection.
 
 use strict;

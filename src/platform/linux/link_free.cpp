@@ -64,6 +64,11 @@ Descriptor openPlace(const std::string& absolutePath) {
     return openPlaceStepwise(absolutePath);
 }
 
+Place openPlaceOf(const std::string& absolutePath) {
+    return {.folder = openPlace(std::string(parentPath(absolutePath))),
+            .name = std::string(lastPathComponent(absolutePath))};
+}
+
 Descriptor openSubfolder(int parent, const std::string& name) {
     auto folder = openConfined(parent, name.c_str(), posix::openFolderFlags,
                                RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_XDEV);

@@ -14,6 +14,15 @@ namespace tidewell::link_free {
 /// on the way are entered.
 posix::Descriptor openPlace(const std::string& absolutePath);
 
+/// An entry, by the open folder that holds it.
+struct Place {
+    posix::Descriptor folder;
+    std::string name;
+};
+
+/// The place of the entry at an absolute path; the entry itself need not be there.
+Place openPlaceOf(const std::string& absolutePath);
+
 /// The folder of this name directly in `parent`, for reading. EXDEV if another file system is
 /// mounted there, also one that is a part of the same disk; ELOOP or ENOTDIR if it is no folder.
 posix::Descriptor openSubfolder(int parent, const std::string& name);
