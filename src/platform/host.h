@@ -6,7 +6,7 @@
 
 namespace tidewell {
 
-/// The program's own bundle, settled at build time.
+/// The program's own bundle, settled at build time but for where it lies.
 struct OwnBundle {
     std::string identifier;
     std::string version;

@@ -1,4 +1,5 @@
 #include "cleanup/stored_sums.h"
+#include "platform/path_text.h"
 #include "platform/user_defaults.h"
 #include "window_test.h"
 
@@ -76,12 +77,15 @@ TEST_F(HomeTest, WhatTheCommandLineCleansBesideTheWindowIsSeenAtOnce) {
     EXPECT_TRUE(comesTo([&] { return shows("6 MB won back with Tidewell"); }));
 }
 
-TEST_F(HomeTest, WithoutAccessTheBannerLeadsToTheSettings) {
+TEST_F(HomeTest, WithoutAccessTheBannerLeadsToTheSettingsAndToTheProgram) {
     machine.remove("/Library/Application Support/com.apple.TCC/TCC.db");
     start();
     ASSERT_TRUE(comesTo([&] { return shows("Turn on Full Disk Access"); }));
     click("Open Settings");
     EXPECT_EQ(openedUrls.size(), 1);
+    click("Reveal App");
+    ASSERT_EQ(revealedPaths.size(), 1);
+    EXPECT_EQ(lastPathComponent(revealedPaths.front()), "window_tests");
 }
 
 }  // namespace

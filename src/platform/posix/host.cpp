@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/own_program.h"
 #include "platform/path_text.h"
 
 namespace tidewell {
@@ -110,7 +111,7 @@ HostResult findHost(const HostOptions& options) {
     host.ownBundle = {.identifier = "io.tidewell.Tidewell",
                       .version = TIDEWELL_VERSION,
                       .build = "1",
-                      .path = {}};
+                      .path = ownProgram()};
     const auto root = resolvedFolder(options.root.value_or("/"));
     if (!root) return failure("There is no folder " + *options.root);
     host.root = *root;
