@@ -49,6 +49,7 @@ std::optional<AppsNotice> notice(Phase phase) {
 
 std::vector<SortChoice> sortChoices(SortOrder chosen) {
     std::vector<SortChoice> choices;
+    choices.reserve(allSortOrders.size());
     for (const auto order : allSortOrders)
         choices.push_back({.order = order, .label = rawText(order), .isChosen = order == chosen});
     return choices;

@@ -58,6 +58,7 @@ void DevModeScreen::update() {
     review_ = devReviewContent(*model_);
 
     std::vector<DevRailRow> rows;
+    rows.reserve(groups_.size());
     for (const auto& group : groups_)
         rows.push_back({.id = group.id,
                         .symbol = group.symbol,

@@ -2,6 +2,7 @@
 #include <QtWidgets/qapplication.h>
 
 #include <cstdlib>
+#include <exception>
 #include <iostream>
 #include <memory>
 
@@ -53,7 +54,7 @@ void quitWhenOutOfReach() {
 /// already; threads and tools under way are not waited for.
 [[noreturn]] void runToQuit(const Host& host, SingleInstance& instance, const StartWish& wish,
                             TimedApplication* timed) {
-    QtMainLoop loop;
+    const QtMainLoop loop;
     MainWindow* opened = nullptr;
     Application application(host, desktopWorkspace(host), [&opened] {
         if (opened) opened->activate();
@@ -117,5 +118,11 @@ int run(int& count, char** words) {
 }  // namespace tidewell
 
 int main(int count, char** words) {
-    return tidewell::run(count, words);
+    try {
+        return tidewell::run(count, words);
+    } catch (const std::exception& problem) {
+        std::cerr << "tidewell: something went wrong inside the program: " << problem.what()
+                  << '\n';
+        return EXIT_FAILURE;
+    }
 }

@@ -26,7 +26,7 @@ Duration milliseconds(double count) {
 
 }  // namespace
 
-IntroScreen::IntroScreen(std::shared_ptr<ContentView> view, const QString& filmFolder,
+IntroScreen::IntroScreen(const std::shared_ptr<ContentView>& view, const QString& filmFolder,
                          QObject* parent)
     : Screen(parent),
       film_(findFilm(filmFolder)),

@@ -24,7 +24,8 @@ class IntroScreen final : public Screen {
 
  public:
     /// The film is "onboarding.mp4" in that folder, else "onboarding.mov".
-    IntroScreen(std::shared_ptr<ContentView> view, const QString& filmFolder, QObject* parent);
+    IntroScreen(const std::shared_ptr<ContentView>& view, const QString& filmFolder,
+                QObject* parent);
 
     /// Empty if there is none.
     QUrl film() const { return film_; }
