@@ -78,8 +78,6 @@ struct RiskRow {
     bool operator==(const RiskRow&) const = default;
 };
 
-inline constexpr std::string_view riskRowChevron = "chevron.right";
-
 struct CopyCommandButton {
     std::string command;  ///< what goes to the pasteboard
     std::string_view label;
