@@ -47,7 +47,6 @@ TEST_F(DevModeTest, WhatIsPickedInAGroupGoesAndTheWorkBesideItStays) {
     EXPECT_TRUE(comesTo([&] { return shows("0 picked"); }));
     EXPECT_TRUE(comesTo([&] { return !isEnabled("Clean Up"); }));
 
-    key(Qt::Key_Tab);
     press("Safe only");
     EXPECT_EQ(model().selectedItems().size(), 2) << picked();
     viewGroup("Node & JS", "npm cache", QAccessible::CheckBox);

@@ -133,6 +133,7 @@ FocusScope {
             wrapMode: Text.Wrap
         }
         CardList {
+            id: list
             anchors.left: divider.right
             anchors.leftMargin: 16
             anchors.right: parent.right
@@ -158,7 +159,7 @@ FocusScope {
                 required commandLabel
                 required commandHelp
 
-                width: ListView.view.width - 18
+                width: list.cardWidth
                 onRevealed: root.screen.reveal(index)
                 onTrashed: root.screen.trash(index)
                 onCopied: root.screen.copyCommand(index)

@@ -146,6 +146,7 @@ FocusScope {
             wrapMode: Text.Wrap
         }
         CardList {
+            id: stores
             anchors.left: divider.right
             anchors.leftMargin: 16
             anchors.right: parent.right
@@ -163,7 +164,7 @@ FocusScope {
                 required size
                 required note
 
-                width: ListView.view.width - 18
+                width: stores.cardWidth
                 symbol: root.screen.modelSymbol
                 revealLabel: root.screen.revealLabel
                 revealSymbol: root.screen.revealSymbol
