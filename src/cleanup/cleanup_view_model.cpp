@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "async/background.h"
-#include "cleanup/project_artifacts.h"
 #include "cleanup/stored_sums.h"
 #include "cleanup/target_catalogue.h"
 #include "platform/dates.h"
@@ -28,8 +27,8 @@ void storeCleanup(UserDefaults defaults, ByteCount freed, Date at) {
 }  // namespace
 
 CleanupViewModel::CleanupViewModel(const Host& host)
-    : host_(host), scanner_(host), defaults_(host.configurationDirectory) {
-    freeSpaceBefore = scanner_.availableCapacity();
+    : CleaningSession(host), host_(host), defaults_(host.configurationDirectory) {
+    freeSpaceBefore = scanner().availableCapacity();
 }
 
 CleanupItems CleanupViewModel::itemsIn(CleanupCategory category) const {
@@ -62,20 +61,8 @@ ByteCount CleanupViewModel::bytesIn(CleanupCategory category) const {
     return tidewell::totalBytes(items(), isIn(category));
 }
 
-TickBinding<CleanupViewModel> CleanupViewModel::selectionBinding(const CleanupItem& item) {
-    return {weak_from_this(), item.target.id};
-}
-
-void CleanupViewModel::selectAll(Tick tick) {
-    setTicks(items.mutate(), tick, everyItem);
-}
-
 void CleanupViewModel::setCategory(CleanupCategory category, Tick tick) {
     setTicks(items.mutate(), tick, isIn(category));
-}
-
-void CleanupViewModel::selectSafeOnly() {
-    tickSafeOnly(items.mutate(), everyItem);
 }
 
 void CleanupViewModel::selectSafeOnlyIn(CleanupCategory category) {
@@ -83,47 +70,21 @@ void CleanupViewModel::selectSafeOnlyIn(CleanupCategory category) {
 }
 
 Task<> CleanupViewModel::startScan() {
-    if (phase() == Phase::scanning || phase() == Phase::cleaning) co_return;
-    phase = Phase::scanning;
-    scanProgress = 0.0;
-    items = CleanupItems{};
-    freeSpaceBefore = scanner_.availableCapacity();
-
-    auto searching = background([host = host_] { return findProjectArtifacts(host); });
-    auto artifacts = co_await searching;
-    auto targets = cleanupCatalogue(host_);
-    std::ranges::move(artifacts, std::back_inserter(targets));
-
-    MeasuringObserver observer;
-    observer.started = [this](const CleanupTarget& target) { currentTarget = target.title; };
-    observer.progressed = [this](double part) { scanProgress = part; };
-    auto measuring = measureTargets(scanner_, std::move(targets), observer);
-    auto found = co_await measuring;
-    currentTarget = std::nullopt;
+    if (isBusy()) co_return;
+    beginScan();
+    freeSpaceBefore = scanner().availableCapacity();
+    auto found = co_await measured(cleanupCatalogue(host_));
     items = std::move(found);
     phase = Phase::review;
 }
 
 Task<> CleanupViewModel::cleanSelected() {
-    auto selected = selectedItems();
-    if (phase() == Phase::cleaning || selected.empty()) co_return;
-    phase = Phase::cleaning;
-    cleanProgress = 0.0;
-    freeSpaceBefore = scanner_.availableCapacity();
-    nextStep_ = CleaningStep::goOn;
+    if (!canClean()) co_return;
+    freeSpaceBefore = scanner().availableCapacity();
+    co_await cleanTicked();
+    freeSpaceAfter = scanner().availableCapacity();
 
-    CleaningObserver observer;
-    observer.progressed = [this](double part) {
-        cleanProgress = part;
-        return nextStep_;
-    };
-    auto cleaning = cleanItems(scanner_, std::move(selected), observer);
-    auto outcome = co_await cleaning;
-    freedBytes = outcome.freedBytes;
-    failedTitles = std::move(outcome.failedTitles);
-    freeSpaceAfter = scanner_.availableCapacity();
-
-    auto storing = background([defaults = defaults_, freed = outcome.freedBytes, at = now()] {
+    auto storing = background([defaults = defaults_, freed = freedBytes(), at = now()] {
         storeCleanup(defaults, freed, at);
         return true;
     });
@@ -133,11 +94,8 @@ Task<> CleanupViewModel::cleanSelected() {
 
 void CleanupViewModel::reset() {
     items = CleanupItems{};
-    scanProgress = 0.0;
-    cleanProgress = 0.0;
-    freedBytes = 0;
-    failedTitles = std::vector<std::string>{};
-    freeSpaceBefore = scanner_.availableCapacity();
+    forgetRun();
+    freeSpaceBefore = scanner().availableCapacity();
     phase = Phase::idle;
 }
 

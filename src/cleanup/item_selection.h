@@ -1,9 +1,7 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "cleanup/cleanup_model.h"
@@ -56,31 +54,6 @@ void tickSafeOnly(CleanupItems& items, Predicate isMeant) {
 
 /// The item of that target id; null if there is none.
 const CleanupItem* findItem(const CleanupItems& items, std::string_view id);
-
-/// One row's tick, looked up by its target's id at each access: off, and without effect, once the
-/// item or the view model is gone.
-template <class ViewModel>
-class TickBinding {
- public:
-    TickBinding(std::weak_ptr<ViewModel> model, std::string id)
-        : model_(std::move(model)), id_(std::move(id)) {}
-
-    bool get() const {
-        const auto model = model_.lock();
-        const auto* item = model ? findItem(model->items(), id_) : nullptr;
-        return item && item->isSelected;
-    }
-    void set(Tick tick) const {
-        const auto model = model_.lock();
-        if (!model || !findItem(model->items(), id_)) return;
-        setTicks(model->items.mutate(), tick,
-                 [this](const CleanupItem& item) { return item.target.id == id_; });
-    }
-
- private:
-    std::weak_ptr<ViewModel> model_;
-    std::string id_;
-};
 
 /// Largest first; items of equal size keep their order.
 void sortBySize(CleanupItems& items);

@@ -159,6 +159,12 @@ TEST_F(CleanTool, StopsBehindTheItemInHandWhenAskedTo) {
     loop.runAll();
     EXPECT_EQ(model->phase(), Phase::done);
     EXPECT_EQ(model->freedBytes(), 8192);
+    EXPECT_EQ(UserDefaults(machine.host().configurationDirectory).integer("totalFreedBytes"), 8192);
+    EXPECT_TRUE(machine.has("~/.m2/repository/jar"));
+    scan();
+    spawn(model, &CleanupViewModel::cleanSelected);
+    model->stopAfterItemInHand();  // before the clean has had its first turn
+    loop.runAll();
     EXPECT_TRUE(machine.has("~/.m2/repository/jar"));
     scan();
     clean();  // the wish does not outlive its clean

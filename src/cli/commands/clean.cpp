@@ -80,7 +80,7 @@ Outcome runClean(const Context& context, const CleanCall& call) {
     if (context.form == OutputForm::text) printReview(model, call.consent);
     auto status = ExitStatus::done;
     if (call.consent == Consent::given)
-        status = cleanTicked(context, model, &CleanupViewModel::cleanSelected);
+        status = cleanToEnd(context, *model, model->cleanSelected());
     if (context.form == OutputForm::json) {
         printDocument(document(model, call.consent));
     } else if (model->phase() == CleanupViewModel::Phase::done) {

@@ -1,6 +1,7 @@
 #include "cli/cleaning_tool.h"
 #include "cli/commands/commands.h"
 #include "cli/item_list.h"
+#include "cli/progress_line.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "devmode/dev_mode_view_model.h"
@@ -82,8 +83,7 @@ Outcome runDev(const Context& context, const DevCall& call) {
     if (const auto wrong = tickAsWished(*model, call.selection)) return *wrong;
     if (context.form == OutputForm::text) printReview(*model, call.consent);
     auto status = ExitStatus::done;
-    if (call.consent == Consent::given)
-        status = cleanTicked(context, model, &DevModeViewModel::clean);
+    if (call.consent == Consent::given) status = cleanToEnd(context, *model, model->clean());
     if (context.form == OutputForm::json) {
         printDocument(document(*model, call.consent));
     } else if (model->phase() == DevModeViewModel::Phase::done) {

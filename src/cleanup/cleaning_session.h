@@ -1,0 +1,102 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "async/observable.h"
+#include "async/task.h"
+#include "cleanup/disk_scanner.h"
+#include "cleanup/item_selection.h"
+
+namespace tidewell {
+
+class CleaningSession;
+
+/// One row's tick, looked up by its target's id at each access: off, and without effect, once the
+/// item or the session is gone.
+class TickBinding {
+ public:
+    TickBinding(std::weak_ptr<CleaningSession> session, std::string id)
+        : session_(std::move(session)), id_(std::move(id)) {}
+
+    bool get() const;
+    void set(Tick tick) const;
+
+ private:
+    std::weak_ptr<CleaningSession> session_;
+    std::string id_;
+};
+
+/// How many targets are measured at once.
+inline constexpr int measuringWidth = 4;
+
+/// What the Clean tool and Dev Mode have in common: targets are measured, the user ticks items, and
+/// what is ticked is cleaned, one item after the other. Main thread only; the slow work runs in the
+/// background. Nothing here fails: what cannot be read gives no item, and what cannot be cleaned
+/// leaves its title in failedTitles.
+class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
+ public:
+    enum class Phase { idle, scanning, review, cleaning, done };
+
+    CleaningSession(const CleaningSession&) = delete;
+    CleaningSession& operator=(const CleaningSession&) = delete;
+
+    /// Fired before each change of what follows.
+    Signal willChange;
+
+    Published<Phase> phase{willChange, Phase::idle};
+    /// What the last scan found, largest first. Empty during a scan.
+    Published<CleanupItems> items{willChange};
+    /// Targets measured, divided by targets in all. 0 while project artifacts are searched.
+    Published<double> scanProgress{willChange, 0.0};
+    /// Items cleaned, divided by items selected.
+    Published<double> cleanProgress{willChange, 0.0};
+    /// The title of the target whose measure began last, beyond the first lot.
+    Published<std::optional<std::string>> currentTarget{willChange};
+    /// What the last clean did.
+    Published<ByteCount> freedBytes{willChange, 0};
+    Published<std::vector<std::string>> failedTitles{willChange};  ///< in the order of the items
+
+    bool isBusy() const { return phase() == Phase::scanning || phase() == Phase::cleaning; }
+
+    CleanupItems selectedItems() const { return tidewell::selectedItems(items()); }
+    ByteCount selectedBytes() const { return totalBytes(items(), tickedItem); }
+
+    TickBinding selectionBinding(const CleanupItem& item) {
+        return {weak_from_this(), item.target.id};
+    }
+    void selectAll(Tick tick) { setTicks(items.mutate(), tick, everyItem); }
+    void selectSafeOnly() { tickSafeOnly(items.mutate(), everyItem); }
+
+    /// Lets a clean end behind the item in hand: no other begins, and what was cleaned until then
+    /// is accounted for, so that `phase` comes to `done`. Holds also for a clean that is still to
+    /// begin, until the next scan or a reset.
+    void stopAfterItemInHand() { mayBeginItems_ = false; }
+
+ protected:
+    explicit CleaningSession(const Host& host) : scanner_(host) {}
+    ~CleaningSession() = default;
+
+    const DiskScanner& scanner() const { return scanner_; }
+
+    /// Searches project artifacts, and measures them behind `targets`, measuringWidth at a time.
+    /// The items come largest first; those of equal size in the order in which their measures
+    /// ended.
+    Task<CleanupItems> measured(std::vector<CleanupTarget> targets);
+
+    bool canClean() const;
+    /// Publishes what was freed and what failed. The phase is left at `cleaning`, for what is to be
+    /// written down behind it.
+    Task<> cleanTicked();
+
+    void beginScan();
+    void forgetRun();
+
+ private:
+    DiskScanner scanner_;
+    bool mayBeginItems_ = true;
+};
+
+}  // namespace tidewell
