@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "apps/installed_app.h"
+#include "platform/trash.h"
 
 namespace tidewell {
 
@@ -35,6 +36,8 @@ struct UninstallResult {
     ByteCount freedBytes = 0;
     std::vector<std::string> failed;  ///< names of what stayed, or why nothing was begun
     bool appBundleMoved = false;
+    std::vector<TrashedItem>
+        moved;  ///< what went is in the Trash now, in the order in which it went
 };
 
 }  // namespace tidewell

@@ -44,9 +44,9 @@ void unloadAgent(const std::string& path, const Host& host) {
 
 Trashing moveItem(const WorkItem& item, const UninstallGuard& guard, const Host& host) {
     const auto approved = guard.approve(item.path);
-    if (!approved) return Trashing::failed;
+    if (!approved) return {};
     if (item.kind == ItemKind::launchAgent) unloadAgent(item.path, host);
-    return moveToTrash(*approved, host.home);
+    return moveToTrash(*approved, host);
 }
 
 }  // namespace
@@ -62,10 +62,12 @@ UninstallResult uninstall(const UninstallPlan& plan, const Host& host) {
     }
     const UninstallGuard guard(host);
     for (const auto& item : workList(plan)) {
-        if (moveItem(item, guard, host) == Trashing::failed) {
+        auto trashing = moveItem(item, guard, host);
+        if (!trashing.moved) {
             result.failed.push_back(nameOf(item.path));
             continue;
         }
+        result.moved.push_back(*std::move(trashing.moved));
         ++result.movedCount;
         result.freedBytes = addSaturating(result.freedBytes, item.sizeBytes);
         if (item.kind == ItemKind::bundle) result.appBundleMoved = true;

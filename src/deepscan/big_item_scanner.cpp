@@ -119,14 +119,19 @@ std::vector<BigItem> BigItemScanner::scan(const Progress& progress) const {
     return items;
 }
 
-bool BigItemScanner::moveToTrashIfApproved(const BigItem& item) const {
-    const auto approved = guard_.approve(item);
-    return approved && moveToTrash(*approved, host_.home) == Trashing::moved;
-}
-
 BigItemScanner::TrashOutcome BigItemScanner::trash(const BigItem& item) const {
-    const bool moved = moveToTrashIfApproved(item);
-    return {.name = item.name, .freedBytes = moved ? item.sizeBytes : 0, .success = moved};
+    TrashOutcome outcome{.name = item.name, .moved = {}, .reason = {}};
+    const auto approved = guard_.approve(item);
+    if (!approved) {
+        outcome.reason = "It is nothing that may go to the Trash as a whole.";
+        return outcome;
+    }
+    auto trashing = moveToTrash(*approved, host_);
+    outcome.success = trashing.moved.has_value();
+    if (outcome.success) outcome.freedBytes = item.sizeBytes;
+    outcome.moved = std::move(trashing.moved);
+    outcome.reason = std::move(trashing.problem);
+    return outcome;
 }
 
 }  // namespace tidewell

@@ -38,6 +38,8 @@ class BigItemScanner {
         std::string name;  ///< the item's
         ByteCount freedBytes = 0;
         bool success = false;
+        std::optional<TrashedItem> moved = {};  ///< what it is in the Trash, if it was moved
+        std::string reason = {};  ///< why it stayed, a sentence; empty if it was moved
     };
 
     /// Gets the share of the candidates that are measured, from above 0 to exactly 1.
@@ -51,15 +53,14 @@ class BigItemScanner {
     /// caller's thread after each measure.
     std::vector<BigItem> scan(const Progress& progress = {}) const;
 
-    /// Refuses what the guard refuses; a refusal and a failure look the same. Nothing is measured
-    /// again: a moved item frees its size as it was found.
+    /// Refuses what the guard refuses. Nothing is measured again: a moved item frees its size as it
+    /// was found.
     TrashOutcome trash(const BigItem& item) const;
 
  private:
     std::vector<std::string> roots() const;
     std::vector<std::string> candidates() const;
     BigItem describe(const std::string& path, ByteCount size) const;
-    bool moveToTrashIfApproved(const BigItem& item) const;
 
     Host host_;
     DiskScanner disk_;

@@ -6,6 +6,9 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/host.h"
+#include "platform/trash.h"
+
 namespace tidewell {
 
 // The one door to deletion: whatever this program removes or moves to the Trash goes through here,
@@ -71,13 +74,30 @@ using ChildGuard = std::function<std::optional<DeletablePath>(std::string_view n
 /// which loses nothing.
 Removal emptyFolder(const DeletablePath& folder, const ChildGuard& guard);
 
-enum class Trashing { moved, failed };
+/// What became of something on its way to the Trash.
+struct Trashing {
+    std::optional<TrashedItem> moved;  ///< what it is there; absent if it stayed where it was
+    std::string problem;               ///< then why, a sentence
+};
 
-/// Moves an item to the Trash of the user whose home folder is given, or to the one of the item's
-/// own volume, with a single rename that never overwrites: a name that is taken gets " 2", " 3",
-/// ... before its extension. The path where it came from is kept in the attribute
-/// "user.tidewell.origin" of the moved entry. Nothing is ever copied and then deleted. Fails if the
-/// Trash is a link or belongs to somebody else.
-Trashing moveToTrash(const TrashablePath& item, const std::string& home);
+/// Moves an item to the user's Trash, or to the one of the item's own volume, with a single rename
+/// that never overwrites: a name that is taken gets " 2", " 3", ... before its extension, and is
+/// shortened where it would be too long. The real path from where it came is kept in the Trash.
+/// Nothing is ever copied and then deleted, and folders that were made on the way go again if it
+/// fails. Refused are a home folder and a Trash that belong to somebody else, a Trash that is a
+/// link, one that others may reach into, and an item whose folder was moved meanwhile.
+Trashing moveToTrash(const TrashablePath& item, const Host& host);
+
+/// What became of something on its way back.
+struct PuttingBack {
+    std::optional<std::string> place;  ///< where it lies again; absent if it stayed in the Trash
+    std::string problem;               ///< then why, a sentence
+};
+
+/// Moves what lies in the Trash to where it came from, with a rename that never overwrites; parents
+/// that are missing are made. Refused are a place outside the home folder and the volume of the
+/// Trash, one that lies behind a link, one where anything stands, be it a link that leads nowhere,
+/// and an item that is not the one which the Trash held when it was listed.
+PuttingBack putBack(const TrashedItem& item, const Host& host);
 
 }  // namespace tidewell

@@ -1,7 +1,7 @@
 #include "platform/removal.h"
 
 void trashApproved(const tidewell::TrashablePath& path) {
-    tidewell::moveToTrash(path, "/home");
+    (void)tidewell::moveToTrash(path, tidewell::Host());
 }
 
 #ifdef WRONG

@@ -15,7 +15,7 @@ sub refusedHeader {
     }
     return 0 if $file =~ m{^src/platform/linux/};
     return $header =~ m{^linux/|^sys/(?:syscall|xattr|vfs|statfs|sysinfo|pidfd|inotify)\.h$|^mntent\.h$}
-        if $file =~ m{^src/platform/posix/};
+        if $file =~ m{^src/platform/(?:posix|trash)/};
     return 0 if $file =~ m{^src/platform/(?:\w+\.cpp$|\w+/)} && $header =~ m{^(?:unicode/|nlohmann/|expat\.h$)};
     return 0 if $file =~ m{^src/cli/} && $header =~ m{^CLI/};
     return $header =~ m{[./]} || $header =~ /^(?:filesystem|fstream)$/;

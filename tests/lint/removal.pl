@@ -9,12 +9,14 @@ use CppText;
 
 my %doors = (
     removing => [
-        qr{^src/platform/linux/removal\w*\.cpp$},
+        qr{^src/platform/linux/(?:removal\w*|exclusive_move)\.cpp$},
+        qr{^src/platform/trash/\w+\.cpp$},
         qr{^src/platform/\w+/user_defaults\.cpp$},
         qr{^src/platform/\w+/single_instance\.cpp$},  # a socket that an earlier start left behind
     ],
     writing => [
-        qr{^src/platform/linux/removal\w*\.cpp$},
+        qr{^src/platform/linux/(?:removal\w*|exclusive_move)\.cpp$},
+        qr{^src/platform/trash/\w+\.cpp$},
         qr{^src/platform/\w+/user_defaults\.cpp$},
         qr{^src/platform/\w+/process\.cpp$},  # a tool's output to the null device
         qr{^src/platform/\w+/single_instance\.cpp$},

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
-#include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -10,7 +9,11 @@
 #include "deepscan/big_item_trash_guard.h"
 #include "platform/files.h"
 #include "platform/removal.h"
+#include "platform/trash/exclusive_move.h"
+#include "platform/trash/trash_name.h"
+#include "support/refused_call.h"
 #include "support/sample_machine.h"
+#include "support/separate_process.h"
 
 namespace tidewell {
 namespace {
@@ -27,7 +30,19 @@ TrashablePath approved(const SampleMachine& machine, std::string_view path) {
 }
 
 Trashing trashAt(const SampleMachine& machine, std::string_view path) {
-    return moveToTrash(approved(machine, path), machine.home());
+    return moveToTrash(approved(machine, path), machine.host());
+}
+
+bool moves(const SampleMachine& machine, std::string_view path) {
+    return trashAt(machine, path).moved.has_value();
+}
+
+/// Everything but the reason stays as it was: the item, and no new folder of any Trash.
+void expectStays(const SampleMachine& machine, std::string_view path, std::string_view why) {
+    const auto trashing = trashAt(machine, path);
+    EXPECT_FALSE(trashing.moved);
+    EXPECT_EQ(trashing.problem, why);
+    EXPECT_TRUE(machine.has(path)) << path;
 }
 
 TEST(Trash, TakesAnItemAndKeepsWhereItCameFrom) {
@@ -36,10 +51,10 @@ TEST(Trash, TakesAnItemAndKeepsWhereItCameFrom) {
     machine.text("~/Movies/" + name, "content");
     machine.text("~/Movies/folder/file", "x");
     machine.link("~/Movies/link", machine.path("~/Movies/folder"));
-    EXPECT_EQ(trashAt(machine, "~/Movies/" + name), Trashing::moved);
-    EXPECT_EQ(trashAt(machine, "~/Movies/link"), Trashing::moved);
-    EXPECT_EQ(trashAt(machine, "~/Movies/folder"), Trashing::moved);
-    EXPECT_EQ(trashAt(machine, "~/Movies/missing"), Trashing::failed);
+    EXPECT_TRUE(moves(machine, "~/Movies/" + name));
+    EXPECT_TRUE(moves(machine, "~/Movies/link"));
+    EXPECT_TRUE(moves(machine, "~/Movies/folder"));
+    EXPECT_FALSE(moves(machine, "~/Movies/missing"));
     EXPECT_TRUE(fs::is_empty(machine.path("~/Movies")));
     EXPECT_EQ(machine.contentOf("~/.Trash/" + name), "content");
     EXPECT_TRUE(fs::is_symlink(machine.path("~/.Trash/link")));
@@ -56,6 +71,7 @@ TEST(Trash, TakesAnItemAndKeepsWhereItCameFrom) {
 
 TEST(Trash, NeverOverwritesWhatItHolds) {
     const SampleMachine machine;
+    const std::string longest = std::string(249, 'a') + "\xc3\xa4.mov";  // 255 bytes
     struct Row {
         std::string name, second, third;
     };
@@ -64,10 +80,11 @@ TEST(Trash, NeverOverwritesWhatItHolds) {
              Row{"a.tar.gz", "a.tar 2.gz", "a.tar 3.gz"},
              Row{".hidden", ".hidden 2", ".hidden 3"},
              Row{"plain", "plain 2", "plain 3"},
+             Row{longest, std::string(249, 'a') + " 2.mov", std::string(249, 'a') + " 3.mov"},
          }) {
         for (const auto* content : {"1", "2", "3"}) {
             machine.text("~/Movies/" + name, content);
-            EXPECT_EQ(trashAt(machine, "~/Movies/" + name), Trashing::moved);
+            EXPECT_TRUE(moves(machine, "~/Movies/" + name));
         }
         EXPECT_EQ(machine.contentOf("~/.Trash/" + name), "1");
         EXPECT_EQ(machine.contentOf("~/.Trash/" + second), "2");
@@ -75,21 +92,32 @@ TEST(Trash, NeverOverwritesWhatItHolds) {
     }
 }
 
+TEST(Trash, ShortensNamesAtACharacterAndBytesThatAreNoneAnywhere) {
+    using trash::trashName;
+    EXPECT_EQ(trashName("\xf0\x9f\x8c\x8a\xf0\x9f\x8c\x8a", 2, 9), "\xf0\x9f\x8c\x8a 2");
+    EXPECT_EQ(trashName(std::string(20, '\x80'), 2, 10), std::string(8, '\x80') + " 2");
+    EXPECT_EQ(trashName("a." + std::string(20, 'x'), 12, 10), "a.xxxxx 12");
+    EXPECT_EQ(trashName("abcdef.mov", 1, 10), "abcdef.mov");
+}
+
 TEST(Trash, RefusesOneThatIsALinkOrNotTheUsers) {
     const SampleMachine linked;
     linked.text("~/Movies/film", "x");
     linked.folder("~/Public");
     linked.link("~/.Trash", linked.path("~/Public"));
-    EXPECT_EQ(trashAt(linked, "~/Movies/film"), Trashing::failed);
-    EXPECT_TRUE(linked.has("~/Movies/film") && fs::is_empty(linked.path("~/Public")));
+    expectStays(linked, "~/Movies/film", "The Trash is a link or no folder.");
+    EXPECT_TRUE(fs::is_empty(linked.path("~/Public")));
 
     const SampleMachine foreign;
     foreign.text("~/Movies/film", "x");
     foreign.folder("~/.Trash");
     if (::chown(foreign.path("~/.Trash").c_str(), nobody, nobody) != 0)
         GTEST_SKIP() << "may not give a folder away";
-    EXPECT_EQ(trashAt(foreign, "~/Movies/film"), Trashing::failed);
-    EXPECT_TRUE(foreign.has("~/Movies/film"));
+    expectStays(foreign, "~/Movies/film", "The Trash belongs to somebody else.");
+    foreign.remove("~/.Trash");
+    ASSERT_EQ(::chown(foreign.home().c_str(), nobody, nobody), 0);
+    expectStays(foreign, "~/Movies/film", "The home folder belongs to somebody else.");
+    EXPECT_FALSE(foreign.has("~/.Trash"));
 }
 
 TEST(Trash, IsNotLedAwayByALinkInPlaceOfAParent) {
@@ -99,42 +127,85 @@ TEST(Trash, IsNotLedAwayByALinkInPlaceOfAParent) {
     const auto item = approved(machine, "~/Movies/reel/film");
     fs::rename(machine.path("~/Movies/reel"), machine.path("~/Movies/moved"));
     machine.link("~/Movies/reel", machine.path("~/Documents"));
-    EXPECT_EQ(moveToTrash(item, machine.home()), Trashing::failed);
+    EXPECT_FALSE(moveToTrash(item, machine.host()).moved);
     EXPECT_TRUE(machine.has("~/Documents/film") && machine.has("~/Movies/moved/film"));
 }
 
-/// The exit code: 0 if all held, 2 if this process may not mount.
-int trashOnAnotherVolume() {
+TEST(Trash, LeavesWhatWasMovedAwayWithItsFolderAtTheLastMoment) {
     const SampleMachine machine;
-    machine.folder("~/Movies/disk");
-    machine.folder("~/Public");
-    const auto disk = machine.path("~/Movies/disk");
-    if (::unshare(CLONE_NEWNS) != 0 ||
-        ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        ::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=1m") != 0)
-        return 2;
-    const auto own = "~/Movies/disk/.Trashes/" + std::to_string(::geteuid());
-    machine.text("~/Movies/disk/reel/film", "x");
-    bool isWell = trashAt(machine, "~/Movies/disk/reel/film") == Trashing::moved &&
-                  machine.has(own + "/film") && fs::is_empty(machine.path("~/.Trash"));
-    fs::rename(machine.path(own), machine.path(own) + ".old");
-    machine.link(own, machine.path("~/Movies/disk/reel"));
-    machine.text("~/Movies/disk/other", "x");
-    isWell = isWell && trashAt(machine, "~/Movies/disk/other") == Trashing::failed &&
-             machine.has("~/Movies/disk/other") &&
-             trashAt(machine, "~/Movies/disk") == Trashing::failed;
-    ::umount2(disk.c_str(), MNT_DETACH);
-    return isWell ? 0 : 1;
+    machine.text("~/Movies/reel/film", "mine");
+    machine.folder("~/.Trash");
+    const auto folder = machine.path("~/Movies/reel");
+    const trash::SeenPlace seen{.place = link_free::openPlaceOf(folder + "/film"),
+                                .folderPath = folder};
+    const auto to = link_free::openPlace(machine.path("~/.Trash"));
+    fs::rename(folder, machine.path("~/Documents"));
+    EXPECT_EQ(trash::moveWithoutOverwriting(seen, to.get(), "film"), ESTALE);
+    EXPECT_TRUE(machine.has("~/Documents/film"));
 }
 
+TEST(Trash, SaysWhereAFileSystemCannotMoveWithoutOverwriting) {
+    test::expectInSeparateProcess([] {
+        const SampleMachine machine;
+        machine.text("~/Movies/film", "x");
+        if (!test::refuseCall(SYS_renameat2, EINVAL)) GTEST_SKIP() << "may not filter calls";
+        expectStays(machine, "~/Movies/film",
+                    "The disk's file system cannot move it without overwriting.");
+        EXPECT_FALSE(machine.has("~/.Trash"));
+    });
+}
+
+/// A disk of its own below the home folder, in which a film lies.
+struct OtherDisk {
+    SampleMachine machine;
+    std::string own = "~/Movies/disk/.Trashes/" + std::to_string(::geteuid());
+
+    bool mount() const {
+        machine.folder("~/Movies/disk");
+        const auto disk = machine.path("~/Movies/disk");
+        if (!test::enterOwnMountSpace() ||
+            ::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=1m") != 0)
+            return false;
+        machine.text("~/Movies/disk/reel/film", "x");
+        return true;
+    }
+};
+
 TEST(Trash, OfAnotherVolumeIsAtItsTop) {
-    const auto child = ::fork();
-    if (child == 0) ::_exit(trashOnAnotherVolume());
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFEXITED(status));
-    if (WEXITSTATUS(status) == 2) GTEST_SKIP() << "may not mount";
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    test::expectInSeparateProcess([] {
+        const OtherDisk disk;
+        const auto& machine = disk.machine;
+        if (!disk.mount()) GTEST_SKIP() << "may not mount";
+        expectStays(machine, "~/Movies/disk", "Another disk begins there.");
+        EXPECT_FALSE(machine.has("~/Movies/.Trashes"));
+        const auto moved = trashAt(machine, "~/Movies/disk/reel/film").moved;
+        ASSERT_TRUE(moved);
+        EXPECT_EQ(moved->path, machine.path(disk.own + "/film"));
+        EXPECT_TRUE(machine.has(disk.own + "/film"));
+        EXPECT_FALSE(machine.has("~/.Trash"));
+        machine.remove(disk.own);
+        machine.link(disk.own, machine.path("~/Movies/disk/reel"));
+        machine.text("~/Movies/disk/other", "x");
+        expectStays(machine, "~/Movies/disk/other", "The Trash is a link or no folder.");
+    });
+}
+
+TEST(Trash, OfAnotherVolumeIsUsedOnlyWhereNobodyElseCanReachIn) {
+    test::expectInSeparateProcess([] {
+        const OtherDisk disk;
+        const auto& machine = disk.machine;
+        if (!disk.mount()) GTEST_SKIP() << "may not mount";
+        machine.folder("~/Movies/disk/.Trashes");
+        const auto shared = machine.path("~/Movies/disk/.Trashes");
+        ASSERT_EQ(::chmod(shared.c_str(), 0777), 0);
+        expectStays(machine, "~/Movies/disk/reel/film",
+                    "In the Trash of its disk everybody could touch what is yours.");
+        ASSERT_EQ(::chmod(shared.c_str(), 01777), 0);
+        if (::chown(shared.c_str(), nobody, nobody) != 0) return;
+        expectStays(machine, "~/Movies/disk/reel/film",
+                    "The Trash of its disk belongs to somebody else.");
+        EXPECT_TRUE(fs::is_empty(shared));
+    });
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ Descriptor openPlaceStepwise(const std::string& absolutePath) {
     Descriptor place(::open("/", placeFlags));
     for (const auto piece : pathPieces(absolutePath)) {
         if (!place) break;
-        place = Descriptor(::openat(place.get(), std::string(piece).c_str(), placeFlags));
+        place = openPlaceIn(place.get(), std::string(piece));
     }
     return place;
 }
@@ -62,6 +62,10 @@ Descriptor openPlace(const std::string& absolutePath) {
     auto place = openConfined(AT_FDCWD, absolutePath.c_str(), placeFlags, RESOLVE_NO_SYMLINKS);
     if (place || (!lacksConfinedOpen() && errno != ENAMETOOLONG)) return place;
     return openPlaceStepwise(absolutePath);
+}
+
+Descriptor openPlaceIn(int parent, const std::string& name) {
+    return Descriptor(::openat(parent, name.c_str(), placeFlags));
 }
 
 Place openPlaceOf(const std::string& absolutePath) {

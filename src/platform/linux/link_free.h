@@ -14,6 +14,9 @@ namespace tidewell::link_free {
 /// on the way are entered.
 posix::Descriptor openPlace(const std::string& absolutePath);
 
+/// The folder of this name directly in `parent`, as such a place.
+posix::Descriptor openPlaceIn(int parent, const std::string& name);
+
 /// An entry, by the open folder that holds it.
 struct Place {
     posix::Descriptor folder;

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/byte_count.h"
+#include "platform/files.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// Which entry it is, whatever name it has.
+struct EntryIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+
+    friend bool operator==(const EntryIdentity&, const EntryIdentity&) = default;
+};
+
+/// Something that lies in a Trash, whoever put it there.
+struct TrashedItem {
+    std::string folder;                 ///< the Trash's
+    std::string name;                   ///< in the Trash; often another one than it had
+    std::string path;                   ///< where it lies now
+    std::optional<std::string> origin;  ///< where it came from; absent if the Trash does not say
+    std::optional<Date> deletedAt;
+    bool isFolder = false;
+    EntryIdentity identity;
+
+    bool operator==(const TrashedItem&) const = default;
+};
+
+/// What lies in the Trashes of the user: the one of his home folder, then those of the mounted
+/// volumes, each in ascending byte order of the names. Changes nothing. What is missing,
+/// unreadable, a link or somebody else's counts as empty. Blocks; any thread.
+std::vector<TrashedItem> trashedItems(const Host& host);
+
+}  // namespace tidewell

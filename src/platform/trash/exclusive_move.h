@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "platform/linux/link_free.h"
+
+namespace tidewell::trash {
+
+/// An entry by the open folder that holds it, and the path at which that folder was when it was
+/// decided that the entry may be moved.
+struct SeenPlace {
+    link_free::Place place;
+    std::string folderPath;
+};
+
+/// Moves an entry to a place on the same volume where nothing may stand. Never overwrites, also not
+/// what appears there at that very moment. 0, or the error: EEXIST if something stands there,
+/// EINVAL if the file system cannot promise it, ESTALE if the entry's folder lies elsewhere by now.
+int moveWithoutOverwriting(const SeenPlace& from, int folder, const std::string& name);
+
+// Where an entry came from, kept with it; as well as the file system allows. Links keep nothing.
+inline constexpr auto originAttribute = "user.tidewell.origin";
+void noteOrigin(int folder, const std::string& name, const std::string& origin);
+void forgetOrigin(int folder, const std::string& name);
+
+/// A path by which what lies below an open folder can be asked about.
+std::string pathThrough(int folder, const std::string& name);
+
+}  // namespace tidewell::trash
