@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/byte_count.h"
+#include "platform/disk_usage.h"
 
 namespace tidewell {
 
@@ -50,6 +50,7 @@ struct CleanupTarget {
 struct CleanupItem {
     CleanupTarget target;
     std::vector<std::string> resolvedPaths;  ///< what cleaning works on; never empty after a scan
+    std::vector<DiskUsage> measures = {};    ///< of each of them, as the scan saw it
     ByteCount sizeBytes = 0;                 ///< their sizes together; at least 1 after a scan
     bool isSelected = false;                 ///< the user's tick
 };

@@ -24,12 +24,15 @@ constexpr std::array<std::string_view, 6> sweepAlwaysExcluded = {
 /// A target's measure while it grows: the paths that hold something, and their sizes together.
 struct Found {
     std::vector<std::string> paths;
+    std::vector<DiskUsage> measures;
     ByteCount size = 0;
 
-    void add(std::string path, ByteCount pathSize) {
-        if (pathSize < 1) return;
+    void add(std::string path) {
+        auto usage = diskUsage(path);
+        if (usage.bytes < 1) return;
+        size = addSaturating(size, usage.bytes);
         paths.push_back(std::move(path));
-        size = addSaturating(size, pathSize);
+        measures.push_back(std::move(usage));
     }
 };
 
@@ -39,6 +42,17 @@ std::string standardForm(std::string_view path, const Host& host) {
 
 bool isNeverSwept(std::string_view name) {
     return std::ranges::find(sweepAlwaysExcluded, name) != sweepAlwaysExcluded.end();
+}
+
+/// Of an item that no scan has made, any path may hold all of it.
+DiskUsage measureAtScan(const CleanupItem& item, std::size_t path) {
+    if (path < item.measures.size()) return item.measures[path];
+    return {.bytes = item.sizeBytes, .unread = {}};
+}
+
+/// What could not be read at the scan either is in no figure.
+ByteCount mayBeLeft(const DiskUsage& now, const DiskUsage& atScan) {
+    return now.unread.areAmong(atScan.unread) ? now.bytes : std::max(now.bytes, atScan.bytes);
 }
 
 }  // namespace
@@ -52,19 +66,17 @@ std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target) con
         if (!fileExists(path)) continue;
         switch (target.kind) {
             case TargetKind::plain:
-                found.add(path, measurePath(path));
+                found.add(path);
                 break;
             case TargetKind::sweep:
-                for (auto& child : sweptChildren(path)) {
-                    const auto size = measurePath(child);
-                    found.add(std::move(child), size);
-                }
+                for (auto& child : sweptChildren(path)) found.add(std::move(child));
                 break;
         }
     }
     if (found.paths.empty()) return std::nullopt;
     return CleanupItem{.target = target,
                        .resolvedPaths = std::move(found.paths),
+                       .measures = std::move(found.measures),
                        .sizeBytes = found.size,
                        .isSelected = target.safety == SafetyLevel::safe};
 }
@@ -98,7 +110,11 @@ DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
     ByteCount left = 0;
     for (const auto& path : item.resolvedPaths)
         if (cleanPath(path) == Removal::incomplete) outcome = Removal::incomplete;
-    for (const auto& path : item.resolvedPaths) left = addSaturating(left, measurePath(path));
+    for (std::size_t i = 0; i < item.resolvedPaths.size(); ++i) {
+        const auto now = diskUsage(item.resolvedPaths[i]);
+        left = addSaturating(left, mayBeLeft(now, measureAtScan(item, i)));
+        if (!now.unread.isEmpty()) outcome = Removal::incomplete;
+    }
     CleanResult result{.freedBytes = std::max<ByteCount>(item.sizeBytes - left, 0),
                        .failedTitle = std::nullopt};
     if (outcome == Removal::incomplete) result.failedTitle = item.target.title;
@@ -109,6 +125,7 @@ Removal DiskScanner::cleanPath(const std::string& path) const {
     if (!guard_.isDeletable(path)) return Removal::incomplete;
     const auto kind = fileKind(path);
     if (kind == FileKind::missing) return Removal::complete;
+    if (kind == FileKind::untold) return Removal::incomplete;
     const auto approved = guard_.approve(path);
     if (!approved) return Removal::incomplete;
     if (kind == FileKind::other) return removeItem(*approved);

@@ -29,7 +29,8 @@ class DiskScanner {
     std::optional<CleanupItem> measure(const CleanupTarget& target) const;
 
     /// Empties the folders and removes the files at the item's resolved paths, for good. Folders at
-    /// a resolved path stay, empty.
+    /// a resolved path stay, empty. A path of which something could be read at the scan and cannot
+    /// be read now counts as wholly there; whatever cannot be read counts as a failure.
     CleanResult clean(const CleanupItem& item) const;
 
     /// Bytes allocated on disk; 0 for anything missing or unreadable. See platform/disk_usage.h.

@@ -3,17 +3,28 @@
 #include <string>
 
 #include "platform/byte_count.h"
+#include "platform/unread_things.h"
 
 namespace tidewell {
+
+struct DiskUsage {
+    ByteCount bytes = 0;
+    UnreadThings unread;
+};
 
 /// The bytes allocated on disk for a file, or for all regular files below a folder.
 ///
 /// Links add nothing, and a path that is a link itself gives 0, so that a measure never leaves its
 /// tree through a link. Folders themselves add nothing; a file with several hard links counts each
 /// time it is met; mounts are crossed, but a folder that is its own ancestor is not entered again.
-/// What is missing, unreadable or vanishes adds nothing. Neither depth nor width costs memory or
-/// descriptors without bound. Blocks the caller until the end; any thread; callers at once share
-/// one pool of threads, so that they get on with each other instead of crowding the machine.
-ByteCount allocatedSize(const std::string& path);
+/// What is missing or vanishes adds nothing; what stands there and cannot be read neither, but it
+/// is remembered. Neither depth nor width costs memory or descriptors without bound. Blocks the
+/// caller until the end; any thread; callers at once share one pool of threads, so that they get on
+/// with each other instead of crowding the machine.
+DiskUsage diskUsage(const std::string& path);
+
+inline ByteCount allocatedSize(const std::string& path) {
+    return diskUsage(path).bytes;
+}
 
 }  // namespace tidewell

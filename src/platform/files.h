@@ -14,14 +14,17 @@ namespace tidewell {
 
 using Date = std::chrono::sys_time<std::chrono::nanoseconds>;
 
-/// What stands at a path, its link followed. A dangling link is missing.
-enum class FileKind { missing, folder, other };
+/// What stands at a path, its link followed. A dangling link is missing; `untold` is what the
+/// system does not tell of, such as the inside of a folder that may not be searched, and may well
+/// be there.
+enum class FileKind { missing, untold, folder, other };
 
 FileKind fileKind(const std::string& path);
+/// False for what is untold too: for callers that only look.
 bool fileExists(const std::string& path);
 
 /// The names directly inside a folder, in ascending byte order, without "." and "..". Absent if
-/// the folder is missing, unreadable, no folder or a link.
+/// the folder is missing, cannot be read to its end, is no folder or a link.
 std::optional<std::vector<std::string>> folderNames(const std::string& path);
 
 /// When the entry itself (not what a link points to) was last changed; absent if it cannot be read.

@@ -1,12 +1,15 @@
 #include "cleanup/disk_scanner.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "cleanup/target_catalogue.h"
 #include "platform/path_text.h"
 #include "support/sample_machine.h"
+#include "support/separate_process.h"
 
 namespace tidewell {
 
@@ -125,6 +128,52 @@ TEST(DiskScanner, CountsAsFreedWhatASecondMeasureShowsToBeGone) {
     EXPECT_EQ(scanner.clean(itemOf({refused}, 4096)).freedBytes, 0);  // grew meanwhile
     EXPECT_EQ(scanner.clean(itemOf({machine.path("~/.gone")}, 10)).freedBytes, 10);
     EXPECT_EQ(scanner.clean(itemOf({}, 10)).freedBytes, 10);
+}
+
+/// What cannot be seen any more may well be there.
+TEST(DiskScanner, CountsNothingAsFreedThatItCannotRead) {
+    struct Case {
+        const char* what;
+        std::function<void(const SampleMachine&)> between;  ///< the scan and the clean
+        ByteCount freed;
+        const char* path = "~/.npm";
+    };
+    const auto close = [](const char* folder, mode_t mode) {
+        return [=](const SampleMachine& machine) {
+            ASSERT_EQ(::chmod(machine.path(folder).c_str(), mode), 0);
+        };
+    };
+    const Case cases[] = {
+        {"a parent that may not be searched", close("~/.m2", 0), 0, "~/.m2/repository"},
+        {"the folder itself", close("~/.npm", 0), 0},
+        {"a folder in it", close("~/.npm/in", 0), 0},
+        {"a folder in it that tells its names alone", close("~/.npm/in", 0400), 0},
+        {"a folder that could not be read at the scan either", close("~/.npm/never", 0), 12288},
+        {"a way in circles",
+         [](const SampleMachine& machine) {
+             machine.remove("~/.m2");
+             machine.link("~/.m2", machine.path("~/.m2"));
+         },
+         0, "~/.m2/repository"},
+        {"no descriptor to be had", [](const SampleMachine&) { test::limitDescriptors(3); }, 0},
+    };
+    for (const auto& one : cases)
+        test::expectInSeparateProcess([&one] {
+            test::becomeOrdinaryUser();
+            const SampleMachine machine;
+            for (const auto* file :
+                 {"~/.npm/in/a", "~/.npm/b", "~/.npm/c", "~/.npm/never/seen", "~/.m2/repository/a"})
+                machine.file(file);
+            ASSERT_EQ(::chmod(machine.path("~/.npm/never").c_str(), 0), 0);
+            const DiskScanner scanner(machine.host());
+            const auto item = scanner.measure(targetAt({machine.path(one.path)}));
+            ASSERT_TRUE(item);
+            one.between(machine);
+            const auto result = scanner.clean(*item);
+            test::limitDescriptors(1024);  // which the removal of the machine needs
+            EXPECT_EQ(result.freedBytes, one.freed) << one.what;
+            EXPECT_EQ(result.failedTitle, "Test") << one.what;
+        });
 }
 
 TEST(DiskScanner, RefusesWhatTheGuardRefusesAndGoesOn) {

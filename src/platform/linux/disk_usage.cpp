@@ -1,6 +1,7 @@
 #include "platform/disk_usage.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <thread>
 
 #include "platform/linux/descriptor_limit.h"
@@ -24,11 +25,18 @@ int poolWidth() {
 
 }  // namespace
 
-ByteCount allocatedSize(const std::string& path) {
+DiskUsage diskUsage(const std::string& path) {
     static auto& pool = MeasuringPool::make(poolWidth());
     auto folder = posix::openFolder(path);
     if (folder) return pool.measure(std::move(folder));
-    return linux_system::sizeOfRegularFile(AT_FDCWD, path.c_str());
+    DiskUsage usage;
+    const bool isNoFolder = linux_system::isGone();
+    const auto size = linux_system::sizeOfRegularFile(AT_FDCWD, path.c_str());
+    usage.bytes = size.value_or(0);
+    const bool isMissing = !size && (errno == ENOENT || errno == ENOTDIR);
+    const bool isMeasured = size && isNoFolder;
+    if (!isMissing && !isMeasured) usage.unread.add(0, path);
+    return usage;
 }
 
 }  // namespace tidewell

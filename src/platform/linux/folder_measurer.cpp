@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 namespace tidewell::linux_system {
@@ -31,12 +32,17 @@ bool canBeLetGo(const FolderWork& work) {
 
 }  // namespace
 
-ByteCount sizeOfRegularFile(int folder, const char* name) {
+std::optional<ByteCount> sizeOfRegularFile(int folder, const char* name) {
     struct stat status;
-    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 ? allocatedBytes(status) : 0;
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return std::nullopt;
+    return allocatedBytes(status);
 }
 
-ByteCount FolderMeasurer::run(FolderWork first) {
+bool isGone() {
+    return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
+}
+
+DiskUsage FolderMeasurer::run(FolderWork first) {
     works_.push_back(std::move(first));
     for (; !works_.empty(); ++steps_) {
         const int appetite = pool_.appetite();
@@ -56,7 +62,7 @@ ByteCount FolderMeasurer::run(FolderWork first) {
             read(work);
         }
     }
-    return total_;
+    return std::move(found_);
 }
 
 /// Leaves half of the first folder's sub-folders to others, or all that is left of it.
@@ -82,17 +88,37 @@ void FolderMeasurer::stepBack() {
     works_.clear();
 }
 
-bool FolderMeasurer::isOpen(FolderWork& work) const {
+bool FolderMeasurer::isOpen(FolderWork& work) {
     if (work.descriptor) return true;
     auto again = work.place.open(measure_.start->get());
-    if (!again) return false;
+    if (!again) {
+        found_.unread.addUnknown();
+        return false;
+    }
     work.descriptor = std::make_shared<const posix::Descriptor>(std::move(again));
     return true;
 }
 
+/// What vanishes was not missed.
+void FolderMeasurer::missed(int folder, std::string_view name) {
+    if (isGone()) return;
+    const auto identity = posix::identityOf(folder);
+    if (!identity) return found_.unread.addUnknown();
+    found_.unread.add(identity->device ^ identity->inode, name);
+}
+
+void FolderMeasurer::measureFile(int folder, const char* name) {
+    // A folder that may not be searched hides all of its files alike.
+    constexpr auto allFiles = "";
+    if (const auto size = sizeOfRegularFile(folder, name)) {
+        found_.bytes += *size;
+    } else {
+        missed(folder, errno == EACCES ? allFiles : name);
+    }
+}
+
 void FolderMeasurer::measureFilesOf(FolderWork& work) {
-    work.files.forEach(
-        [&](const char* name) { total_ += sizeOfRegularFile(work.descriptor->get(), name); });
+    work.files.forEach([&](const char* name) { measureFile(work.descriptor->get(), name); });
     work.files = {};
 }
 
@@ -107,13 +133,15 @@ void FolderMeasurer::enterSubfolder() {
     letGoOfFoldersAbove();
 }
 
-std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent,
-                                                  std::string name) const {
-    posix::Descriptor folder(
-        ::openat(parent.descriptor->get(), name.c_str(), posix::openFolderFlags));
-    if (!folder) return std::nullopt;
-    const auto identity = mountedFolder(folder.get());
-    if (!identity || parent.place.isLoop(*identity)) return std::nullopt;
+std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent, std::string name) {
+    const int place = parent.descriptor->get();
+    posix::Descriptor folder(::openat(place, name.c_str(), posix::openFolderFlags));
+    const auto identity = folder ? mountedFolder(folder.get()) : std::nullopt;
+    if (!identity) {
+        missed(place, name);
+        return std::nullopt;
+    }
+    if (parent.place.isLoop(*identity)) return std::nullopt;
     return FolderWork{
         .place = parent.place.below(std::move(name), *identity),
         .descriptor = std::make_shared<const posix::Descriptor>(std::move(folder)),
@@ -136,7 +164,9 @@ void FolderMeasurer::letGoOfFoldersAbove() {
 void FolderMeasurer::read(FolderWork& work) {
     const bool mayHaveToBeLetGo = works_.size() > pool_.foldersHeldByThread();
     while (mayHaveToBeLetGo || work.subfolders.sizeInMemory() < subfolderNamesAtOnce) {
-        work.isUnread = reader_.readPortion(work.descriptor->get());
+        const auto reading = reader_.readPortion(work.descriptor->get());
+        if (reading == FolderReader::Reading::failed) found_.unread.addUnknown();
+        work.isUnread = reading == FolderReader::Reading::portion;
         if (!work.isUnread) return;
         sortPortion(work);
         measurePortion(work);
@@ -159,9 +189,10 @@ void FolderMeasurer::sortPortion(FolderWork& work) {
 /// Some file systems do not tell in a folder what its entries are.
 void FolderMeasurer::addUntold(FolderWork& work, const char* name) {
     struct stat status;
-    if (::fstatat(work.descriptor->get(), name, &status, AT_SYMLINK_NOFOLLOW) != 0) return;
+    if (::fstatat(work.descriptor->get(), name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return missed(work.descriptor->get(), name);
     if (S_ISDIR(status.st_mode)) work.subfolders.add(name);
-    total_ += allocatedBytes(status);
+    found_.bytes += allocatedBytes(status);
 }
 
 void FolderMeasurer::measurePortion(const FolderWork& work) {
@@ -169,7 +200,7 @@ void FolderMeasurer::measurePortion(const FolderWork& work) {
     for (std::size_t next = 0; next < portion_.size(); ++next) {
         if (next % filesBetweenLooks == filesBetweenLooks - 1 && pool_.appetite() > 0)
             shareRestOfPortion(work, next);
-        total_ += sizeOfRegularFile(folder, portion_[next]);
+        measureFile(folder, portion_[next]);
     }
 }
 

@@ -12,9 +12,11 @@ namespace tidewell::linux_system {
 /// library costs an allocation and two more calls a folder.
 class FolderReader {
  public:
-    /// Reads on where the descriptor stands. False at the end, and when the folder cannot be read.
-    /// A portion may be of any size: only an empty one tells the end.
-    bool readPortion(int folder);
+    enum class Reading { portion, end, failed };
+
+    /// Reads on where the descriptor stands. A portion may be of any size: only an empty one tells
+    /// the end. A folder that is removed meanwhile has come to its end.
+    Reading readPortion(int folder);
 
     /// Calls `visit(const char* name, unsigned char type)` for each entry of the portion but "."
     /// and ".."; the type is one of readdir's d_type. The names hold until the next portion.

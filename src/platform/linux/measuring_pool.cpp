@@ -29,10 +29,13 @@ std::size_t foldersHeld(int width) {
 MeasuringPool::MeasuringPool(int width)
     : foldersHeldByThread_(foldersHeld(width)), width_(width), appetite_(width) {}
 
-ByteCount MeasuringPool::measure(posix::Descriptor folder) {
+DiskUsage MeasuringPool::measure(posix::Descriptor folder) {
     const auto identity = mountedFolder(folder.get());
-    if (!identity) return 0;
     Measure measure;
+    if (!identity) {
+        measure.found.unread.addUnknown();
+        return std::move(measure.found);
+    }
     measure.start = std::make_shared<const posix::Descriptor>(std::move(folder));
     measure.openShares = 1;
     FolderWork all{.place = FolderChain(*identity), .descriptor = measure.start};
@@ -47,7 +50,7 @@ ByteCount MeasuringPool::measure(posix::Descriptor folder) {
             measure.ended.wait(lock);
         }
     }
-    return measure.total;
+    return std::move(measure.found);
 }
 
 void MeasuringPool::offer(Measure& measure, FolderWork work) {
@@ -89,12 +92,13 @@ void MeasuringPool::workOn(Share share, Role role, Lock& lock) {
     updateAppetite();
     lock.unlock();
     const auto stepBack = role == Role::helper ? StepBack::whenCrowded : StepBack::never;
-    const auto total = FolderMeasurer(*this, measure, stepBack).run(std::move(share.work));
+    const auto found = FolderMeasurer(*this, measure, stepBack).run(std::move(share.work));
     lock.lock();
     --atWork_;
     updateAppetite();
     if (!shares_.empty()) helpWanted_.notify_one();
-    measure.total += total;
+    measure.found.bytes += found.bytes;
+    measure.found.unread.add(found.unread);
     if (--measure.openShares == 0) measure.ended.notify_one();
 }
 

@@ -7,7 +7,7 @@
 #include <mutex>
 #include <optional>
 
-#include "platform/byte_count.h"
+#include "platform/disk_usage.h"
 #include "platform/linux/folder_work.h"
 
 namespace tidewell::linux_system {
@@ -17,7 +17,7 @@ struct Measure {
     std::shared_ptr<const posix::Descriptor> start;  ///< the folder that it began with
 
     // What follows is guarded by the pool's mutex.
-    ByteCount total = 0;
+    DiskUsage found;
     int openShares = 0;  ///< waiting to be worked on, or worked on
     std::condition_variable ended;
 };
@@ -36,8 +36,8 @@ class MeasuringPool {
     MeasuringPool& operator=(const MeasuringPool&) = delete;
     ~MeasuringPool() = delete;
 
-    /// The bytes allocated for all regular files below an open folder. Blocks until the end.
-    ByteCount measure(posix::Descriptor folder);
+    /// Measures all regular files below an open folder. Blocks until the end.
+    DiskUsage measure(posix::Descriptor folder);
 
     /// How many more shares would be taken up at once. Below zero: so many threads too many are at
     /// work.

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <memory>
 
@@ -16,12 +17,14 @@ namespace tidewell {
 
 FileKind fileKind(const std::string& path) {
     struct stat status;
-    if (::stat(path.c_str(), &status) != 0) return FileKind::missing;
+    if (::stat(path.c_str(), &status) != 0)
+        return errno == ENOENT || errno == ENOTDIR ? FileKind::missing : FileKind::untold;
     return S_ISDIR(status.st_mode) ? FileKind::folder : FileKind::other;
 }
 
 bool fileExists(const std::string& path) {
-    return fileKind(path) != FileKind::missing;
+    const auto kind = fileKind(path);
+    return kind == FileKind::folder || kind == FileKind::other;
 }
 
 std::optional<std::vector<std::string>> folderNames(const std::string& path) {
@@ -31,10 +34,11 @@ std::optional<std::vector<std::string>> folderNames(const std::string& path) {
     if (!stream) return std::nullopt;
     folder.release();
     std::vector<std::string> names;
-    while (const auto* entry = ::readdir(stream.get())) {
+    for (errno = 0; const auto* entry = ::readdir(stream.get()); errno = 0) {
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..") names.emplace_back(name);
     }
+    if (errno != 0) return std::nullopt;
     std::ranges::sort(names);
     return names;
 }

@@ -34,7 +34,7 @@ std::string valuesFile(const std::string& folder) {
 
 Stored readStored(const std::string& folder) {
     const auto path = valuesFile(folder);
-    if (!fileExists(path)) return {.condition = Condition::missing};
+    if (fileKind(path) == FileKind::missing) return {.condition = Condition::missing};
     if (!canOpenForReading(path)) return {.condition = Condition::unreadable};
     const auto bytes = readFile(path, longestFile);
     auto values = bytes ? parseJson(*bytes) : std::nullopt;
