@@ -11,7 +11,7 @@ int main(int count, char** arguments) {
         std::fprintf(stderr, "Usage: find_artifacts ROOT\n");
         return 2;
     }
-    const auto found = findHost({.root = arguments[1], .home = {}});
+    const auto found = findHost({.root = arguments[1]});
     if (!found.host) {
         std::fprintf(stderr, "%s\n", found.problem.c_str());
         return 1;

@@ -13,7 +13,7 @@ int main(int count, char** arguments) {
         std::fprintf(stderr, "Usage: remove_tree ROOT FOLDER\n");
         return 2;
     }
-    const auto found = findHost({.root = arguments[1], .home = {}});
+    const auto found = findHost({.root = arguments[1]});
     if (!found.host) {
         std::fprintf(stderr, "%s\n", found.problem.c_str());
         return 1;

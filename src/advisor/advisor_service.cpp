@@ -24,7 +24,7 @@ AdvisorService::AdvisorService(Host host) : scanner_(std::move(host)) {}
 
 std::optional<std::string> AdvisorService::run(std::string_view tool,
                                                const std::vector<std::string>& arguments) const {
-    auto ended = runTool(scanner_.host().systemPath(tool), arguments, ToolOutput::keep);
+    auto ended = runTool(scanner_.host().toolPath(tool), arguments, ToolOutput::keep);
     if (!ended || ended->exitStatus != 0) return std::nullopt;
     return std::move(ended->output);
 }

@@ -6,7 +6,8 @@
 namespace tidewell {
 
 UninstallGuard::UninstallGuard(const Host& host)
-    : systemFolder_(host.systemPath("/System")),
+    : homeOwner_(host.homeOwner),
+      systemFolder_(host.systemPath("/System")),
       applications_(host.systemPath("/Applications")),
       ownApplications_(joinPath(host.home, "Applications")),
       library_(joinPath(host.home, "Library")) {}
@@ -21,7 +22,7 @@ bool UninstallGuard::isAllowed(std::string_view path) const {
 }
 
 std::optional<TrashablePath> UninstallGuard::approve(std::string_view path) const {
-    if (!isAllowed(path)) return std::nullopt;
+    if (homeOwner_ != HomeOwner::user || !isAllowed(path)) return std::nullopt;
     auto named = standardizedPath(path);
     auto real = realLocation(named);
     if (!real || !isAllowed(*real)) return std::nullopt;

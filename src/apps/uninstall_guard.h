@@ -25,6 +25,7 @@ class UninstallGuard {
     std::optional<TrashablePath> approve(std::string_view path) const;
 
  private:
+    HomeOwner homeOwner_;
     std::string systemFolder_;
     std::string applications_;
     std::string ownApplications_;

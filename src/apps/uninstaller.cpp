@@ -39,7 +39,7 @@ std::string nameOf(std::string_view path) {
 /// The agent may not be loaded, and the tool may be missing: the file goes to the Trash all the
 /// same.
 void unloadAgent(const std::string& path, const Host& host) {
-    (void)runTool(host.systemPath("/bin/launchctl"), {"unload", path}, ToolOutput::discard);
+    (void)runTool(host.toolPath("/bin/launchctl"), {"unload", path}, ToolOutput::discard);
 }
 
 Trashing moveItem(const WorkItem& item, const UninstallGuard& guard, const Host& host) {

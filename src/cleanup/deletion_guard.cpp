@@ -100,6 +100,7 @@ DeletionRule deletionRule(std::string_view path, std::string_view home,
 
 DeletionGuard::DeletionGuard(const Host& host)
     : home_(host.home),
+      homeOwner_(host.homeOwner),
       roots_(deletableRoots(host)),
       realRoots_(realScratchFolders(roots_, host.home)) {}
 
@@ -113,7 +114,7 @@ bool DeletionGuard::allowsReal(std::string_view real, const std::vector<std::str
 
 std::optional<DeletablePath> DeletionGuard::approve(const std::string& path) const {
     // The file system would read the path up to its first zero byte, and judge another one.
-    if (path.find('\0') != std::string::npos) return std::nullopt;
+    if (path.find('\0') != std::string::npos || homeOwner_ != HomeOwner::user) return std::nullopt;
     auto named = standardizedPath(path);
     if (!isDeletable(named)) return std::nullopt;
     auto real = realLocation(named);

@@ -81,6 +81,7 @@ class DeletionGuard {
     bool allowsReal(std::string_view real, const std::vector<std::string>& keys) const;
 
     std::string home_;
+    HomeOwner homeOwner_;  ///< nothing of somebody else's is ever removed
     std::vector<std::string> roots_;
     std::vector<std::string> realRoots_;  ///< where the roots lay when the guard was made
 };

@@ -37,7 +37,7 @@ struct Found {
 };
 
 std::string standardForm(std::string_view path, const Host& host) {
-    return standardizedPath(host.expandTilde(path));
+    return standardizedPath(host.expand(path));
 }
 
 bool isNeverSwept(std::string_view name) {
@@ -62,7 +62,7 @@ DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target) const {
     Found found;
     for (const auto& stored : target.paths) {
-        const auto path = host_.expandTilde(stored);
+        const auto path = host_.expand(stored);
         if (!fileExists(path)) continue;
         switch (target.kind) {
             case TargetKind::plain:

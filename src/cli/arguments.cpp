@@ -25,9 +25,9 @@ CommandCall& addCommand(CLI::App& app, Call& call, const std::string& name,
     return *commandCall;
 }
 
-void addConsent(CLI::App& command, Consent& consent) {
+void addConsent(CLI::App& command, Call& call, Consent& consent) {
     command.add_flag_callback(
-        "--yes", [&consent] { consent = Consent::given; },
+        "--yes", [&call, &consent] { call.consent = consent = Consent::given; },
         "Do it; without this the command only says what it would do");
 }
 
@@ -64,6 +64,14 @@ void addSelection(CLI::App& command, SelectionWish& wish) {
         ->allow_extra_args(false);
 }
 
+void addSystem(CLI::App& app, HostOptions& host) {
+    static const Choices<System> systems = {{"macos", System::macOS}, {"linux", System::linux}};
+    app.add_option("--system", host.system,
+                   "The system that the machine is of; seen from its folders if not given")
+        ->transform(CLI::Transformer(systems).description(""))
+        ->type_name(choiceNames(systems));
+}
+
 void addScanningCommands(CLI::App& app, Call& call) {
     CLI::App* command = nullptr;
     addCommand<ScanCall>(app, call, "scan", "The smart scan: Clean, Apps, Deep Scan and Advisor",
@@ -73,12 +81,12 @@ void addScanningCommands(CLI::App& app, Call& call) {
         app, call, "clean", "Find what programs can rebuild; with --yes, delete what is picked",
         runClean, command);
     addSelection(*command, clean.selection);
-    addConsent(*command, clean.consent);
+    addConsent(*command, call, clean.consent);
 
     auto& dev = addCommand<DevCall>(
         app, call, "dev", "The same for what developer and AI tools pile up", runDev, command);
     addSelection(*command, dev.selection);
-    addConsent(*command, dev.consent);
+    addConsent(*command, call, dev.consent);
 
     addCommand<DeepScanCall>(app, call, "deep-scan", "List everything big in the home folder",
                              runDeepScan, command);
@@ -87,7 +95,7 @@ void addScanningCommands(CLI::App& app, Call& call) {
                                         "With --yes, move items of the deep scan to the Trash",
                                         runTrash, command);
     command->add_option("ids", trash.ids, "Ids from deep-scan")->required()->type_name("ID");
-    addConsent(*command, trash.consent);
+    addConsent(*command, call, trash.consent);
 }
 
 void addAppCommands(CLI::App& app, Call& call) {
@@ -112,7 +120,7 @@ void addAppCommands(CLI::App& app, Call& call) {
     command->add_option("app", uninstall.app, "An id from apps, or a bundle's path")
         ->required()
         ->type_name("APP-ID");
-    addConsent(*command, uninstall.consent);
+    addConsent(*command, call, uninstall.consent);
 }
 
 void addAdvisorCommand(CLI::App& app, Call& call) {
@@ -125,7 +133,7 @@ void addAdvisorCommand(CLI::App& app, Call& call) {
                       "Remove simulators whose runtime is gone");
     command->add_flag("--thin-snapshots", advisor.thinSnapshots,
                       "Ask the system to purge local snapshots");
-    addConsent(*command, advisor.consent);
+    addConsent(*command, call, advisor.consent);
 }
 
 void addPerformanceCommands(CLI::App& app, Call& call) {
@@ -176,8 +184,10 @@ std::variant<Call, Ending> parseArguments(int count, char** words) {
         "choose.",
         "tidewell-cli");
     app.add_option("--home", call.host.home, "The home folder to work on")->type_name("DIR");
-    app.add_option("--root", call.host.root, "The folder in which a whole machine lies")
+    app.add_option("--root", call.host.root,
+                   "The folder in which a whole machine lies; the tools in it are what is run")
         ->type_name("DIR");
+    addSystem(app, call.host);
     app.add_flag_callback(
         "--json", [&call] { call.form = OutputForm::json; }, "Print one JSON document");
     app.set_version_flag("--version", TIDEWELL_VERSION);

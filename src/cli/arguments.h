@@ -14,6 +14,7 @@ namespace tidewell::cli {
 struct Call {
     HostOptions host;
     OutputForm form = OutputForm::text;
+    Consent consent = Consent::notGiven;  ///< to a change of whatever kind the command makes
     std::function<Outcome(const Context&)> run;
 };
 

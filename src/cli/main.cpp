@@ -21,6 +21,8 @@ int endWrongCall(const std::string& problem) {
 int run(const Call& call) {
     auto found = findHost(call.host);
     if (!found.host) return endWrongCall(found.problem);
+    if (call.consent == Consent::given && found.host->homeOwner == HomeOwner::somebodyElse)
+        return endWrongCall(found.host->home + " is another user's: it can only be looked at");
     RunLoop loop;
     const auto outcome = call.run({std::move(*found.host), call.form, loop});
     if (const auto* wrong = std::get_if<WrongCall>(&outcome)) return endWrongCall(wrong->problem);

@@ -19,7 +19,9 @@ bool isDeepInHome(std::string_view path, std::string_view home) {
 }
 
 std::optional<TrashablePath> BigItemTrashGuard::approve(const BigItem& item) const {
-    if (!isTrashable(item.kind) || !isDeepInHome(item.path(), home_)) return std::nullopt;
+    if (homeOwner_ != HomeOwner::user || !isTrashable(item.kind) ||
+        !isDeepInHome(item.path(), home_))
+        return std::nullopt;
     auto real = realLocation(item.path());
     if (!real || !isDeepInHome(*real, home_)) return std::nullopt;
     return TrashablePath(item.path(), std::move(*real));

@@ -21,7 +21,7 @@ bool isDeepInHome(std::string_view path, std::string_view home);
 /// Decides which found items may be moved to the Trash. Any thread.
 class BigItemTrashGuard {
  public:
-    explicit BigItemTrashGuard(const Host& host) : home_(host.home) {}
+    explicit BigItemTrashGuard(const Host& host) : home_(host.home), homeOwner_(host.homeOwner) {}
 
     /// Asks for the item's depth twice: as its path is named, and at its real location. So neither
     /// a folder that is a link out of the home folder, nor one that is a link back up to it, gets
@@ -30,6 +30,7 @@ class BigItemTrashGuard {
 
  private:
     std::string home_;
+    HomeOwner homeOwner_;
 };
 
 }  // namespace tidewell

@@ -112,7 +112,7 @@ std::vector<BigItem> ContainerScanner::scan() const {
 
 std::vector<std::string> ContainerScanner::walkExclusionPaths() const {
     std::vector<std::string> paths;
-    for (const auto stored : walkExclusions) paths.push_back(host_.expandTilde(stored));
+    for (const auto stored : walkExclusions) paths.push_back(host_.expand(stored));
     return paths;
 }
 

@@ -9,16 +9,24 @@ namespace tidewell {
 namespace {
 
 constexpr std::string_view usage =
-    "Usage: tidewell [--root DIR] [--home DIR] [--timings] [URL]\n"
+    "Usage: tidewell [--root DIR] [--home DIR] [--system NAME] [--timings] [URL]\n"
     "\n"
-    "  --root DIR  Work on a machine that lies in this folder\n"
-    "  --home DIR  Work on this home folder\n"
-    "  --timings   Tell on standard error what keeps the window from moving smoothly\n"
-    "  --help      Print this and end\n"
-    "  URL         tidewell://scan scans everything\n";
+    "  --root DIR     Work on a machine that lies in this folder, and run the tools in it\n"
+    "  --home DIR     Work on this home folder\n"
+    "  --system NAME  The system that the machine is of, macos or linux; seen from its folders if\n"
+    "                 not given\n"
+    "  --timings      Tell on standard error what keeps the window from moving smoothly\n"
+    "  --help         Print this and end\n"
+    "  URL            tidewell://scan scans everything\n";
 
 StartEnding wrongCall(const std::string& problem) {
     return {StartEnding::Reason::wrongCall, "tidewell: " + problem + "\n" + std::string(usage)};
+}
+
+std::optional<System> systemNamed(std::string_view name) {
+    if (name == "macos") return System::macOS;
+    if (name == "linux") return System::linux;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -33,6 +41,10 @@ std::variant<StartWish, StartEnding> parseStartWords(const std::vector<std::stri
             const auto name = *word;
             if (++word == words.end()) return wrongCall(name + " needs a folder");
             folder = *word;
+        } else if (*word == "--system") {
+            if (++word == words.end()) return wrongCall("--system needs a name");
+            wish.host.system = systemNamed(*word);
+            if (!wish.host.system) return wrongCall("there is no system \"" + *word + "\"");
         } else if (*word == "--timings") {
             wish.showsTimings = true;
         } else if (urlHost(*word)) {

@@ -80,7 +80,7 @@ TEST(TargetCatalogue, NeverComesNearKeysAndCredentials) {
         for (const auto& stored : target.paths)
             for (const auto entry : protectedHomePaths) {
                 const auto key = joinPath(machine.home(), entry);
-                const auto path = machine.host().expandTilde(stored);
+                const auto path = machine.host().expand(stored);
                 const bool meets = isAtOrBelow(key, path) || isAtOrBelow(path, key);
                 EXPECT_TRUE(!meets || shielded(target, key)) << target.id << " and " << entry;
             }

@@ -133,7 +133,7 @@ TEST_F(RunningApplicationsTest, AreFoundByDesktopEntriesOnTheUsersOwnMachine) {
     machine.remove("~/tools/show");  // an update puts a new file in its place
     std::filesystem::copy_file("/bin/sleep", home + "/tools/show");
 
-    const auto own = findHost({.root = std::nullopt, .home = home});
+    const auto own = findHost({.home = home});
     ASSERT_TRUE(own.host) << own.problem;
     auto applications = runningApplications(*own.host);
     std::erase_if(applications, [](const auto& each) { return each.bundlePath.has_value(); });

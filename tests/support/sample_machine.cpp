@@ -57,7 +57,7 @@ void SampleMachine::layOut(const std::string& root) {
     fs::create_directories(root + "/Library");
     fs::create_directories(root + "/var/folders/zz/ada/T");
     fs::create_directories(root + "/var/folders/zz/ada/C");
-    auto found = findHost({.root = root, .home = {}});
+    auto found = findHost({.root = root});
     if (!found.host) throw std::runtime_error(found.problem);
     host_ = std::move(*found.host);
 }

@@ -80,7 +80,7 @@ std::vector<std::string> claimingRows(const std::string& path, const Host& host)
     std::vector<std::string> ids;
     for (const auto& target : cleanupCatalogue(host)) {
         const bool claims = std::ranges::any_of(target.paths, [&](const std::string& stored) {
-            return isAtOrBelow(path, standardizedPath(host.expandTilde(stored)));
+            return isAtOrBelow(path, standardizedPath(host.expand(stored)));
         });
         if (claims) ids.push_back(target.id);
     }

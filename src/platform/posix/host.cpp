@@ -5,29 +5,40 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
+#include <array>
+#include <string_view>
+#include <utility>
 #include <vector>
 
+#include "platform/environment.h"
 #include "platform/files.h"
+#include "platform/home_place.h"
 #include "platform/own_program.h"
 #include "platform/path_text.h"
+#include "platform/posix/base_folders.h"
 
 namespace tidewell {
 
 namespace {
 
-std::string environmentValue(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
+HostResult failure(std::string problem) {
+    return {.host = {}, .problem = std::move(problem)};
 }
 
 /// The path with all links resolved; absent if it is no existing folder.
 std::optional<std::string> resolvedFolder(const std::string& path) {
-    const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(path.c_str(), nullptr),
-                                                          std::free);
-    if (!resolved || fileKind(resolved.get()) != FileKind::folder) return std::nullopt;
-    return resolved.get();
+    auto resolved = resolvedPath(path);
+    if (!resolved || fileKind(*resolved) != FileKind::folder) return std::nullopt;
+    return resolved;
+}
+
+bool isFolder(const std::string& path) {
+    return fileKind(path) == FileKind::folder;
+}
+
+/// Where "/" is the root, everything lies below it.
+bool liesBelowRoot(std::string_view path, std::string_view root) {
+    return root == "/" || isBelow(path, root);
 }
 
 std::string ownHomeFolder() {
@@ -36,17 +47,30 @@ std::string ownHomeFolder() {
     return user && user->pw_dir ? user->pw_dir : "";
 }
 
-/// Only a scratch folder of the user's own may ever be emptied: what others can write to is theirs
-/// too.
-std::string ownTemporaryFolder() {
-    const auto folder = resolvedFolder(environmentValue("TMPDIR"));
+bool isUsersAlone(const std::string& folder) {
     struct stat status;
-    if (!folder || *folder == "/tmp" || *folder == "/") return {};
-    if (::stat(folder->c_str(), &status) != 0 || status.st_uid != ::getuid()) return {};
-    return status.st_mode & (S_IWGRP | S_IWOTH) ? std::string() : *folder;
+    return ::stat(folder.c_str(), &status) == 0 && status.st_uid == ::geteuid() &&
+           !(status.st_mode & (S_IWGRP | S_IWOTH));
 }
 
-/// The first "var/folders/*/*/T" below `root` by byte order of the whole path.
+HomeOwner ownerOf(const std::string& home) {
+    struct stat status;
+    const bool isOwn = ::stat(home.c_str(), &status) == 0 && status.st_uid == ::geteuid();
+    return isOwn ? HomeOwner::user : HomeOwner::somebodyElse;
+}
+
+/// Only a scratch folder of the user's own may ever be emptied: what others can write to is theirs
+/// too. A relative one would be wherever the program happens to be started.
+std::string ownTemporaryFolder(const std::string& home) {
+    const auto wanted = environmentValue("TMPDIR");
+    if (!wanted.starts_with('/')) return {};
+    const auto folder = resolvedFolder(wanted);
+    if (!folder || *folder == "/" || *folder == "/tmp" || isAtOrBelow(home, *folder)) return {};
+    return isUsersAlone(*folder) ? *folder : std::string();
+}
+
+/// The first "var/folders/*/*/T" below `root` by byte order of the whole path, where it really
+/// lies.
 std::string temporaryFolderBelow(const std::string& root) {
     std::vector<std::string> found;
     const auto top = joinPath(root, "var/folders");
@@ -57,25 +81,100 @@ std::string temporaryFolderBelow(const std::string& root) {
             if (folderNames(scratch)) found.push_back(scratch);
         }
     }
-    return found.empty() ? std::string() : *std::ranges::min_element(found);
+    if (found.empty()) return {};
+    const auto real = resolvedFolder(*std::ranges::min_element(found));
+    return real && liesBelowRoot(*real, root) ? *real : std::string();
+}
+
+/// Where a machine keeps its users' home folders, and what lies there that is none.
+struct HomeFolders {
+    std::string_view holder;
+    std::array<std::string_view, 2> others;
+};
+
+HomeFolders homeFolders(System system) {
+    switch (system) {
+        case System::macOS:
+            return {.holder = "Users", .others = {"Shared", ""}};
+        case System::linux:
+            return {.holder = "home", .others = {"lost+found", "linuxbrew"}};
+    }
+    return {};
+}
+
+/// Hidden folders are no homes where the system keeps its own things beside them.
+bool isHomeName(std::string_view name, const HomeFolders& folders, System system) {
+    if (std::ranges::find(folders.others, name) != folders.others.end()) return false;
+    return system == System::macOS || !name.starts_with('.');
 }
 
 /// The user's home folder on a machine that lies in a folder, or why it is not clear which it is.
 HostResult homeBelow(Host host) {
-    const auto users = joinPath(host.root, "Users");
+    const auto places = homeFolders(host.system);
+    const auto holder = joinPath(host.root, places.holder);
     std::vector<std::string> homes;
-    for (const auto& name : folderNames(users).value_or(std::vector<std::string>{}))
-        if (name != "Shared" && folderNames(joinPath(users, name)))
-            homes.push_back(joinPath(users, name));
-    if (homes.empty()) return {.host = {}, .problem = "There is no home folder below " + users};
+    for (const auto& name : folderNames(holder).value_or(std::vector<std::string>{}))
+        if (isHomeName(name, places, host.system) && folderNames(joinPath(holder, name)))
+            homes.push_back(joinPath(holder, name));
+    const auto administrator = joinPath(host.root, "root");
+    if (homes.empty() && host.system == System::linux && folderNames(administrator))
+        homes.push_back(administrator);
+    if (homes.empty()) return failure("There is no home folder below " + holder);
     if (homes.size() > 1)
-        return {
-            .host = {},
-            .problem = "There are several home folders below " + users + ": name one with --home"};
+        return failure("There are several home folders below " + holder + ": name one with --home");
     host.home = homes.front();
     return {.host = std::move(host), .problem = {}};
 }
 
+System systemBelow(const std::string& root) {
+    const bool isMacOS =
+        fileExists(joinPath(root, "Users")) || fileExists(joinPath(root, "System"));
+    return isMacOS ? System::macOS : System::linux;
+}
+
+System systemOfHome(const std::string& home) {
+    constexpr std::array<std::string_view, 3> signs = {"Library/Caches", "Library/Preferences",
+                                                       "Library/Application Support"};
+    const bool isMacOS = std::ranges::any_of(
+        signs, [&](std::string_view sign) { return isFolder(joinPath(home, sign)); });
+    return isMacOS ? System::macOS : ownSystem();
+}
+
+/// The home folder as it is named by the user or by his environment, or found below the root.
+HostResult withHome(Host host, const HostOptions& options) {
+    if (!options.home && options.root) return homeBelow(std::move(host));
+    host.home = options.home ? *options.home : ownHomeFolder();
+    if (!options.home && !host.home.starts_with('/'))
+        return failure("The home folder \"" + host.home + "\" is no absolute path");
+    return {.host = std::move(host), .problem = {}};
+}
+
+/// Resolves the home folder, and refuses one that would open what is not the user's.
+HostResult withRealHome(Host host) {
+    const auto named = host.home;
+    const auto home = resolvedFolder(named);
+    if (!home) return failure("There is no home folder " + named);
+    if (*home == host.root || !liesBelowRoot(*home, host.root))
+        return failure("The home folder " + *home + " does not lie below " + host.root);
+    const auto place = host.root == "/" ? *home : home->substr(host.root.size());
+    if (!canBeHome(place)) return failure(*home + " belongs to the system: it is no home folder");
+    host.home = *home;
+    host.homeOwner = ownerOf(host.home);
+    return {.host = std::move(host), .problem = {}};
+}
+
+void findScratchFolders(Host& host, const HostOptions& options) {
+    if (!options.root && !options.home) {
+        host.temporaryDirectory = ownTemporaryFolder(host.home);
+    } else if (options.root && host.system == System::macOS) {
+        host.temporaryDirectory = temporaryFolderBelow(host.root);
+        const auto sibling = joinPath(parentPath(host.temporaryDirectory), "C");
+        if (!host.temporaryDirectory.empty() && folderNames(sibling))
+            host.userCacheDirectory = sibling;
+    }
+}
+
+/// The program's own file is where the desktop keeps such files, also outside the home folder.
 std::string ownConfigurationFolder(const Host& host, const HostOptions& options) {
     const auto configured = environmentValue("XDG_CONFIG_HOME");
     const bool isOwnMachine = !options.root && !options.home;
@@ -83,27 +182,12 @@ std::string ownConfigurationFolder(const Host& host, const HostOptions& options)
     return joinPath(host.home, ".config/tidewell");
 }
 
-HostResult failure(std::string problem) {
-    return {.host = {}, .problem = std::move(problem)};
-}
-
 }  // namespace
 
-std::string Host::systemPath(std::string_view absolute) const {
-    return root == "/" ? std::string(absolute) : root + std::string(absolute);
-}
-
-std::string Host::expandTilde(std::string_view path) const {
-    if (path == "~") return home;
-    return path.starts_with("~/") ? joinPath(home, path.substr(2)) : std::string(path);
-}
-
-std::string Host::locate(std::string_view tablePath) const {
-    return tablePath.starts_with('~') ? expandTilde(tablePath) : systemPath(tablePath);
-}
-
-std::string_view Host::relativeToHome(std::string_view path) const {
-    return pathRelativeTo(path, home);
+std::string Host::toolPath(std::string_view absolute) const {
+    auto path = systemPath(absolute);
+    const auto real = resolvedPath(path);
+    return real && liesBelowRoot(*real, root) ? path : std::string();
 }
 
 HostResult findHost(const HostOptions& options) {
@@ -115,24 +199,16 @@ HostResult findHost(const HostOptions& options) {
     const auto root = resolvedFolder(options.root.value_or("/"));
     if (!root) return failure("There is no folder " + *options.root);
     host.root = *root;
-    if (options.home || !options.root) {
-        const auto wanted = options.home ? *options.home : ownHomeFolder();
-        const auto home = resolvedFolder(wanted);
-        if (!home) return failure("There is no home folder " + wanted);
-        host.home = *home;
-    } else {
-        auto found = homeBelow(std::move(host));
-        if (!found.host) return found;
-        host = std::move(*found.host);
-    }
-    if (options.root) {
-        host.temporaryDirectory = temporaryFolderBelow(host.root);
-        const auto sibling = joinPath(parentPath(host.temporaryDirectory), "C");
-        if (!host.temporaryDirectory.empty() && folderNames(sibling))
-            host.userCacheDirectory = sibling;
-    } else {
-        host.temporaryDirectory = ownTemporaryFolder();
-    }
+    if (options.root) host.system = options.system.value_or(systemBelow(host.root));
+    auto found = withHome(std::move(host), options);
+    if (found.host) found = withRealHome(std::move(*found.host));
+    if (!found.host) return found;
+    host = std::move(*found.host);
+    if (!options.root) host.system = options.system.value_or(systemOfHome(host.home));
+    const bool isOwnMachine = !options.root && !options.home;
+    host.baseFolders = isOwnMachine ? posix::baseFoldersOfEnvironment(host.home, host.system)
+                                    : posix::usualBaseFolders(host.home);
+    findScratchFolders(host, options);
     host.configurationDirectory = ownConfigurationFolder(host, options);
     return {.host = std::move(host), .problem = {}};
 }

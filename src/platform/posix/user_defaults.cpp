@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <optional>
 
@@ -52,6 +53,13 @@ posix::Descriptor lockFolder(const std::string& folder) {
     const auto lock = [&] { return ::flock(file.get(), LOCK_EX); };
     if (!file || posix::retrying(lock) != 0) return posix::Descriptor();
     return file;
+}
+
+/// A file in a folder of somebody else's would be one that its owner cannot use.
+bool isOwnPlace(const std::string& path) {
+    struct stat status;
+    if (::stat(path.c_str(), &status) == 0) return status.st_uid == ::geteuid();
+    return errno == ENOENT && path != "/" && isOwnPlace(std::string(parentPath(path)));
 }
 
 void makeFolders(const std::string& path) {
@@ -109,6 +117,7 @@ using NewValue = Value (*)(const Value* old, const Value& given);
 UserDefaults::Written change(const std::string& folder, std::string_view key, const Value& given,
                              NewValue newValue) {
     using Written = UserDefaults::Written;
+    if (!isOwnPlace(folder)) return Written::no;
     makeFolders(folder);
     const auto lock = lockFolder(folder);
     if (!lock) return Written::no;

@@ -1,0 +1,50 @@
+#include "platform/host.h"
+
+#include <array>
+#include <utility>
+
+#include "platform/path_text.h"
+
+namespace tidewell {
+
+namespace {
+
+using Token = std::pair<std::string_view, std::string BaseFolders::*>;
+
+constexpr std::array<Token, 4> baseFolderTokens = {{
+    {"{cache}", &BaseFolders::cache},
+    {"{config}", &BaseFolders::config},
+    {"{data}", &BaseFolders::data},
+    {"{state}", &BaseFolders::state},
+}};
+
+}  // namespace
+
+std::string Host::systemPath(std::string_view absolute) const {
+    return root == "/" ? std::string(absolute) : root + std::string(absolute);
+}
+
+std::string Host::pathNamedInside(std::string_view absolute) const {
+    auto path = standardizedPath(absolute);
+    return isAtOrBelow(path, root) ? path : systemPath(path);
+}
+
+std::string Host::expand(std::string_view path) const {
+    if (path == "~") return home;
+    if (path.starts_with("~/")) return joinPath(home, path.substr(2));
+    for (const auto& [token, folder] : baseFolderTokens) {
+        if (!isAtOrBelow(path, token)) continue;
+        return std::string(baseFolders.*folder).append(path.substr(token.size()));
+    }
+    return std::string(path);
+}
+
+std::string Host::locate(std::string_view tablePath) const {
+    return tablePath.starts_with('/') ? systemPath(tablePath) : expand(tablePath);
+}
+
+std::string_view Host::relativeToHome(std::string_view path) const {
+    return pathRelativeTo(path, home);
+}
+
+}  // namespace tidewell
