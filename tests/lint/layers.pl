@@ -29,7 +29,7 @@ my $systemFolders = 'usr|bin|sbin|etc|var|tmp|private|opt|home|root|proc|sys|dev
 sub checkPaths {
     my ($file, $code) = @_;
     $code =~ s/\bconstexpr\b[^;"(]*?[={](?:"(?:[^"\\\n]|\\.)*"|[^;"])*;/CppText::blank($&)/gse;
-    $code =~ s/\b(?:systemPath|locate)\s*\(\s*"[^"]*"/CppText::blank($&)/ge;
+    $code =~ s/\b(?:systemPath|toolPath|locate)\s*\(\s*"[^"]*"/CppText::blank($&)/ge;
     while ($code =~ m{(?<!\+ )"/(?:$systemFolders)\b[^"]*"}g) {
         complain($file, lineAt($code, $-[0]), "a path on disk is not found through the host: $&");
     }
