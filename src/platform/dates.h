@@ -33,4 +33,9 @@ std::string iso8601(Date date);
 enum class Fractions { absent, required };
 std::optional<Date> parseIso8601(std::string_view text, Fractions fractions);
 
+/// "2026-11-03T10:00:00" by the local clock, and such a text read; absent for any other. An hour
+/// that comes twice when the clock is put back is read as one of the two.
+std::string localDateAndTime(Date date);
+std::optional<Date> parseLocalDateAndTime(std::string_view text);
+
 }  // namespace tidewell

@@ -122,7 +122,30 @@ std::string formatted(const std::unique_ptr<icu::DateFormat>& format, UDate date
     return bytes(text);
 }
 
+/// By how much the local clock is ahead at a moment.
+milliseconds localOffset(Date date) {
+    const auto calendar = calendarAt(icuDate(date));
+    UErrorCode status = U_ZERO_ERROR;
+    const auto offset =
+        calendar->get(UCAL_ZONE_OFFSET, status) + calendar->get(UCAL_DST_OFFSET, status);
+    require(status);
+    return milliseconds(offset);
+}
+
 }  // namespace
+
+std::string localDateAndTime(Date date) {
+    auto text = iso8601(date + localOffset(date));
+    text.pop_back();  // the "Z"
+    return text;
+}
+
+std::optional<Date> parseLocalDateAndTime(std::string_view text) {
+    const auto shown = parseIso8601(std::string(text) + "Z", Fractions::absent);
+    if (!shown) return std::nullopt;
+    const auto nearby = *shown - localOffset(*shown);
+    return *shown - localOffset(nearby);
+}
 
 std::int64_t wholeDaysBetween(Date start, Date end) {
     return fieldDifference(icuDate(start), icuDate(end), UCAL_DATE);

@@ -23,24 +23,26 @@ using posix::Descriptor;
 constexpr auto homeTrashName = ".Trash";
 constexpr auto volumeTrashesName = ".Trashes";
 
+using Shown = MacosTrashLayout::Shown;
+
 class MacosTrash final : public OpenTrash {
  public:
-    MacosTrash(std::string path, Descriptor folder)
-        : path_(std::move(path)), folder_(std::move(folder)) {}
+    MacosTrash(std::string path, Descriptor folder, Shown shown)
+        : path_(std::move(path)), folder_(std::move(folder)), shown_(shown) {}
 
     const std::string& path() const override { return path_; }
     int entries() const override { return folder_.get(); }
 
-    OrProblem<TrashedItem> take(const SeenPlace& item, const std::string& origin) override {
+    OrProblem<TrashedItem> take(const SeenPlace& item, const Departure& departure) override {
         const auto limit = longestNameIn(folder_.get());
         for (int number = 1;; ++number) {
             const auto name = trashName(item.place.name, number, limit);
             const int error = moveWithoutOverwriting(item, folder_.get(), name);
             if (error == EEXIST) continue;
             if (error != 0) return problemOf(error);
-            noteOrigin(folder_.get(), name, origin);
+            noteOrigin(folder_.get(), name, departure.origin);
             auto moved = describe(name).value_or(TrashedItem());
-            moved.origin = origin;
+            moved.origin = departure.origin;
             return moved;
         }
     }
@@ -52,7 +54,8 @@ class MacosTrash final : public OpenTrash {
     std::vector<TrashedItem> items() const override {
         std::vector<TrashedItem> items;
         for (const auto& name : sortedNames(folder_.get()))
-            if (auto item = describe(name)) items.push_back(*std::move(item));
+            if (auto item = describe(name); item && (item->origin || shown_ == Shown::everything))
+                items.push_back(*std::move(item));
         return items;
     }
 
@@ -68,11 +71,13 @@ class MacosTrash final : public OpenTrash {
 
     std::string path_;
     Descriptor folder_;
+    Shown shown_;
 };
 
-OpenedTrash trashAt(std::string path, OrProblem<Descriptor> folder) {
+OpenedTrash trashAt(std::string path, OrProblem<Descriptor> folder, Shown shown) {
     if (const auto* problem = std::get_if<Problem>(&folder)) return *problem;
-    return std::make_unique<MacosTrash>(std::move(path), std::get<Descriptor>(std::move(folder)));
+    return std::make_unique<MacosTrash>(std::move(path), std::get<Descriptor>(std::move(folder)),
+                                        shown);
 }
 
 /// All users of a volume have their Trash in one folder, in which nobody can touch another's.
@@ -101,14 +106,15 @@ std::string ownTrashName() {
 OpenedTrash MacosTrashLayout::openHome(NewFolders& folders) const {
     const auto home = link_free::openPlace(home_);
     if (!home) return problemOf(errno);
-    return trashAt(joinPath(home_, homeTrashName), folders.openOwn(home.get(), homeTrashName));
+    return trashAt(joinPath(home_, homeTrashName), folders.openOwn(home.get(), homeTrashName),
+                   shown_);
 }
 
 OpenedTrash MacosTrashLayout::openOfVolume(const VolumeTop& volume, NewFolders& folders) const {
     const auto shared = openShared(volume.folder.get(), folders);
     if (const auto* problem = std::get_if<Problem>(&shared)) return *problem;
     return trashAt(placesOfVolume(volume.path).front(),
-                   folders.openOwn(std::get<Descriptor>(shared).get(), ownTrashName()));
+                   folders.openOwn(std::get<Descriptor>(shared).get(), ownTrashName()), shown_);
 }
 
 std::vector<std::string> MacosTrashLayout::homePlaces() const {
@@ -123,7 +129,7 @@ OpenedTrash MacosTrashLayout::openAt(const std::string& place) const {
     const auto found = link_free::openPlaceOf(place);
     if (!found.folder) return problemOf(errno);
     NewFolders none(Making::never);
-    return trashAt(place, none.openOwn(found.folder.get(), found.name));
+    return trashAt(place, none.openOwn(found.folder.get(), found.name), shown_);
 }
 
 }  // namespace tidewell::trash

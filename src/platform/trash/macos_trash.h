@@ -8,7 +8,11 @@ namespace tidewell::trash {
 /// an attribute of the entry itself.
 class MacosTrashLayout final : public TrashLayout {
  public:
-    explicit MacosTrashLayout(std::string home) : home_(std::move(home)) {}
+    /// Which entries are listed: all, or those that this program moved there.
+    enum class Shown { everything, whatHasAnOrigin };
+
+    explicit MacosTrashLayout(std::string home, Shown shown = Shown::everything)
+        : home_(std::move(home)), shown_(shown) {}
 
     OpenedTrash openHome(NewFolders& folders) const override;
     OpenedTrash openOfVolume(const VolumeTop& volume, NewFolders& folders) const override;
@@ -18,6 +22,7 @@ class MacosTrashLayout final : public TrashLayout {
 
  private:
     std::string home_;
+    Shown shown_;
 };
 
 }  // namespace tidewell::trash

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/dates.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
 #include "platform/trash/trash_entry.h"
@@ -48,7 +49,7 @@ Taken moveInto(const auto& open, const SeenPlace& item, const std::string& path)
     if (const auto* problem = problemIn(opened)) return *problem;
     auto& trash = *std::get<std::unique_ptr<OpenTrash>>(opened);
     if (isAtOrBelow(trash.path(), path)) return refusal("The Trash itself lies in it.");
-    auto taken = trash.take(item, path);
+    auto taken = trash.take(item, {.origin = path, .date = now()});
     if (!problemIn(taken)) folders.keep();
     return taken;
 }

@@ -13,6 +13,12 @@
 
 namespace tidewell::trash {
 
+/// What a Trash is to remember of an entry.
+struct Departure {
+    std::string origin;  ///< its real path
+    Date date;
+};
+
 /// A Trash of the user's own whose folders are open, none of them reached through a link.
 class OpenTrash {
  public:
@@ -22,7 +28,7 @@ class OpenTrash {
     /// The folder in which the entries lie.
     virtual int entries() const = 0;
     /// Moves an entry in, under a name that nothing has in this Trash.
-    virtual OrProblem<TrashedItem> take(const SeenPlace& item, const std::string& origin) = 0;
+    virtual OrProblem<TrashedItem> take(const SeenPlace& item, const Departure& departure) = 0;
     /// What the Trash kept about an entry that has left it for `place`.
     virtual void forget(const TrashedItem& item, const link_free::Place& place) = 0;
     /// In ascending byte order of the names.
@@ -35,6 +41,10 @@ using OpenedTrash = OrProblem<std::unique_ptr<OpenTrash>>;
 class TrashLayout {
  public:
     virtual ~TrashLayout() = default;
+
+    /// To be called when the user asks for something to be moved: what earlier programs have left
+    /// in other places comes over.
+    virtual void gather() const {}
 
     virtual OpenedTrash openHome(NewFolders& folders) const = 0;
     virtual OpenedTrash openOfVolume(const VolumeTop& volume, NewFolders& folders) const = 0;
