@@ -3,14 +3,18 @@
 
 #include "cli/arguments.h"
 #include "cli/context.h"
+#include "platform/terminal.h"
 
 namespace tidewell::cli {
 
 namespace {
 
+/// A call that did its work but could not say so has not told what was done.
 int end(ExitStatus status) {
-    std::cout.flush();
-    return static_cast<int>(status);
+    const bool wasTold = static_cast<bool>(std::cout.flush());
+    if (!wasTold) std::cerr << "tidewell-cli: The output could not be written to its end.\n";
+    const bool isSilent = !wasTold && status == ExitStatus::done;
+    return static_cast<int>(isSilent ? ExitStatus::internalError : status);
 }
 
 int endWrongCall(const std::string& problem) {
@@ -42,6 +46,7 @@ int runWords(int count, char** words) {
 }  // namespace tidewell::cli
 
 int main(int count, char** words) {
+    tidewell::keepStandardStreamsApart();
     try {
         return tidewell::cli::runWords(count, words);
     } catch (const std::exception& problem) {

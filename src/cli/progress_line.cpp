@@ -13,12 +13,6 @@ namespace {
 
 constexpr std::string_view wipe = "\r\033[K";
 
-/// As much of the text as fits, so that the line never wraps into a second one.
-std::string fitting(std::string text, int columns) {
-    while (displayWidth(text) > columns) text = wellFormedText(text.substr(0, text.size() - 4));
-    return text;
-}
-
 }  // namespace
 
 ProgressLine::ProgressLine() : isTerminal_(isTerminal(StandardStream::error)) {}
@@ -31,7 +25,9 @@ void ProgressLine::show(double fraction, std::string_view what) {
     if (!isTerminal_) return;
     isShown_ = true;
     const auto text = percentText(fraction) + "  " + terminalText(what);
-    std::cerr << wipe << fitting(text, terminalWidth(StandardStream::error) - 1) << std::flush;
+    // One that wrapped into a second line could not be wiped.
+    const int columns = terminalWidth(StandardStream::error) - 1;
+    std::cerr << wipe << textThatFits(text, columns) << std::flush;
 }
 
 }  // namespace tidewell::cli

@@ -84,4 +84,14 @@ int displayWidth(std::string_view text) {
     return columns;
 }
 
+std::string textThatFits(std::string_view text, int columns) {
+    std::string fitting;
+    int used = 0;
+    forEachCharacter(text, [&](UChar32 character) {
+        used += width(character);
+        if (used <= columns) append(fitting, character);
+    });
+    return fitting;
+}
+
 }  // namespace tidewell

@@ -17,4 +17,7 @@ std::string terminalText(std::string_view bytes);
 /// How many columns of a terminal a well-formed text takes.
 int displayWidth(std::string_view text);
 
+/// As much of a well-formed text as takes no more columns than these; nothing where there are none.
+std::string textThatFits(std::string_view text, int columns);
+
 }  // namespace tidewell

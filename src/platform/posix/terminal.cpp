@@ -1,5 +1,6 @@
 #include "platform/terminal.h"
 
+#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -22,6 +23,12 @@ std::string_view environmentValue(const char* name) {
 }
 
 }  // namespace
+
+void keepStandardStreamsApart() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(descriptor, F_GETFD) < 0)  // open() gives the lowest number that is free
+            (void)::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
 
 bool isTerminal(StandardStream stream) {
     return ::isatty(descriptorOf(stream)) == 1;
