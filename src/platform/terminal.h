@@ -4,9 +4,9 @@ namespace tidewell {
 
 enum class StandardStream { output, error };
 
-/// First of all at start: where the caller has closed a standard stream, opens its number the wrong
-/// way round. What is written there then fails, and no file of the program's ever gets that number
-/// and with it what was meant for people.
+/// First of all at start: where the caller has closed a standard stream, opens its number for
+/// reading from nothing. What is written there then fails, and no file of the program's ever gets
+/// that number and with it what was meant for people.
 void keepStandardStreamsApart();
 
 /// Whether people read the stream, and not a file or another program.

@@ -27,7 +27,7 @@ std::string_view environmentValue(const char* name) {
 void keepStandardStreamsApart() {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (::fcntl(descriptor, F_GETFD) < 0)  // open() gives the lowest number that is free
-            (void)::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+            (void)::open("/dev/null", O_RDONLY);
 }
 
 bool isTerminal(StandardStream stream) {
