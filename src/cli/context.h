@@ -12,8 +12,8 @@ namespace tidewell::cli {
 /// How the program ends, as scripts read it.
 enum class ExitStatus {
     done = 0,
-    leftBehind = 1,  ///< a removal left something behind, or was refused
-    wrongCall = 2,   ///< the words of the call are off; nothing was done
+    leftBehind = 1,     ///< a removal left something behind, or was refused
+    wrongCall = 2,      ///< the words of the call are off; nothing was done
     internalError = 3,  ///< also if what was done could not be said
 };
 
