@@ -3,7 +3,9 @@
 #include <coroutine>
 #include <cstdlib>
 #include <deque>
+#include <exception>
 #include <memory>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -12,8 +14,9 @@
 namespace tidewell {
 
 /// Background calls in flight together. Their values come back one at a time, on the main thread,
-/// in the order in which the calls ended. The group has no width: its caller bounds it. It may go
-/// away while calls still run: their values are dropped.
+/// in the order in which the calls ended; an exception that ended a call is thrown where its value
+/// would have come. The group has no width: its caller bounds it. It may go away while calls still
+/// run: their values are dropped.
 template <class Value>
 class BackgroundGroup {
  public:
@@ -25,15 +28,22 @@ class BackgroundGroup {
     /// Runs `work` away from the main thread. It owns copies of all it needs.
     template <class Work>
     void start(Work work) {
-        ++running_;
         auto& executor = Executor::main();
-        executor.startInBackground([&executor, state = state_, work = std::move(work)]() mutable {
-            auto value = std::make_shared<Value>(work());
-            executor.post([state = std::move(state), value = std::move(value)] {
-                state->finished.push_back(std::move(*value));
+        // Its room is there before the call begins, which may use up the memory.
+        auto ending = std::make_shared<Ending>();
+        executor.startInBackground([&executor, state = state_, ending = std::move(ending),
+                                    work = std::move(work)]() mutable {
+            try {
+                ending->value.emplace(work());
+            } catch (...) {
+                ending->failure = std::current_exception();
+            }
+            executor.post([state = std::move(state), ending = std::move(ending)] {
+                state->finished.push_back(ending);
                 if (auto waiting = std::exchange(state->waiting, nullptr)) waiting.resume();
             });
         });
+        ++running_;
     }
 
     /// How many calls have been started whose value has not been taken.
@@ -51,17 +61,22 @@ class BackgroundGroup {
             }
             Value await_resume() {
                 --group->running_;
-                Value value = std::move(group->state_->finished.front());
+                const auto ending = std::move(group->state_->finished.front());
                 group->state_->finished.pop_front();
-                return value;
+                if (ending->failure) std::rethrow_exception(ending->failure);
+                return std::move(*ending->value);
             }
         };
         return Awaiter{this};
     }
 
  private:
+    struct Ending {
+        std::optional<Value> value;
+        std::exception_ptr failure;
+    };
     struct State {
-        std::deque<Value> finished;
+        std::deque<std::shared_ptr<Ending>> finished;
         std::coroutine_handle<> waiting;
     };
     std::shared_ptr<State> state_ = std::make_shared<State>();
@@ -85,5 +100,17 @@ class [[nodiscard]] background {
  private:
     BackgroundGroup<std::invoke_result_t<Work&>> group_;
 };
+
+/// Awaits the call; `otherwise` stands for the value of one that an exception ended: an act for
+/// which there was no memory is an act that failed, and is told like one.
+template <class Work, class Value>
+Task<Value> valueOr(background<Work>& call, Value otherwise) {
+    try {
+        auto value = co_await call;
+        co_return value;
+    } catch (...) {
+    }
+    co_return otherwise;
+}
 
 }  // namespace tidewell

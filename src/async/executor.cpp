@@ -30,7 +30,7 @@ class DetachedTask {
         std::suspend_never initial_suspend() noexcept { return {}; }
         std::suspend_never final_suspend() noexcept { return {}; }
         void return_void() {}
-        [[noreturn]] void unhandled_exception() noexcept { std::terminate(); }
+        void unhandled_exception() noexcept { Executor::main().fail(std::current_exception()); }
     };
 };
 

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <coroutine>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <set>
@@ -30,9 +31,11 @@ class Executor {
     virtual void post(Work turn) = 0;
     /// The same, once `delay` has passed. Main thread only.
     virtual void postAfter(Duration delay, Work turn) = 0;
-    /// Runs `work` on a thread of its own, so that nothing starves behind work that hangs.
-    /// Main thread only.
+    /// Runs `work` on a thread of its own, so that nothing starves behind work that hangs; where
+    /// the machine gives no thread, on the main thread in a later turn. Main thread only.
     virtual void startInBackground(Work work) = 0;
+    /// Takes the exception that left a spawned task, a turn or a background call. Any thread.
+    virtual void fail(std::exception_ptr failure) noexcept = 0;
 
  protected:
     /// Drops every spawned task that has not ended. Called by a derived class's destructor, while

@@ -9,8 +9,9 @@
 namespace tidewell {
 
 /// An awaitable operation: `Task<> startScan();` runs when somebody awaits it, once, and resumes
-/// that caller when it ends. Failures never travel as errors in this program, so an exception
-/// that leaves a task ends the process, and so does a second await.
+/// that caller when it ends. What a machine may answer never travels as an exception in this
+/// program; one that leaves a task (no memory left) reaches whoever awaits it, and the executor if
+/// nobody does. A second await ends the process.
 ///
 /// Two habits keep g++ 12 from destroying things twice: what is awaited has a name whenever it
 /// holds a lambda or braces, and a coroutine is a named function, or a lambda that captures
@@ -33,9 +34,17 @@ class TaskPromiseBase {
 
     std::suspend_always initial_suspend() noexcept { return {}; }
     ResumeCaller final_suspend() noexcept { return {}; }
-    [[noreturn]] void unhandled_exception() noexcept { std::terminate(); }
+    void unhandled_exception() noexcept { failure_ = std::current_exception(); }
 
     std::coroutine_handle<> caller = std::noop_coroutine();
+
+ protected:
+    void throwFailure() const {
+        if (failure_) std::rethrow_exception(failure_);
+    }
+
+ private:
+    std::exception_ptr failure_;
 };
 
 template <class Value>
@@ -46,7 +55,10 @@ class TaskPromise : public TaskPromiseBase {
     void return_value(Result&& result) {
         value_.emplace(std::forward<Result>(result));
     }
-    Value takeValue() { return std::move(*value_); }
+    Value takeValue() {
+        throwFailure();
+        return std::move(*value_);
+    }
 
  private:
     std::optional<Value> value_;
@@ -57,7 +69,7 @@ class TaskPromise<void> : public TaskPromiseBase {
  public:
     Task<void> get_return_object();
     void return_void() {}
-    void takeValue() {}
+    void takeValue() const { throwFailure(); }
 };
 
 }  // namespace detail

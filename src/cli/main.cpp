@@ -1,6 +1,7 @@
 #include <exception>
 #include <iostream>
 
+#include "async/failure.h"
 #include "cli/arguments.h"
 #include "cli/context.h"
 #include "platform/terminal.h"
@@ -49,9 +50,9 @@ int main(int count, char** words) {
     tidewell::keepStandardStreamsApart();
     try {
         return tidewell::cli::runWords(count, words);
-    } catch (const std::exception& problem) {
-        std::cerr << "tidewell-cli: something went wrong inside the program: " << problem.what()
-                  << '\n';
+    } catch (...) {
+        std::cerr << "tidewell-cli: something went wrong inside the program: "
+                  << tidewell::failureText(std::current_exception()) << '\n';
         return static_cast<int>(tidewell::cli::ExitStatus::internalError);
     }
 }

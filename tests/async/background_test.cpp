@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -103,6 +104,49 @@ TEST(BackgroundGroupTest, MayGoAwayBeforeItsCallsEnd) {
     EXPECT_EQ(value, 2);
     loop.finish();
     EXPECT_EQ(value, 2);
+}
+
+Task<> takeUntilOneFails(std::vector<int>& taken) {
+    BackgroundGroup<int> group;
+    group.start([] { return 1; });
+    group.start([]() -> int { throw std::runtime_error("no memory"); });
+    group.start([] { return 3; });
+    while (group.running() > 0) {
+        try {
+            auto value = co_await group.next();
+            taken.push_back(value);
+        } catch (const std::runtime_error&) {
+            taken.push_back(-1);
+        }
+    }
+}
+
+Task<> awaitsWhatFails(Names& log) {
+    auto reading = background([]() -> int { throw std::runtime_error("no memory"); });
+    co_await reading;
+    log.push_back("went on");
+}
+
+Task<> awaitsATaskThatFails(Names& log) {
+    try {
+        co_await awaitsWhatFails(log);
+    } catch (const std::runtime_error&) {
+        log.push_back("failed");
+        throw;
+    }
+}
+
+TEST(BackgroundTest, BringsAFailureToWhoeverAwaitsItAndToTheExecutorIfNobodyKeepsIt) {
+    TestLoop loop;
+    std::vector<int> taken;
+    spawn(takeUntilOneFails(taken));
+    loop.runAll();
+    EXPECT_EQ(taken, (std::vector<int>{1, -1, 3}));
+
+    Names log;
+    spawn(awaitsATaskThatFails(log));
+    EXPECT_THROW(loop.runAll(), std::runtime_error);
+    EXPECT_EQ(log, Names{"failed"});
 }
 
 TEST(BackgroundTest, DropsAtQuitWhatWaitsForCallsThatNeverEnd) {

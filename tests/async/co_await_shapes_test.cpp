@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -113,6 +114,30 @@ Task<int> earlyReturns() {
     co_return -1;
 }
 
+Task<Counted> failing(Counted given) {
+    co_await sleepFor(1ms);
+    if (*given.value > 0) throw std::runtime_error("failed");
+    co_return given;
+}
+
+Task<int> failures() {
+    const Counted local(1);
+    int caught = 0;
+    try {
+        const auto none = co_await failing(Counted(0));
+        auto working = background([local]() -> Counted { throw Counted(*local.value); });
+        co_await working;
+    } catch (const Counted& thrown) {
+        caught = *thrown.value;
+    }
+    try {
+        co_await failing(local);
+    } catch (const std::exception&) {
+        ++caught;
+    }
+    co_return caught;
+}
+
 using Shape = Task<int> (*)();
 
 Task<> run(Shape shape, int& outcome) {
@@ -129,7 +154,7 @@ struct Row {
 constexpr Row rows[] = {
     {"temporaries", temporaries, 3},    {"named lambdas", namedLambdas, 3},
     {"conditions", conditions, 3},      {"loops and bindings", loopsAndBindings, 5},
-    {"early returns", earlyReturns, 0},
+    {"early returns", earlyReturns, 0}, {"failures", failures, 2},
 };
 
 TEST(CoAwaitShapesTest, DestroyEverythingOnceWhenTheyEnd) {

@@ -3,13 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <functional>
 #include <latch>
 #include <memory>
+#include <new>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "async/background.h"
+#include "async/failure.h"
+#include "support/no_more_threads.h"
 
 namespace tidewell::test {
 
@@ -96,7 +100,8 @@ TEST(GuestLoopTest, IsCarriedByAForeignLoopThatItWakes) {
     ForeignLoop foreign;
     bool ended = false;
     std::vector<int> values;
-    GuestLoop guest([&] { foreign.wake(); });
+    bool hasFailed = false;
+    GuestLoop guest([&] { foreign.wake(); }, [&](const auto&) { hasFailed = true; });
     EXPECT_FALSE(guest.timeToNextTurn()) << "nothing is due, ever";
     guest.postAfter(1h, [] {});
     EXPECT_GT(*guest.timeToNextTurn(), 59min);
@@ -104,6 +109,10 @@ TEST(GuestLoopTest, IsCarriedByAForeignLoopThatItWakes) {
     EXPECT_EQ(*guest.timeToNextTurn(), Duration::zero());
     foreign.run(guest, ended);
     EXPECT_EQ(values, (std::vector<int>{0, 10, 20}));
+    guest.fail(std::make_exception_ptr(std::bad_alloc()));
+    EXPECT_EQ(*guest.timeToNextTurn(), Duration::zero());
+    guest.runTurn();
+    EXPECT_TRUE(hasFailed);
 }
 
 /// Calls a few hundred of which run at once and report progress while they do.
@@ -171,6 +180,49 @@ TEST(RunLoopTest, AtQuitDropsWhatWaitsAndWaitsForTheCallsInHand) {
     EXPECT_TRUE(ended);
     EXPECT_FALSE(wentOn);
     releasing.join();
+}
+
+TEST(RunLoopTest, WorksOnByItselfWhereNoThreadIsToBeHad) {
+    const NoMoreThreads none;
+    ASSERT_THROW(std::thread([] {}), std::system_error);
+    RunLoop loop;
+    auto counter = std::make_shared<Counter>();
+    spawn(counter, &Counter::run, 20, 4, &loop);
+    loop.run();
+    EXPECT_EQ(counter->sum, 20 * 19 / 2);
+    EXPECT_EQ(counter->progress, 20 * 4);
+}
+
+/// Fails in each place in which something can: a task, a turn, a call that nobody awaits.
+TEST(RunLoopTest, ThrowsWhatFailedAndRunsTheOtherTurns) {
+    const auto fail = [] { throw std::bad_alloc(); };
+    const std::vector<std::function<void(RunLoop&)>> places = {
+        [](RunLoop&) {
+            constexpr auto failing = []() -> Task<> {
+                auto work = background([]() -> int { throw std::bad_alloc(); });
+                co_await work;
+            };
+            spawn(failing());
+        },
+        [fail](RunLoop& loop) { loop.post(fail); },
+        [fail](RunLoop& loop) { loop.postAfter(1ms, fail); },
+        [fail](RunLoop& loop) { loop.startInBackground(fail); },
+    };
+    for (const auto& place : places) {
+        RunLoop loop;
+        bool othersRan = false;
+        place(loop);
+        loop.post([&] { othersRan = true; });
+        try {
+            loop.run();
+            FAIL() << "it was not told";
+        } catch (...) {
+            EXPECT_EQ(failureText(std::current_exception()), "there is not enough memory");
+        }
+        EXPECT_TRUE(othersRan);
+        loop.post([&] { loop.quit(); });
+        loop.run();
+    }
 }
 
 }  // namespace

@@ -140,27 +140,20 @@ TEST(TaskTest, AwaitsManyTasksThatEndAtOnceInOneLoop) {
     EXPECT_EQ(sum, 1000);
 }
 
-Task<> failing() {
-    throw 1;
-    co_return;
-}
-
 Task<> awaitedTwice() {
     auto task = one();
     co_await task;
     co_await task;
 }
 
-TEST(TaskDeathTest, EndsTheProcessOnAnExceptionAndOnASecondAwait) {
+TEST(TaskDeathTest, EndsTheProcessOnASecondAwait) {
     TestLoop loop;
-    for (auto* wrong : {&failing, &awaitedTwice}) {
-        EXPECT_DEATH(
-            {
-                spawn(wrong());
-                loop.runTurn();
-            },
-            "");
-    }
+    EXPECT_DEATH(
+        {
+            spawn(awaitedTwice());
+            loop.runTurn();
+        },
+        "");
     EXPECT_DEATH(TestLoop second, "") << "there is one main thread";
 }
 

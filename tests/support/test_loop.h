@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <exception>
 #include <map>
 #include <utility>
 #include <vector>
@@ -10,7 +11,8 @@
 namespace tidewell::test {
 
 /// A main thread whose turns, time and background work a test drives step by step, all on the
-/// test's own thread: nothing sleeps, and every order of events can be made to happen.
+/// test's own thread: nothing sleeps, and every order of events can be made to happen. What fails
+/// is thrown to the test at the end of the turn.
 class TestLoop final : public Executor {
  public:
     ~TestLoop() override { dropTasks(); }
@@ -21,6 +23,8 @@ class TestLoop final : public Executor {
     }
     void startInBackground(Work work) override { work_.push_back(std::move(work)); }
 
+    void fail(std::exception_ptr failure) noexcept override { failure_ = std::move(failure); }
+
     /// How many background calls have been started and not yet run.
     std::size_t inBackground() const { return work_.size(); }
 
@@ -28,6 +32,7 @@ class TestLoop final : public Executor {
         std::deque<Work> due;
         due.swap(turns_);
         for (auto& turn : due) turn();
+        if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
     }
     /// Runs turns until none is due.
     void runTurns() {
@@ -61,6 +66,7 @@ class TestLoop final : public Executor {
     std::vector<Work> work_;
     std::multimap<Duration, Work> timers_;
     Duration now_{};
+    std::exception_ptr failure_;
 };
 
 }  // namespace tidewell::test

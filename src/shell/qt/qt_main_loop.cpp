@@ -1,10 +1,23 @@
 #include "shell/qt/qt_main_loop.h"
 
 #include <chrono>
+#include <iostream>
+
+#include "async/failure.h"
 
 namespace tidewell {
 
-QtMainLoop::QtMainLoop() : loop_([this] { wake(); }) {
+namespace {
+
+/// The window stays: what failed has gone back to where it can be begun again.
+void tell(const std::exception_ptr& failure) {
+    std::cerr << "tidewell: something went wrong inside the program: " << failureText(failure)
+              << std::endl;
+}
+
+}  // namespace
+
+QtMainLoop::QtMainLoop() : loop_([this] { wake(); }, tell) {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &QtMainLoop::runTurn);
