@@ -34,19 +34,25 @@ ByteCount AdvisorViewModel::reclaimableBytes() const {
 
 Task<> AdvisorViewModel::scan() {
     if (phase() == Phase::scanning) co_return;
+    const auto before = phase();
     phase = Phase::scanning;
     lastMessage = std::nullopt;
-    auto gathering = background([service = service_] { return gatherFindings(service); });
-    auto found = co_await gathering;
-    findings = std::move(found);
-    phase = Phase::list;
+    try {
+        auto gathering = background([service = service_] { return gatherFindings(service); });
+        auto found = co_await gathering;
+        findings = std::move(found);
+        phase = Phase::list;
+    } catch (...) {
+        phase = before;
+        throw;
+    }
 }
 
 Task<> AdvisorViewModel::deleteRuntime(SimRuntime runtime) {
     busyAction = runtime.id;
     auto deleting =
         background([service = service_, runtime] { return service.deleteRuntime(runtime); });
-    const bool deleted = co_await deleting;
+    const bool deleted = co_await valueOr(deleting, false);
     busyAction = std::nullopt;
     lastOutcome_ = deleted ? ActionOutcome::succeeded : ActionOutcome::failed;
     if (!deleted) {
@@ -63,7 +69,7 @@ Task<> AdvisorViewModel::deleteRuntime(SimRuntime runtime) {
 Task<> AdvisorViewModel::removeUnavailableSims() {
     busyAction = std::string(unavailableSimsAction);
     auto removing = background([service = service_] { return service.removeUnavailableSims(); });
-    const bool removed = co_await removing;
+    const bool removed = co_await valueOr(removing, false);
     busyAction = std::nullopt;
     lastOutcome_ = removed ? ActionOutcome::succeeded : ActionOutcome::failed;
     if (!removed) {
@@ -77,7 +83,7 @@ Task<> AdvisorViewModel::removeUnavailableSims() {
 Task<> AdvisorViewModel::thinSnapshots() {
     busyAction = std::string(snapshotsAction);
     auto thinning = background([service = service_] { return service.thinSnapshots(); });
-    const bool thinned = co_await thinning;
+    const bool thinned = co_await valueOr(thinning, false);
     busyAction = std::nullopt;
     lastOutcome_ = thinned ? ActionOutcome::succeeded : ActionOutcome::failed;
     if (!thinned) {

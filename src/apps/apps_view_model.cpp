@@ -21,6 +21,7 @@ ByteCount AppsViewModel::totalAppBytes() const {
 
 Task<> AppsViewModel::scan() {
     if (phase() == Phase::scanning) co_return;
+    const auto before = phase();
     phase = Phase::scanning;
     scanProgress = 0.0;
     lastResult = std::nullopt;
@@ -30,19 +31,30 @@ Task<> AppsViewModel::scan() {
             if (const auto self = weak.lock()) self->scanProgress = fraction;
         });
     };
-    auto scanning = background([scanner = scanner, report] { return scanner.scan(report); });
-    auto found = co_await scanning;
-    apps = std::move(found);
-    scanProgress = 1.0;
-    phase = Phase::list;
+    try {
+        auto scanning = background([scanner = scanner, report] { return scanner.scan(report); });
+        auto found = co_await scanning;
+        apps = std::move(found);
+        scanProgress = 1.0;
+        phase = Phase::list;
+    } catch (...) {
+        phase = before;
+        throw;
+    }
 }
 
 Task<> AppsViewModel::prepareUninstall(InstalledApp app) {
     isBuildingPlan = true;
-    auto searching = background([scanner = scanner, app] { return scanner.findLeftovers(app); });
-    auto leftovers = co_await searching;
-    isBuildingPlan = false;
-    pendingPlan = UninstallPlan{.app = std::move(app), .leftovers = std::move(leftovers)};
+    try {
+        auto searching =
+            background([scanner = scanner, app] { return scanner.findLeftovers(app); });
+        auto leftovers = co_await searching;
+        isBuildingPlan = false;
+        pendingPlan = UninstallPlan{.app = std::move(app), .leftovers = std::move(leftovers)};
+    } catch (...) {
+        isBuildingPlan = false;
+        throw;
+    }
 }
 
 Task<> AppsViewModel::confirmUninstall() {
@@ -51,7 +63,10 @@ Task<> AppsViewModel::confirmUninstall() {
     // The sheet closes before the work starts.
     pendingPlan = std::nullopt;
     auto uninstalling = background([scanner = scanner, plan] { return scanner.uninstall(plan); });
-    auto result = co_await uninstalling;
+    UninstallResult failed;
+    failed.appName = plan.app.name;
+    failed.failed.push_back(plan.app.name);
+    auto result = co_await valueOr(uninstalling, failed);
     if (result.appBundleMoved)
         std::erase_if(apps.mutate(),
                       [&](const InstalledApp& app) { return app.id == plan.app.id; });

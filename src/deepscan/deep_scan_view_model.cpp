@@ -33,26 +33,34 @@ DeepScanViewModel::DeepScanViewModel(const Host& host)
 
 Task<> DeepScanViewModel::scan() {
     if (phase() == Phase::scanning) co_return;
+    const auto before = phase();
     phase = Phase::scanning;
     scanProgress = 0.0;
     lastResult = std::nullopt;
 
-    auto scanning = background([walk = scanner_, installers = installerScanner_,
-                                containers = containerScanner_, progress = progressHop()] {
-        auto walked = walk.scan(progress);
-        auto foundInstallers = installers.scan();
-        auto foundContainers = containers.scan();
-        return mergeDeepScan(std::move(walked), std::move(foundInstallers),
-                             std::move(foundContainers), containers.walkExclusionPaths());
-    });
-    auto found = co_await scanning;
-    items = std::move(found);
-    phase = Phase::list;
+    try {
+        auto scanning = background([walk = scanner_, installers = installerScanner_,
+                                    containers = containerScanner_, progress = progressHop()] {
+            auto walked = walk.scan(progress);
+            auto foundInstallers = installers.scan();
+            auto foundContainers = containers.scan();
+            return mergeDeepScan(std::move(walked), std::move(foundInstallers),
+                                 std::move(foundContainers), containers.walkExclusionPaths());
+        });
+        auto found = co_await scanning;
+        items = std::move(found);
+        phase = Phase::list;
+    } catch (...) {
+        phase = before;
+        throw;
+    }
 }
 
 Task<> DeepScanViewModel::trash(BigItem item) {
     auto trashing = background([scanner = scanner_, item] { return scanner.trash(item); });
-    auto outcome = co_await trashing;
+    BigItemScanner::TrashOutcome failed;
+    failed.name = item.name;
+    auto outcome = co_await valueOr(trashing, failed);
     if (outcome.success)
         std::erase_if(items.mutate(),
                       [&item](const BigItem& listed) { return listed.id == item.id; });

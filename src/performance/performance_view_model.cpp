@@ -47,16 +47,22 @@ ByteCount PerformanceViewModel::totalAppMemory() const {
 
 Task<> PerformanceViewModel::scan() {
     if (phase() == Phase::scanning) co_return;
+    const auto before = phase();
     phase = Phase::scanning;
     busyPID = std::nullopt;
     lastMessage = std::nullopt;
-    auto probing = background([probed = service] { return runAllProbes(probed); });
-    auto found = co_await probing;
-    apps = std::move(found.apps);
-    loginItems = std::move(found.loginItems);
-    memoryUsed = found.memory.used;
-    memoryTotal = found.memory.total;
-    phase = Phase::list;
+    try {
+        auto probing = background([probed = service] { return runAllProbes(probed); });
+        auto found = co_await probing;
+        apps = std::move(found.apps);
+        loginItems = std::move(found.loginItems);
+        memoryUsed = found.memory.used;
+        memoryTotal = found.memory.total;
+        phase = Phase::list;
+    } catch (...) {
+        phase = before;
+        throw;
+    }
 }
 
 Termination PerformanceViewModel::quit(const RunningApp& app) {
@@ -70,12 +76,17 @@ Termination PerformanceViewModel::quit(const RunningApp& app) {
 
 Task<> PerformanceViewModel::refreshAfterQuit() {
     co_await sleepFor(timeToClose);
-    auto probing = background([probed = service] { return runLightProbes(probed); });
-    auto found = co_await probing;
-    apps = std::move(found.apps);
-    memoryUsed = found.memory.used;
-    memoryTotal = found.memory.total;
-    busyPID = std::nullopt;
+    try {
+        auto probing = background([probed = service] { return runLightProbes(probed); });
+        auto found = co_await probing;
+        apps = std::move(found.apps);
+        memoryUsed = found.memory.used;
+        memoryTotal = found.memory.total;
+        busyPID = std::nullopt;
+    } catch (...) {
+        busyPID = std::nullopt;
+        throw;
+    }
 }
 
 }  // namespace tidewell

@@ -86,6 +86,15 @@ void SmartScanController::start() {
 }
 
 Task<> SmartScanController::run(std::int64_t generation) {
+    try {
+        co_await runTools(generation);
+    } catch (...) {
+        if (!isStale(generation)) stop();
+        throw;
+    }
+}
+
+Task<> SmartScanController::runTools(std::int64_t generation) {
     phase = Phase::clean;
     co_await cleanup->startScan();
     if (isStale(generation)) co_return;

@@ -64,6 +64,7 @@ class SmartScanController : public std::enable_shared_from_this<SmartScanControl
     void beginGeneration();
     bool isStale(std::int64_t generation) const { return generation != runID_; }
     Task<> run(std::int64_t generation);
+    Task<> runTools(std::int64_t generation);
 
     /// The generation of the run. It only goes up, so that the task of a run that was stopped, or
     /// overtaken by a newer one, finds on waking that it is stale and ends.
