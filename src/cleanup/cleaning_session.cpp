@@ -79,13 +79,41 @@ Task<> CleaningSession::cleanTicked() {
     for (const auto& item : ticked) {
         if (!mayBeginItems_) break;
         auto cleaning = background([scanner = scanner_, item] { return scanner.clean(item); });
-        auto result = co_await cleaning;
+        const DiskScanner::CleanResult failure{.freedBytes = 0, .failedTitle = item.target.title};
+        auto result = co_await valueOr(cleaning, failure);
         freed = addSaturating(freed, result.freedBytes);
         if (result.failedTitle) failed.push_back(std::move(*result.failedTitle));
         cleanProgress = fraction(++finished, ticked.size());
     }
     freedBytes = freed;
     failedTitles = std::move(failed);
+}
+
+void CleaningSession::abandonScan() {
+    currentTarget = std::nullopt;
+    phase = Phase::idle;
+}
+
+Task<> CleaningSession::storeFreed(Store store) {
+    store_ = std::move(store);
+    unstored_ = addSaturating(unstored_, freedBytes());
+    co_await tryToStore();
+    if (!isSumStored()) spawn(shared_from_this(), &CleaningSession::storeLater);
+}
+
+/// The amount is taken out while it is being written, so that two attempts never write it twice.
+Task<> CleaningSession::tryToStore() {
+    const auto amount = std::exchange(unstored_, 0);
+    auto storing = background([store = store_, amount] { return store(amount); });
+    const auto written = co_await valueOr(storing, UserDefaults::Written::no);
+    if (written == UserDefaults::Written::no) unstored_ = addSaturating(unstored_, amount);
+}
+
+Task<> CleaningSession::storeLater() {
+    while (!isSumStored()) {
+        co_await sleepFor(storingInterval);
+        co_await tryToStore();
+    }
 }
 
 void CleaningSession::forgetRun() {

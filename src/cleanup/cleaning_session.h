@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,6 +11,7 @@
 #include "async/task.h"
 #include "cleanup/disk_scanner.h"
 #include "cleanup/item_selection.h"
+#include "platform/user_defaults.h"
 
 namespace tidewell {
 
@@ -31,6 +34,8 @@ class TickBinding {
 
 /// How many targets are measured at once.
 inline constexpr int measuringWidth = 4;
+/// Between two attempts to write down what was freed.
+inline constexpr Duration storingInterval = std::chrono::seconds(5);
 
 /// What the Clean tool and Dev Mode have in common: targets are measured, the user ticks items, and
 /// what is ticked is cleaned, one item after the other. Main thread only; the slow work runs in the
@@ -75,6 +80,10 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     /// begin, until the next scan or a reset.
     void stopAfterItemInHand() { mayBeginItems_ = false; }
 
+    /// Whether what was freed is in the sum that the program keeps for good. Until then it is tried
+    /// again every few seconds.
+    bool isSumStored() const { return unstored_ == 0; }
+
  protected:
     explicit CleaningSession(const Host& host) : scanner_(host) {}
     ~CleaningSession() = default;
@@ -91,11 +100,23 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     /// written down behind it.
     Task<> cleanTicked();
 
+    /// Adds an amount to the sum; on any thread.
+    using Store = std::function<UserDefaults::Written(ByteCount freed)>;
+    /// Stores what was freed. Ends behind the first attempt: another program may hold the file.
+    Task<> storeFreed(Store store);
+
     void beginScan();
+    /// For a scan that an exception ended.
+    void abandonScan();
     void forgetRun();
 
  private:
+    Task<> tryToStore();
+    Task<> storeLater();
+
     DiskScanner scanner_;
+    Store store_;
+    ByteCount unstored_ = 0;
     bool mayBeginItems_ = true;
 };
 

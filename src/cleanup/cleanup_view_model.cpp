@@ -18,10 +18,12 @@ auto isIn(CleanupCategory category) {
 }
 
 /// Adds a clean's result to what the program keeps for good.
-void storeCleanup(UserDefaults defaults, ByteCount freed, Date at) {
+UserDefaults::Written storeCleanup(UserDefaults defaults, ByteCount freed, Date at) {
     const std::chrono::duration<double> sinceEpoch = at.time_since_epoch();
-    defaults.add(totalFreedBytesKey, freed);
-    defaults.setReal(lastCleanupAtKey, sinceEpoch.count());
+    const auto written = defaults.add(totalFreedBytesKey, freed);
+    if (written == UserDefaults::Written::yes)
+        defaults.setReal(lastCleanupAtKey, sinceEpoch.count());
+    return written;
 }
 
 }  // namespace
@@ -73,9 +75,14 @@ Task<> CleanupViewModel::startScan() {
     if (isBusy()) co_return;
     beginScan();
     freeSpaceBefore = scanner().availableCapacity();
-    auto found = co_await measured(cleanupCatalogue(host_));
-    items = std::move(found);
-    phase = Phase::review;
+    try {
+        auto found = co_await measured(cleanupCatalogue(host_));
+        items = std::move(found);
+        phase = Phase::review;
+    } catch (...) {
+        abandonScan();
+        throw;
+    }
 }
 
 Task<> CleanupViewModel::cleanSelected() {
@@ -84,11 +91,10 @@ Task<> CleanupViewModel::cleanSelected() {
     co_await cleanTicked();
     freeSpaceAfter = scanner().availableCapacity();
 
-    auto storing = background([defaults = defaults_, freed = freedBytes(), at = now()] {
-        storeCleanup(defaults, freed, at);
-        return true;
-    });
-    co_await storing;
+    const auto store = [defaults = defaults_, at = now()](ByteCount freed) {
+        return storeCleanup(defaults, freed, at);
+    };
+    co_await storeFreed(store);
     phase = Phase::done;
 }
 

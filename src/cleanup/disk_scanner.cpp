@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <utility>
 #include <vector>
 
@@ -109,7 +110,7 @@ DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
     auto outcome = Removal::complete;
     ByteCount left = 0;
     for (const auto& path : item.resolvedPaths)
-        if (cleanPath(path) == Removal::incomplete) outcome = Removal::incomplete;
+        if (attempt(path) == Removal::incomplete) outcome = Removal::incomplete;
     for (std::size_t i = 0; i < item.resolvedPaths.size(); ++i) {
         const auto now = diskUsage(item.resolvedPaths[i]);
         left = addSaturating(left, mayBeLeft(now, measureAtScan(item, i)));
@@ -119,6 +120,15 @@ DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
                        .failedTitle = std::nullopt};
     if (outcome == Removal::incomplete) result.failedTitle = item.target.title;
     return result;
+}
+
+/// A path for which the memory does not suffice stays, and stops no other: what went is counted.
+Removal DiskScanner::attempt(const std::string& path) const {
+    try {
+        return cleanPath(path);
+    } catch (const std::exception&) {
+        return Removal::incomplete;
+    }
 }
 
 Removal DiskScanner::cleanPath(const std::string& path) const {

@@ -46,6 +46,7 @@ class DiskScanner {
 
  private:
     std::vector<std::string> sweptChildren(const std::string& sweptFolder) const;
+    Removal attempt(const std::string& path) const;
     Removal cleanPath(const std::string& path) const;
 
     Host host_;

@@ -1,5 +1,6 @@
 #include "cli/cleaning_tool.h"
 
+#include <iostream>
 #include <utility>
 
 #include "cleanup/screens/scan_content.h"
@@ -30,6 +31,9 @@ ExitStatus cleanToEnd(const Context& context, CleaningSession& session, Task<> c
         progress.show(session.cleanProgress(), cleaningTitle);
     });
     runToEnd(context.loop, std::move(cleaning));
+    if (!session.isSumStored())
+        std::cerr << "tidewell-cli: what was freed could not be added to the sum of all cleans: "
+                     "another program holds its file, or it cannot be written\n";
     const bool leftSomething = !session.failedTitles().empty() || watch.wasInterrupted();
     return leftSomething ? ExitStatus::leftBehind : ExitStatus::done;
 }

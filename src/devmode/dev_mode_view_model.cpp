@@ -34,21 +34,26 @@ Task<> DevModeViewModel::scan() {
     if (isBusy()) co_return;
     beginScan();
     models = std::vector<AIModelStore>{};
-    auto found = co_await measured(devTargets(host_));
-    auto searchingModels = background([scanner = aiScanner_] { return scanner.scan(); });
-    auto stores = co_await searchingModels;
-    items = std::move(found);
-    models = std::move(stores);
-    phase = Phase::review;
+    try {
+        auto found = co_await measured(devTargets(host_));
+        auto searchingModels = background([scanner = aiScanner_] { return scanner.scan(); });
+        auto stores = co_await searchingModels;
+        items = std::move(found);
+        models = std::move(stores);
+        phase = Phase::review;
+    } catch (...) {
+        abandonScan();
+        throw;
+    }
 }
 
 Task<> DevModeViewModel::clean() {
     if (!canClean()) co_return;
     co_await cleanTicked();
-    auto storing = background([defaults = defaults_, freed = freedBytes()]() mutable {
+    const auto store = [defaults = defaults_](ByteCount freed) mutable {
         return defaults.add(totalFreedBytesKey, freed);
-    });
-    co_await storing;
+    };
+    co_await storeFreed(store);
     phase = Phase::done;
 }
 

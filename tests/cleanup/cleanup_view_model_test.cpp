@@ -1,9 +1,15 @@
 #include "cleanup/cleanup_view_model.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <new>
 
 #include "cleanup/screens/review_content.h"
 #include "cleanup/screens/scan_content.h"
+#include "support/allocation_failure.h"
 #include "support/sample_machine.h"
 #include "support/test_loop.h"
 
@@ -30,6 +36,7 @@ class CleanTool : public ::testing::Test {
         for (const auto& item : model->items()) found.push_back(item.target.id);
         return found;
     }
+    UserDefaults defaults() const { return UserDefaults(machine.host().configurationDirectory); }
     const CleanupItem& item(std::string_view id) const { return *findItem(model->items(), id); }
 
     SampleMachine machine;
@@ -169,6 +176,49 @@ TEST_F(CleanTool, StopsBehindTheItemInHandWhenAskedTo) {
     scan();
     clean();  // the wish does not outlive its clean
     EXPECT_FALSE(machine.has("~/.m2/repository/jar"));
+}
+
+TEST_F(CleanTool, GoesOnWithoutMemoryAndTellsWhatFailed) {
+    machine.file("~/.npm/one", 8192);
+    machine.file("~/.Trash/movie", 65536);
+    spawn(model, &CleanupViewModel::startScan);
+    loop.runTurns();
+    test::failNextAllocation();
+    EXPECT_THROW(loop.finish(), std::bad_alloc);
+    EXPECT_EQ(model->phase(), Phase::idle);
+
+    scan();
+    ASSERT_EQ(model->phase(), Phase::review);
+    model->selectAll(Tick::on);
+    spawn(model, &CleanupViewModel::cleanSelected);
+    loop.runTurns();
+    test::failNextAllocation();
+    loop.runAll();
+    EXPECT_EQ(model->phase(), Phase::done);
+    EXPECT_EQ(model->failedTitles(), std::vector<std::string>{"Empty Trash"});
+    EXPECT_EQ(model->freedBytes(), 8192);
+    EXPECT_EQ(defaults().integer("totalFreedBytes"), 8192);
+}
+
+TEST_F(CleanTool, AddsToTheSumOnceWhoeverHoldsItsFileLetsGo) {
+    machine.file("~/.npm/one", 8192);
+    scan();
+    ASSERT_EQ(defaults().add("totalFreedBytes", 1), UserDefaults::Written::yes);
+    const auto lock = machine.host().configurationDirectory + "/defaults.lock";
+    const int holder = ::open(lock.c_str(), O_RDWR);
+    ASSERT_EQ(::flock(holder, LOCK_EX), 0);
+    clean();
+    EXPECT_EQ(model->phase(), Phase::done);
+    EXPECT_FALSE(model->isSumStored());
+    EXPECT_EQ(defaults().integer("totalFreedBytes"), 1);
+
+    ::close(holder);
+    for (int round = 0; round < 2; ++round) {
+        loop.advance(storingInterval);
+        loop.runAll();
+        EXPECT_TRUE(model->isSumStored());
+        EXPECT_EQ(defaults().integer("totalFreedBytes"), 8193);
+    }
 }
 
 TEST_F(CleanTool, ChangesTheTicksThatAreMeantAndNoOthers) {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "shell/smart_scan_test.h"
+#include "support/allocation_failure.h"
 #include "support/simulator_tools.h"
 
 namespace tidewell::test {
@@ -127,6 +128,20 @@ TEST_F(SmartScanControllerTest, AStartIsRefusedDuringARunAndAfterAStopUntilTheSc
     const std::vector expected = {Phase::done,     Phase::clean,   Phase::apps,
                                   Phase::deepScan, Phase::advisor, Phase::done};
     EXPECT_EQ(phasesToTheEnd(), expected);
+}
+
+TEST_F(SmartScanControllerTest, ARunWhoseToolHasNoMemoryEndsAndCanBeStartedAgain) {
+    for (const auto failing : {Phase::clean, Phase::apps, Phase::deepScan, Phase::advisor}) {
+        controller->start();
+        runUntil(failing);
+        test::failNextAllocation();
+        EXPECT_THROW(loop.finish(), std::bad_alloc);
+        EXPECT_EQ(controller->phase(), Phase::done);
+        EXPECT_TRUE(controller->stopped());
+    }
+    controller->start();
+    EXPECT_EQ(phasesToTheEnd().back(), Phase::done);
+    EXPECT_FALSE(controller->stopped());
 }
 
 TEST_F(SmartScanControllerTest, AToolThatIsBusyByItselfKeepsARunFromStarting) {

@@ -6,8 +6,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <optional>
+#include <thread>
 
 #include "platform/byte_count.h"
 #include "platform/files.h"
@@ -43,15 +45,30 @@ Stored readStored(const std::string& folder) {
     return {.condition = Condition::readable, .values = std::move(*values)};
 }
 
+using Clock = std::chrono::steady_clock;
+
+/// A writer needs the lock for as long as one small file takes. One that keeps it longer was
+/// stopped in the middle, and may be so for good.
+constexpr std::chrono::seconds patience(2);
+constexpr std::chrono::milliseconds attemptInterval(2);
+
+bool lockBefore(Clock::time_point end, const posix::Descriptor& file) {
+    for (;;) {
+        const auto lock = [&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); };
+        if (posix::retrying(lock) == 0) return true;
+        if (errno != EWOULDBLOCK || Clock::now() >= end) return false;
+        std::this_thread::sleep_for(attemptInterval);
+    }
+}
+
 /// Holds off every other writer, of this process and of others, as long as it lives; false if the
-/// lock could not be had. The lock file itself stays empty and is never removed: whoever waits for
-/// it has it open.
-posix::Descriptor lockFolder(const std::string& folder) {
+/// lock could not be had in time. The lock file itself stays empty and is never removed: whoever
+/// waits for it has it open.
+posix::Descriptor lockFolder(const std::string& folder, std::chrono::seconds wait) {
     const auto path = joinPath(folder, "defaults.lock");
     posix::Descriptor file(
         ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600));
-    const auto lock = [&] { return ::flock(file.get(), LOCK_EX); };
-    if (!file || posix::retrying(lock) != 0) return posix::Descriptor();
+    if (!file || !lockBefore(Clock::now() + wait, file)) return posix::Descriptor();
     return file;
 }
 
@@ -100,11 +117,12 @@ bool replaceFile(const std::string& folder, std::string_view bytes) {
 }
 
 /// The values as they stand. Damage is looked at again under the lock before anything is renamed:
-/// another program may have mended it meanwhile.
+/// another program may have mended it meanwhile. Whoever holds the lock mends it himself: nobody
+/// waits to look.
 Value readValues(const std::string& folder) {
     auto stored = readStored(folder);
     if (stored.condition != Condition::damaged) return std::move(stored.values);
-    const auto lock = lockFolder(folder);
+    const auto lock = lockFolder(folder, std::chrono::seconds::zero());
     if (!lock) return std::move(stored.values);
     stored = readStored(folder);
     if (stored.condition == Condition::damaged) setAside(folder);
@@ -119,7 +137,7 @@ UserDefaults::Written change(const std::string& folder, std::string_view key, co
     using Written = UserDefaults::Written;
     if (!isOwnPlace(folder)) return Written::no;
     makeFolders(folder);
-    const auto lock = lockFolder(folder);
+    const auto lock = lockFolder(folder, patience);
     if (!lock) return Written::no;
     const auto stored = readStored(folder);
     if (stored.condition == Condition::unreadable) return Written::no;
