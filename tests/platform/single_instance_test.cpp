@@ -1,13 +1,20 @@
 #include "platform/single_instance.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <future>
 
 #include "support/child_process.h"
+#include "support/no_more_threads.h"
 #include "support/temporary_folder.h"
 
 namespace tidewell {
@@ -81,6 +88,49 @@ TEST_F(SingleInstanceTest, WhatAFirstStartLeavesBehindStandsInNobodysWay) {
     EXPECT_EQ(SingleInstance(host).send("x"), Delivery::taken);
 }
 
+TEST_F(SingleInstanceTest, AFirstStartThatWasStoppedKeepsNoLaterOneWaiting) {
+    test::ChildProcess first([this] {
+        SingleInstance instance(host);
+        instance.listen([](const std::string&) {});
+        ::raise(SIGSTOP);
+        return true;
+    });
+    ::waitpid(-1, nullptr, WUNTRACED);
+    ASSERT_EQ(sockets().size(), 1);
+    std::vector<std::future<Delivery>> later;
+    for (int start = 0; start < 12; ++start)
+        later.push_back(
+            std::async(std::launch::async, [this] { return SingleInstance(host).send("x"); }));
+    for (auto& start : later) {
+        ASSERT_EQ(start.wait_for(std::chrono::seconds(20)), std::future_status::ready);
+        EXPECT_EQ(start.get(), Delivery::failed);
+    }
+    first.kill();
+}
+
+TEST_F(SingleInstanceTest, WithoutDescriptorsTheFirstRestsAndHearsTheMessageLater) {
+    SingleInstance first(host);
+    std::promise<std::string> heard;
+    first.listen([&](const std::string& message) { heard.set_value(message); });
+    rlimit usual{};
+    ::getrlimit(RLIMIT_NOFILE, &usual);
+    const int next = ::dup(0);
+    ::close(next);
+    test::ChildProcess later([this] {
+        ::usleep(100'000);
+        return SingleInstance(host).send("x") == Delivery::taken;
+    });
+    const rlimit none{.rlim_cur = static_cast<rlim_t>(next), .rlim_max = usual.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    const auto before = std::clock();
+    ::usleep(600'000);
+    const auto spent = std::clock() - before;
+    ::setrlimit(RLIMIT_NOFILE, &usual);
+    EXPECT_EQ(heard.get_future().get(), "x");
+    EXPECT_TRUE(later.succeeded());
+    EXPECT_LT(spent, CLOCKS_PER_SEC / 5) << "it went round and round";
+}
+
 TEST_F(SingleInstanceTest, AMessageThatIsTooLongIsNotTaken) {
     SingleInstance first(host);
     first.listen([](const std::string& message) { EXPECT_EQ(message, "short"); });
@@ -98,6 +148,12 @@ TEST_F(SingleInstanceTest, WithoutAFolderOfTheUsersOwnEveryStartIsTheFirst) {
     EXPECT_EQ(other.role(), Role::first);
     EXPECT_EQ(other.listen([](const std::string&) {}), Reach::none);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+TEST_F(SingleInstanceTest, WithoutAThreadNothingIsHeardAndNothingEnds) {
+    const test::NoMoreThreads none;
+    SingleInstance deaf(host);
+    EXPECT_EQ(deaf.listen([](const std::string&) {}), Reach::none);
 }
 
 }  // namespace

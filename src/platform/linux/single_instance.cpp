@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <optional>
+#include <system_error>
 #include <thread>
 
 #include "platform/path_text.h"
@@ -32,6 +33,7 @@ constexpr timeval patience{.tv_sec = 2, .tv_usec = 0};
 /// The first start may hold the lock and not listen yet.
 constexpr int connectionAttempts = 60;
 constexpr std::chrono::milliseconds attemptInterval(50);
+constexpr int pauseWithoutDescriptors = 200;  // milliseconds
 constexpr char taken = '+';
 
 /// The user's own folder for what lives as long as the session; empty if there is none that nobody
@@ -64,8 +66,8 @@ bool isHeldByAnother(const Descriptor& file) {
     return ::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
-Descriptor localSocket() {
-    return Descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+Descriptor localSocket(int flags = 0) {
+    return Descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
 }
 
 std::optional<sockaddr_un> socketAddress(const std::string& path) {
@@ -132,13 +134,18 @@ bool sendAll(const Descriptor& connection, std::string_view bytes) {
     return ::shutdown(connection.get(), SHUT_WR) == 0;
 }
 
+/// A first start that does not get to its messages (it was stopped) has a full queue, and a call
+/// that waits for room there would wait for good: it is tried again like one that does not listen
+/// yet.
 Descriptor connectTo(const std::string& path) {
     const auto address = socketAddress(path);
     if (!address) return Descriptor();
     const auto* generic = reinterpret_cast<const sockaddr*>(&*address);
     for (int attempt = 0; attempt < connectionAttempts; ++attempt) {
-        auto socket = localSocket();
-        if (socket && ::connect(socket.get(), generic, sizeof(*address)) == 0) return socket;
+        auto socket = localSocket(SOCK_NONBLOCK);
+        if (socket && ::connect(socket.get(), generic, sizeof(*address)) == 0 &&
+            ::fcntl(socket.get(), F_SETFL, 0) == 0)
+            return socket;
         std::this_thread::sleep_for(attemptInterval);
     }
     return Descriptor();
@@ -163,6 +170,8 @@ void SingleInstance::Link::run(const std::function<void(std::string)>& received)
         if (posix::retrying([&] { return ::poll(waiting.data(), waiting.size(), -1); }) < 0) return;
         if (waiting[1].revents != 0) return;
         const Descriptor connection(::accept4(listening.get(), nullptr, nullptr, SOCK_CLOEXEC));
+        // Without a descriptor for it the caller stays in the queue, ready at once every time.
+        if (!connection) ::poll(&waiting[1], 1, pauseWithoutDescriptors);
         if (auto message = receive(connection)) {
             ::send(connection.get(), &taken, 1, MSG_NOSIGNAL);
             received(std::move(*message));
@@ -194,9 +203,14 @@ SingleInstance::Reach SingleInstance::listen(std::function<void(std::string)> re
     link_->listening = listeningSocket(link_->socketPath);
     if (!link_->listening || ::pipe2(ends.data(), O_CLOEXEC) != 0) return Reach::none;
     link_->end = {Descriptor(ends[0]), Descriptor(ends[1])};
-    link_->thread =
-        std::thread([link = link_.get(), received = std::move(received)] { link->run(received); });
-    return Reach::open;
+    try {
+        link_->thread = std::thread(
+            [link = link_.get(), received = std::move(received)] { link->run(received); });
+        return Reach::open;
+    } catch (const std::system_error&) {
+        link_->listening = Descriptor();  // so that no later start waits for an answer
+        return Reach::none;
+    }
 }
 
 SingleInstance::Delivery SingleInstance::send(const std::string& message) const {
