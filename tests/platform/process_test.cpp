@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <future>
@@ -19,6 +20,8 @@
 namespace tidewell::test {
 
 namespace {
+
+using namespace std::chrono_literals;
 
 class Process : public testing::Test {
  protected:
@@ -126,6 +129,43 @@ TEST_F(Process, SignalsThatArriveMeanwhileDisturbNothing) {
     ASSERT_TRUE(run);
     EXPECT_EQ(run->output.size(), 2'000'000U);
     EXPECT_EQ(run->exitStatus, 6);
+}
+
+using Clock = std::chrono::steady_clock;
+
+TEST_F(Process, AToolIsOverWhenItHasEndedWhateverItLeavesRunning) {
+    const auto begin = Clock::now();
+    const auto run = this->run("sleep 30 & echo $!; exit 7");
+    EXPECT_LT(Clock::now() - begin, 20s);
+    ASSERT_TRUE(run);
+    EXPECT_EQ(run->exitStatus, 7);
+    const auto left = static_cast<pid_t>(std::stol(run->output));
+    EXPECT_EQ(::kill(left, SIGKILL), 0) << "it went on undisturbed";
+}
+
+TEST_F(Process, EndlessOutputIsCutAndAnEndlessToolEndsAtItsLimit) {
+    const auto talking = run("exec yes");
+    ASSERT_TRUE(talking);
+    EXPECT_EQ(talking->output.size(), longestToolOutput);
+    EXPECT_EQ(talking->exitStatus, std::nullopt);
+
+    machine_.tool("/tool", "echo begun; sleep 30; echo done");
+    for (const auto output : {ToolOutput::keep, ToolOutput::discard}) {
+        const auto begin = Clock::now();
+        const auto hanging = runTool(machine_.path("/tool"), {}, output, 200ms);
+        EXPECT_LT(Clock::now() - begin, 20s);
+        ASSERT_TRUE(hanging);
+        EXPECT_EQ(hanging->exitStatus, std::nullopt);
+        EXPECT_EQ(hanging->output, output == ToolOutput::keep ? "begun\n" : "");
+    }
+}
+
+TEST_F(Process, HowAToolEndsIsKnownAlsoWhereTheParentWantsToKnowOfNoChild) {
+    auto* const handler = ::signal(SIGCHLD, SIG_IGN);
+    const auto run = this->run("sh -c 'exit 4'; exit $?");
+    ::signal(SIGCHLD, handler);
+    ASSERT_TRUE(run);
+    EXPECT_EQ(run->exitStatus, 4);
 }
 
 TEST_F(Process, AToolInheritsNoDescriptorOfAnotherRun) {
