@@ -10,8 +10,8 @@ namespace tidewell {
 /// The few values that outlive the program, in one small file of the user's. The window and the
 /// command line may have it open at once: every call reads the file anew, and every change holds a
 /// lock over its read and write, so that no sum is lost. A write is seen whole or not at all, also
-/// after a crash; one that fails (a full disk, a read-only folder, another program that does not let
-/// go of the lock for two seconds) leaves the old values. A damaged file is set aside as
+/// after a crash; one that fails (a full disk, a read-only folder, another program that does not
+/// let go of the lock for two seconds) leaves the old values. A damaged file is set aside as
 /// "defaults.json.damaged" and read as empty. Any thread.
 class UserDefaults {
  public:
