@@ -3,7 +3,8 @@
 #include <string_view>
 
 #include "platform/disk_usage.h"
-#include "platform/linux/measuring_pool.h"
+#include "platform/linux/folder_measurer.h"
+#include "platform/linux/work_pool.h"
 
 namespace {
 
@@ -11,8 +12,8 @@ using namespace tidewell;
 
 /// Without the process's own pool, whose width follows from the machine.
 ByteCount measuredBy(int threads, const char* path) {
-    auto folder = posix::openFolder(path);
-    return folder ? linux_system::MeasuringPool::make(threads).measure(std::move(folder)) : 0;
+    auto& pool = linux_system::WorkPool::make(threads);
+    return linux_system::usageBelow(pool, posix::openFolder(path)).bytes;
 }
 
 }  // namespace

@@ -4,15 +4,12 @@
 #include <gtest/gtest.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
-#include <sched.h>
 #include <sys/mount.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -22,14 +19,18 @@
 
 #include "cleanup/deletion_guard.h"
 #include "support/sample_machine.h"
+#include "support/separate_process.h"
 
 namespace tidewell {
 namespace {
 
+using test::becomeOrdinaryUser;
+using test::enterOwnMountSpace;
+using test::expectInSeparateProcess;
+using test::limitDescriptors;
 using test::SampleMachine;
+using test::skipSeparateProcess;
 namespace fs = std::filesystem;
-
-constexpr uid_t nobody = 65534;
 
 DeletablePath approved(const SampleMachine& machine, std::string_view path) {
     return DeletionGuard(machine.host()).approve(machine.path(path)).value();
@@ -42,27 +43,6 @@ Removal removeAt(const SampleMachine& machine, std::string_view path) {
 Removal emptyAt(const SampleMachine& machine, std::string_view path) {
     const auto folder = approved(machine, path);
     return emptyFolder(folder, DeletionGuard(machine.host()).childGuard(folder));
-}
-
-enum class Verdict { held, failed, notPossible };
-
-/// Runs a part in a process of its own, which may change its user, its mounts and its limits.
-template <class Part>
-Verdict apart(Part part) {
-    const auto child = ::fork();
-    if (child == 0) ::_exit(static_cast<int>(part()));
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? static_cast<Verdict>(WEXITSTATUS(status)) : Verdict::failed;
-}
-
-Verdict held(bool condition) {
-    return condition ? Verdict::held : Verdict::failed;
-}
-
-bool hasOwnMounts() {
-    return ::unshare(CLONE_NEWNS) == 0 &&
-           ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 bool mountAgain(const std::string& source, const std::string& target) {
@@ -193,7 +173,7 @@ TEST(Removal, IsNotLedAwayByALinkPutInPlaceMeanwhile) {
 
 /// Exchanges each sub-folder of a tree with a link into Documents, over and over, while the tree is
 /// removed: a name that was listed as a folder is as likely as not a link when it is entered.
-Verdict surviveSwaps() {
+void surviveSwaps() {
     const SampleMachine machine;
     constexpr int victims = 50;
     constexpr int folders = 50;
@@ -223,70 +203,136 @@ Verdict surviveSwaps() {
     int left = 0;
     for (int file = 0; file < victims; ++file)
         left += machine.has("~/Documents/" + std::to_string(file));
-    return held(left == victims && swaps >= 1000);
+    EXPECT_EQ(left, victims);
+    EXPECT_GE(swaps, 1000);
 }
 
 TEST(Removal, LosesNothingToThousandsOfSwapsWhileItRuns) {
-    EXPECT_EQ(surviveSwaps(), Verdict::held);
+    surviveSwaps();
 }
 
 /// Bind mounts of one disk, which its number does not tell apart: as a child, far down, as a file,
 /// and in place of the folder that is emptied.
-Verdict surviveMounts() {
+void surviveMounts() {
     const SampleMachine machine;
     machine.text("~/Documents/thesis", "x");
     for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
         machine.folder(folder);
     machine.file("~/Library/tree/a/file");
     machine.file("~/.cache/file");
-    if (!hasOwnMounts()) return Verdict::notPossible;
+    if (!enterOwnMountSpace()) skipSeparateProcess();
     for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
-        if (!mountAgain(machine.path("~/Documents"), machine.path(folder)))
-            return Verdict::notPossible;
-    bool isWell = removeAt(machine, "~/Library/tree") == Removal::incomplete;
-    isWell &= emptyAt(machine, "~/.cache") == Removal::incomplete;
-    isWell &= emptyAt(machine, "~/.npm") == Removal::incomplete;
-    isWell &= removeAt(machine, "~/.npm") == Removal::incomplete;
-    isWell &= machine.has("~/Documents/thesis");
+        ASSERT_TRUE(mountAgain(machine.path("~/Documents"), machine.path(folder)));
+    EXPECT_EQ(removeAt(machine, "~/Library/tree"), Removal::incomplete);
+    EXPECT_EQ(emptyAt(machine, "~/.cache"), Removal::incomplete);
+    EXPECT_EQ(emptyAt(machine, "~/.npm"), Removal::incomplete);
+    EXPECT_EQ(removeAt(machine, "~/.npm"), Removal::incomplete);
+    EXPECT_TRUE(machine.has("~/Documents/thesis"));
     for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
         ::umount2(machine.path(folder).c_str(), MNT_DETACH);
-    return held(isWell && machine.has("~/Documents/thesis") &&
-                !machine.has("~/Library/tree/a/file") && !machine.has("~/.cache/file"));
+    EXPECT_TRUE(machine.has("~/Documents/thesis"));
+    EXPECT_FALSE(machine.has("~/Library/tree/a/file") || machine.has("~/.cache/file"));
 }
 
 TEST(Removal, DoesNotEnterWhatIsMountedThere) {
-    const auto verdict = apart(surviveMounts);
-    if (verdict == Verdict::notPossible) GTEST_SKIP() << "may not mount";
-    EXPECT_EQ(verdict, Verdict::held);
+    expectInSeparateProcess(surviveMounts);
 }
 
 TEST(Removal, KeepsItsPromisesOnAKernelThatCannotOpenConfined) {
-    const auto swaps =
-        apart([] { return loseConfinedOpen() ? surviveSwaps() : Verdict::notPossible; });
-    const auto mounts =
-        apart([] { return loseConfinedOpen() ? surviveMounts() : Verdict::notPossible; });
-    if (swaps == Verdict::notPossible) GTEST_SKIP() << "may not filter system calls";
-    EXPECT_EQ(swaps, Verdict::held);
-    if (mounts == Verdict::notPossible) GTEST_SKIP() << "may not mount";
-    EXPECT_EQ(mounts, Verdict::held);
+    expectInSeparateProcess([] {
+        if (!loseConfinedOpen()) skipSeparateProcess();
+        surviveSwaps();
+        surviveMounts();
+    });
+}
+
+int entriesIn(const std::string& folder) {
+    int count = 0;
+    std::error_code missing;
+    for (fs::directory_iterator entry(folder, missing), end; entry != end; entry.increment(missing))
+        ++count;
+    return count;
+}
+
+/// A folder that is moved away while it is emptied, or one that it lies in.
+struct Move {
+    std::string removed;
+    std::string filled;  ///< where the many files lie
+    std::string from;
+    std::string to;
+    std::string filledAfterwards;
+};
+
+/// Threads that are each between two looks at where their folder lies.
+constexpr int mayBeLost = 8 * 64;
+
+/// Moves as soon as the first file is gone, and counts what is there from then on.
+void losesNothingTo(const Move& move, const std::function<void(const SampleMachine&)>& prepare) {
+    const SampleMachine machine;
+    prepare(machine);
+    machine.folder("~/Applications");
+    machine.folder("~/Documents");
+    constexpr int files = 20000;
+    machine.folder(move.filled);
+    const int filled = ::open(machine.path(move.filled).c_str(), O_PATH | O_DIRECTORY);
+    for (int file = 0; file < files; ++file)
+        ::close(::openat(filled, std::to_string(file).c_str(), O_CREAT | O_WRONLY, 0600));
+    ::close(filled);
+    int whenMoved = 0;
+    std::thread moving([&] {
+        const auto folder = machine.path(move.filled);
+        const auto untouched = fs::last_write_time(folder);
+        std::error_code gone;
+        while (fs::last_write_time(folder, gone) == untouched && !gone) std::this_thread::yield();
+        const auto result =
+            std::rename(machine.path(move.from).c_str(), machine.path(move.to).c_str());
+        whenMoved = result == 0 ? entriesIn(machine.path(move.filledAfterwards)) : 0;
+    });
+    const auto removal = removeAt(machine, move.removed);
+    moving.join();
+    EXPECT_EQ(removal, Removal::incomplete) << move.to;
+    EXPECT_GT(whenMoved, mayBeLost) << "moved too late to tell";
+    EXPECT_GE(entriesIn(machine.path(move.filledAfterwards)), whenMoved - mayBeLost) << move.to;
+}
+
+const std::vector<Move>& moves() {
+    static const std::vector<Move> all = {
+        {.removed = "~/.cache/updater",
+         .filled = "~/.cache/updater/stage/New.app",
+         .from = "~/.cache/updater/stage/New.app",
+         .to = "~/Applications/New.app",
+         .filledAfterwards = "~/Applications/New.app"},
+        {.removed = "~/.cache/updater",
+         .filled = "~/.cache/updater/stage/New.app/Contents/Resources",
+         .from = "~/.cache/updater/stage",
+         .to = "~/Documents/stage",
+         .filledAfterwards = "~/Documents/stage/New.app/Contents/Resources"},
+        {.removed = "~/.cache/updater",
+         .filled = "~/.cache/updater",
+         .from = "~/.cache",
+         .to = "~/Documents/cache",
+         .filledAfterwards = "~/Documents/cache/updater"},
+    };
+    return all;
+}
+
+TEST(Removal, StopsInAFolderThatIsMovedAwayMeanwhile) {
+    for (const auto& move : moves()) losesNothingTo(move, [](const SampleMachine&) {});
 }
 
 TEST(Removal, ReachesAnyDepthWithFewDescriptors) {
-    const auto verdict = apart([] {
+    expectInSeparateProcess([] {
         const SampleMachine machine;
         makeChain(machine.path("~/Library/chain"), 2500);
-        const rlimit few{.rlim_cur = 16, .rlim_max = 16};
-        ::setrlimit(RLIMIT_NOFILE, &few);
-        const auto removal = removeAt(machine, "~/Library/chain");
-        return held(removal == Removal::complete && !machine.has("~/Library/chain"));
+        limitDescriptors(16);
+        EXPECT_EQ(removeAt(machine, "~/Library/chain"), Removal::complete);
+        EXPECT_FALSE(machine.has("~/Library/chain"));
     });
-    EXPECT_EQ(verdict, Verdict::held);
 }
 
 TEST(Removal, GoesOnAfterAFailureAndChangesNoPermissions) {
-    const auto verdict = apart([] {
-        if (::getuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            return Verdict::notPossible;
+    expectInSeparateProcess([] {
+        becomeOrdinaryUser();
         const SampleMachine machine;
         makeFlat(machine, "~/Library/tree", 20, 20);
         makeChain(machine.path("~/Library/tree/chain"), 100);
@@ -297,19 +343,17 @@ TEST(Removal, GoesOnAfterAFailureAndChangesNoPermissions) {
         fs::permissions(machine.path("~/Library/tree/7/locked"), fs::perms(0500));
         fs::permissions(machine.path("~/Library/tree/7/unlisted"), fs::perms(0300));
         fs::permissions(machine.path("~/Library/tree/7/empty-unlisted"), fs::perms(0));
-        const auto removal = removeAt(machine, "~/Library/tree");
+        EXPECT_EQ(removeAt(machine, "~/Library/tree"), Removal::incomplete);
         std::vector<std::string> left;
         for (const auto& entry : fs::recursive_directory_iterator(
                  machine.path("~/Library/tree"), fs::directory_options::skip_permission_denied))
             left.push_back(entry.path().filename());
-        const bool isUnchanged =
-            (fs::status(machine.path("~/Library/tree/7/locked")).permissions() == fs::perms(0500));
-        return held(removal == Removal::incomplete && isUnchanged && left.size() == 4 &&
-                    machine.has("~/Library/tree/7/locked/file") &&
-                    machine.has("~/Library/tree/7/unlisted/file"));
+        EXPECT_EQ(left.size(), 4U);
+        EXPECT_TRUE(machine.has("~/Library/tree/7/locked/file"));
+        EXPECT_TRUE(machine.has("~/Library/tree/7/unlisted/file"));
+        EXPECT_EQ(fs::status(machine.path("~/Library/tree/7/locked")).permissions(),
+                  fs::perms(0500));
     });
-    if (verdict == Verdict::notPossible) GTEST_SKIP() << "may not become another user";
-    EXPECT_EQ(verdict, Verdict::held);
 }
 
 TEST(Removal, SharesATreeWithAnotherRemovalAndWithNewFiles) {

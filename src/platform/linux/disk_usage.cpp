@@ -6,12 +6,12 @@
 
 #include "platform/linux/descriptor_limit.h"
 #include "platform/linux/folder_measurer.h"
-#include "platform/linux/measuring_pool.h"
+#include "platform/linux/work_pool.h"
 
 namespace tidewell {
 namespace {
 
-using linux_system::MeasuringPool;
+using linux_system::WorkPool;
 
 /// Disks answer sooner the more they are asked at once, so there are threads to spare; where all is
 /// in memory, they cost next to nothing. A thread needs a few descriptors.
@@ -26,9 +26,9 @@ int poolWidth() {
 }  // namespace
 
 DiskUsage diskUsage(const std::string& path) {
-    static auto& pool = MeasuringPool::make(poolWidth());
-    auto folder = posix::openFolder(path);
-    if (folder) return pool.measure(std::move(folder));
+    static auto& pool = WorkPool::make(poolWidth());
+    const auto folder = posix::openFolder(path);
+    if (folder) return linux_system::usageBelow(pool, folder);
     DiskUsage usage;
     const bool isNoFolder = linux_system::isGone();
     const auto size = linux_system::sizeOfRegularFile(AT_FDCWD, path.c_str());

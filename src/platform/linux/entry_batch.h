@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace tidewell {
+#include "platform/linux/folder_reader.h"
+
+namespace tidewell::linux_system {
 
 /// A name in a folder, with the file system's own number of what it names.
 struct NumberedEntry {
@@ -24,6 +26,6 @@ struct EntryBatch {
 /// Goes on reading an open folder from where its descriptor stands, so that a folder of any size is
 /// read in bounded memory. Absent if it cannot be read; a folder that was removed meanwhile holds
 /// nothing.
-std::optional<EntryBatch> readBatch(int folder);
+std::optional<EntryBatch> readBatch(FolderReader& reader, int folder);
 
-}  // namespace tidewell
+}  // namespace tidewell::linux_system

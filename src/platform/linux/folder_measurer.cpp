@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/linux/descriptor_limit.h"
+
 namespace tidewell::linux_system {
 namespace {
 
@@ -25,9 +27,17 @@ ByteCount allocatedBytes(const struct stat& status) {
     return S_ISREG(status.st_mode) ? status.st_blocks * bytesPerBlock : 0;
 }
 
-/// Where a reading stopped would be lost with the descriptor.
-bool canBeLetGo(const FolderWork& work) {
-    return work.descriptor && !work.isUnread;
+/// How many descriptors all threads together should hold, if the process may open so many.
+constexpr std::size_t descriptorBudget = 256;
+
+/// What a thread opens besides the folders that it holds: the one that it reads, the one that it
+/// came from, and two on the way to one that was let go.
+constexpr std::size_t descriptorsInUse = 4;
+
+std::size_t foldersHeld(int threads) {
+    const auto budget = std::min(descriptorBudget, descriptorLimit() / 2);
+    const auto ofThread = budget / static_cast<std::size_t>(threads);
+    return ofThread > descriptorsInUse ? ofThread - descriptorsInUse : 1;
 }
 
 }  // namespace
@@ -42,61 +52,80 @@ bool isGone() {
     return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
 }
 
-DiskUsage FolderMeasurer::run(FolderWork first) {
-    works_.push_back(std::move(first));
-    for (; !works_.empty(); ++steps_) {
-        const int appetite = pool_.appetite();
+DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder) {
+    return withHelpersOrWithout([&](Helpers helpers) {
+        Measure measure{.job = Job(pool, helpers),
+                        .foldersHeldByThread = foldersHeld(pool.width())};
+        // With a file position of its own: a second attempt begins anew.
+        posix::Descriptor own(::openat(folder.get(), ".", posix::openFolderFlags));
+        const auto which = own ? mountedFolder(own.get()) : std::nullopt;
+        if (!which) {
+            measure.found.unread.addUnknown();
+            return std::move(measure.found);
+        }
+        const auto top = FolderPointer<TreeFolder>::top(*which);
+        const auto open = top->hold(std::move(own));
+        measure.job.run(std::make_unique<FolderMeasurer>(
+            measure, FolderWork{.folder = top, .descriptor = open, .isUnread = true}));
+        return std::move(measure.found);
+    });
+}
+
+FolderMeasurer::FolderMeasurer(Measure& measure, FolderWork first)
+    : FolderMeasurer(measure, WayDown<FolderWork>(measure.foldersHeldByThread)) {
+    works_.enter(std::move(first));
+}
+
+void FolderMeasurer::work(Role role) {
+    for (; !works_.isEmpty(); ++steps_) {
+        const int appetite = measure_.job.appetite();
         if (appetite > 0) share();
-        if (appetite < 0 && stepBack_ == StepBack::whenCrowded) {
+        if (appetite < 0 && role == Role::helper) {
             stepBack();
             break;
         }
-        auto& work = works_.back();
-        if (work.isDone() || !isOpen(work)) {
-            works_.pop_back();
-        } else if (!work.files.isEmpty()) {
-            measureFilesOf(work);
-        } else if (!work.subfolders.isEmpty()) {
-            enterSubfolder();
-        } else {
-            read(work);
-        }
+        step();
     }
-    return std::move(found_);
+    const std::lock_guard lock(measure_.mutex);
+    measure_.found.bytes += found_.bytes;
+    measure_.found.unread.add(found_.unread);
 }
 
-/// Leaves half of the first folder's sub-folders to others, or all that is left of it.
+void FolderMeasurer::step() {
+    auto& work = works_.last();
+    if (work.isDone()) {
+        works_.leave();
+    } else if (!works_.openLast()) {
+        found_.unread.addUnknown();
+        works_.leave();
+    } else if (!work.files.isEmpty()) {
+        measureFilesOf(work);
+    } else if (!work.subfolders.isEmpty()) {
+        enterSubfolder();
+    } else {
+        read(work);
+    }
+}
+
+/// Leaves half of the oldest folder's sub-folders to others, or all that is left of it.
 void FolderMeasurer::share() {
     if (steps_ < stepsAlone) return;
-    auto& oldest = works_.front();
-    if (oldest.subfolders.hasSeveral()) {
-        auto part = oldest.emptyPart();
-        part.subfolders = oldest.subfolders.takeHalf();
-        pool_.offer(measure_, std::move(part));
-    } else if (works_.size() > 1) {
-        pool_.offer(measure_, std::move(oldest));
-        works_.erase(works_.begin());
+    const auto* last = &works_.last();
+    auto* oldest = works_.oldestToShare(
+        [&](const FolderWork& work) { return &work != last || work.subfolders.hasSeveral(); });
+    if (!oldest) return;
+    if (oldest->subfolders.hasSeveral()) {
+        auto part = oldest->emptyPart();
+        part.subfolders = oldest->subfolders.takeHalf();
+        measure_.job.offer(std::make_unique<FolderMeasurer>(measure_, std::move(part)));
+    } else {
+        measure_.job.offer(std::make_unique<FolderMeasurer>(measure_, works_.take(*oldest)));
     }
 }
 
 /// Leaves all to others, for whom it may have to wait: with as few descriptors as can be.
 void FolderMeasurer::stepBack() {
-    for (auto& work : works_) {
-        if (canBeLetGo(work)) work.descriptor = nullptr;
-        pool_.offer(measure_, std::move(work));
-    }
-    works_.clear();
-}
-
-bool FolderMeasurer::isOpen(FolderWork& work) {
-    if (work.descriptor) return true;
-    auto again = work.place.open(measure_.start->get());
-    if (!again) {
-        found_.unread.addUnknown();
-        return false;
-    }
-    work.descriptor = std::make_shared<const posix::Descriptor>(std::move(again));
-    return true;
+    measure_.job.offer(std::make_unique<FolderMeasurer>(measure_, works_.takeAll()));
 }
 
 /// What vanishes was not missed.
@@ -125,44 +154,28 @@ void FolderMeasurer::measureFilesOf(FolderWork& work) {
 /// A folder that is done with its last sub-folder's opening is closed then, so that a long chain of
 /// folders holds none open.
 void FolderMeasurer::enterSubfolder() {
-    auto& parent = works_.back();
+    auto& parent = works_.last();
     auto subfolder = entered(parent, parent.subfolders.takeLast());
-    if (parent.isDone()) works_.pop_back();
-    if (!subfolder) return;
-    works_.push_back(std::move(*subfolder));
-    letGoOfFoldersAbove();
+    if (parent.isDone()) works_.leave();
+    if (subfolder) works_.enter(std::move(*subfolder));
 }
 
 std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent, std::string name) {
     const int place = parent.descriptor->get();
-    posix::Descriptor folder(::openat(place, name.c_str(), posix::openFolderFlags));
-    const auto identity = folder ? mountedFolder(folder.get()) : std::nullopt;
-    if (!identity) {
+    posix::Descriptor opened(::openat(place, name.c_str(), posix::openFolderFlags));
+    const auto which = opened ? mountedFolder(opened.get()) : std::nullopt;
+    if (!which) {
         missed(place, name);
         return std::nullopt;
     }
-    if (parent.place.isLoop(*identity)) return std::nullopt;
+    if (parent.folder->isLoop(*which)) return std::nullopt;
+    const auto folder = parent.folder.below(std::move(name), *which);
     return FolderWork{
-        .place = parent.place.below(std::move(name), *identity),
-        .descriptor = std::make_shared<const posix::Descriptor>(std::move(folder)),
-        .isUnread = true,
-    };
-}
-
-/// Of those that are too many, the ones that are needed last.
-void FolderMeasurer::letGoOfFoldersAbove() {
-    const auto mayBeHeld = static_cast<std::ptrdiff_t>(pool_.foldersHeldByThread());
-    if (std::ssize(works_) <= mayBeHeld) return;
-    auto tooMany = std::ranges::count_if(works_, canBeLetGo) - mayBeHeld;
-    for (auto work = works_.begin(); tooMany > 0; ++work) {
-        if (!canBeLetGo(*work)) continue;
-        work->descriptor = nullptr;
-        --tooMany;
-    }
+        .folder = folder, .descriptor = folder->hold(std::move(opened)), .isUnread = true};
 }
 
 void FolderMeasurer::read(FolderWork& work) {
-    const bool mayHaveToBeLetGo = works_.size() > pool_.foldersHeldByThread();
+    const bool mayHaveToBeLetGo = works_.size() > measure_.foldersHeldByThread;
     while (mayHaveToBeLetGo || work.subfolders.sizeInMemory() < subfolderNamesAtOnce) {
         const auto reading = reader_.readPortion(work.descriptor->get());
         if (reading == FolderReader::Reading::failed) found_.unread.addUnknown();
@@ -175,13 +188,13 @@ void FolderMeasurer::read(FolderWork& work) {
 
 void FolderMeasurer::sortPortion(FolderWork& work) {
     portion_.clear();
-    reader_.forEachEntry([&](const char* name, unsigned char type) {
-        if (type == DT_REG) {
-            portion_.push_back(name);
-        } else if (type == DT_DIR) {
-            work.subfolders.add(name);
-        } else if (type == DT_UNKNOWN) {
-            addUntold(work, name);
+    reader_.forEachEntry([&](const ReadEntry& entry) {
+        if (entry.type == DT_REG) {
+            portion_.push_back(entry.name);
+        } else if (entry.type == DT_DIR) {
+            work.subfolders.add(entry.name);
+        } else if (entry.type == DT_UNKNOWN) {
+            addUntold(work, entry.name);
         }
     });
 }
@@ -198,7 +211,7 @@ void FolderMeasurer::addUntold(FolderWork& work, const char* name) {
 void FolderMeasurer::measurePortion(const FolderWork& work) {
     const int folder = work.descriptor->get();
     for (std::size_t next = 0; next < portion_.size(); ++next) {
-        if (next % filesBetweenLooks == filesBetweenLooks - 1 && pool_.appetite() > 0)
+        if (next % filesBetweenLooks == filesBetweenLooks - 1 && measure_.job.appetite() > 0)
             shareRestOfPortion(work, next);
         measureFile(folder, portion_[next]);
     }
@@ -212,7 +225,7 @@ void FolderMeasurer::shareRestOfPortion(const FolderWork& work, std::size_t next
     std::for_each(portion_.begin() + static_cast<std::ptrdiff_t>(kept), portion_.end(),
                   [&](const char* name) { part.files.add(name); });
     portion_.resize(kept);
-    pool_.offer(measure_, std::move(part));
+    measure_.job.offer(std::make_unique<FolderMeasurer>(measure_, std::move(part)));
 }
 
 }  // namespace tidewell::linux_system

@@ -1,16 +1,17 @@
 #pragma once
 
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/byte_count.h"
 #include "platform/disk_usage.h"
 #include "platform/linux/folder_reader.h"
 #include "platform/linux/folder_work.h"
-#include "platform/linux/measuring_pool.h"
+#include "platform/linux/way_down.h"
+#include "platform/linux/work_pool.h"
 
 namespace tidewell::linux_system {
 
@@ -21,40 +22,48 @@ std::optional<ByteCount> sizeOfRegularFile(int folder, const char* name);
 /// Whether what errno says means that nothing stands there, or nothing that a measure enters.
 bool isGone();
 
-enum class StepBack { whenCrowded, never };
+/// Measures all regular files below an open folder. Blocks until the end. Throws only if the memory
+/// does not even suffice for one thread.
+DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder);
+
+/// What the threads that work on one measure have in common.
+struct Measure {
+    Job job;
+    std::size_t foldersHeldByThread;
+    std::mutex mutex;
+    DiskUsage found = {};
+};
 
 /// One thread's part in a measure: goes down into folders, the one met last first, and leaves the
 /// one met first, which is near the top and thus likely to be large, to others who want work.
-class FolderMeasurer {
+/// Helpers step back when further callers come.
+class FolderMeasurer : public Share {
  public:
-    FolderMeasurer(MeasuringPool& pool, Measure& measure, StepBack stepBack)
-        : pool_(pool), measure_(measure), stepBack_(stepBack) {}
+    FolderMeasurer(Measure& measure, WayDown<FolderWork> works)
+        : measure_(measure), works_(std::move(works)) {}
+    FolderMeasurer(Measure& measure, FolderWork first);
 
-    /// What this thread measured itself.
-    DiskUsage run(FolderWork work);
+    void work(Role role) override;
 
  private:
+    void step();
     void share();
     void stepBack();
-    bool isOpen(FolderWork& work);
     void measureFile(int folder, const char* name);
+    void missed(int folder, std::string_view name);
     void measureFilesOf(FolderWork& work);
     void enterSubfolder();
     std::optional<FolderWork> entered(const FolderWork& parent, std::string name);
-    void letGoOfFoldersAbove();
     void read(FolderWork& work);
     void sortPortion(FolderWork& work);
-    void missed(int folder, std::string_view name);
     void addUntold(FolderWork& work, const char* name);
     void measurePortion(const FolderWork& work);
     void shareRestOfPortion(const FolderWork& work, std::size_t next);
 
-    MeasuringPool& pool_;
     Measure& measure_;
-    const StepBack stepBack_;
     DiskUsage found_;
     int steps_ = 0;
-    std::vector<FolderWork> works_;  ///< the folder at work on is the last
+    WayDown<FolderWork> works_;
     FolderReader reader_;
     std::vector<const char*> portion_;  ///< the regular files among the entries just read
 };

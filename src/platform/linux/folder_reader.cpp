@@ -13,7 +13,7 @@ FolderReader::Reading FolderReader::readPortion(int folder) {
     const auto read =
         posix::retrying([&] { return ::syscall(SYS_getdents64, folder, buffer_.get(), capacity); });
     filled_ = read > 0 ? static_cast<std::size_t>(read) : 0;
-    if (filled_ > 0) return Reading::portion;
+    if (read > 0) return Reading::portion;
     return read == 0 || errno == ENOENT ? Reading::end : Reading::failed;
 }
 

@@ -3,10 +3,18 @@
 #include <dirent.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
 namespace tidewell::linux_system {
+
+/// An entry as a folder tells it.
+struct ReadEntry {
+    const char* name;
+    unsigned char type;   ///< one of readdir's d_type
+    std::uint64_t inode;  ///< the file system's own number of what it names
+};
 
 /// Reads what a folder holds a portion at a time, by the system's own call: a stream of the C
 /// library costs an allocation and two more calls a folder.
@@ -14,19 +22,21 @@ class FolderReader {
  public:
     enum class Reading { portion, end, failed };
 
-    /// Reads on where the descriptor stands. A portion may be of any size: only an empty one tells
-    /// the end. A folder that is removed meanwhile has come to its end.
+    /// Reads on where the descriptor stands; a folder that was removed meanwhile is at its end. A
+    /// portion may be of any size: only an empty one tells the end.
     Reading readPortion(int folder);
 
-    /// Calls `visit(const char* name, unsigned char type)` for each entry of the portion but "."
-    /// and ".."; the type is one of readdir's d_type. The names hold until the next portion.
+    /// Calls `visit(const ReadEntry&)` for each entry of the portion but "." and "..". The names
+    /// hold until the next portion.
     template <class Visit>
     void forEachEntry(const Visit& visit) const {
         for (std::size_t at = 0; at < filled_;) {
             const auto* record = reinterpret_cast<const Record*>(buffer_.get() + at);
             at += record->length;
             const std::string_view name = record->name;
-            if (name != "." && name != "..") visit(record->name, record->type);
+            if (name != "." && name != "..")
+                visit(
+                    ReadEntry{.name = record->name, .type = record->type, .inode = record->inode});
         }
     }
 

@@ -8,134 +8,131 @@
 #include <cerrno>
 #include <memory>
 #include <mutex>
-#include <ranges>
 #include <thread>
 #include <vector>
 
 #include "platform/linux/entry_batch.h"
 #include "platform/linux/link_free.h"
-#include "platform/linux/shared_work.h"
+#include "platform/linux/tree_folder.h"
+#include "platform/linux/way_down.h"
+#include "platform/linux/whereabouts.h"
+#include "platform/linux/work_pool.h"
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
-#include "platform/posix/folder_identity.h"
 
 namespace tidewell {
 
 namespace {
 
+using linux_system::FolderPointer;
+using linux_system::Helpers;
+using linux_system::Job;
+using linux_system::lacksDescriptors;
+using linux_system::MountedFolder;
+using linux_system::NumberedEntry;
+using linux_system::OpenFolder;
+using linux_system::Role;
+using linux_system::TreeFolder;
+using linux_system::WayDown;
+using linux_system::Whereabouts;
+using linux_system::WorkPool;
 using posix::Descriptor;
 
 // Folders are emptied depth first; whoever ends the last work in a folder removes it. A thread
 // keeps one piece of work for each folder that it is in, and gives halves of them away.
 
-/// Above this many, a folder's descriptor is closed while what lies below it is removed.
-constexpr int openFolderBudget = 64;
+/// How many of the folders that it is in a thread holds open.
+constexpr std::size_t foldersHeld = 16;
 /// How many entries a thread handles between two looks at whether another is idle; what is given
 /// away is at least as much, or whole folders.
 constexpr std::size_t sharingInterval = 64;
+/// How many entries of one folder are removed between two questions where it lies by now.
+constexpr std::size_t askingInterval = 32;
 /// How often a name may turn from a folder into something else and back before it is given up.
 constexpr int patience = 8;
 
-using OpenFolder = std::shared_ptr<const Descriptor>;
-
-class Folder {
+class Folder : public TreeFolder {
  public:
-    Folder(std::shared_ptr<Folder> above, std::string ownName, OpenFolder descriptor)
-        : parent(std::move(above)), name(std::move(ownName)), descriptor_(std::move(descriptor)) {}
+    using TreeFolder::TreeFolder;
 
-    const std::shared_ptr<Folder> parent;  ///< none for the one that everything lies below
-    const std::string name;
     std::atomic<int> workLeft = 1;  ///< pieces of work in it, and folders in it that are not done
-    std::atomic<bool> isRead = false;
     std::atomic<bool> isKept = false;  ///< because something in it stayed
     bool isReadAgain = false;          ///< used by the one thread that ended the last work in it
-
-    OpenFolder descriptor() const {
-        const std::lock_guard lock(mutex_);
-        return descriptor_;
-    }
-    void setDescriptor(OpenFolder descriptor) {
-        const std::lock_guard lock(mutex_);
-        descriptor_ = std::move(descriptor);
-    }
-    /// One that is still being read stays open, since it would have to begin anew.
-    void closeForNow() {
-        const std::lock_guard lock(mutex_);
-        if (!parent || !isRead || !descriptor_) return;
-        identity_ = posix::identityOf(descriptor_->get());
-        descriptor_.reset();
-    }
-    bool isSameAs(const Descriptor& other) const {
-        const std::lock_guard lock(mutex_);
-        return identity_ && identity_ == posix::identityOf(other.get());
-    }
-
- private:
-    mutable std::mutex mutex_;
-    OpenFolder descriptor_;
-    std::optional<posix::FolderIdentity> identity_;  ///< of a folder that was closed for now
 };
 
 /// A piece of work: entries of one folder.
 struct Piece {
-    std::shared_ptr<Folder> folder;
-    std::vector<NumberedEntry> entries;
+    using Folder = tidewell::Folder;
+
+    FolderPointer<Folder> folder;
+    OpenFolder descriptor;
+    std::vector<NumberedEntry> entries = {};
     std::size_t next = 0;
     bool readsOn = false;  ///< goes on reading the folder when the entries are used up
 
     std::size_t left() const { return entries.size() - next; }
+    /// One that is still being read would have to begin anew.
+    bool canBeLetGo() const { return !readsOn; }
+    void giveUp() {
+        entries.clear();
+        next = 0;
+        readsOn = false;
+    }
 };
 
 class TreeRemoval {
  public:
     /// The guard is asked for each entry directly in `top`, which itself stays.
-    TreeRemoval(Descriptor top, ChildGuard guard)
-        : top_(std::make_shared<Folder>(nullptr, "", hold(std::move(top)))),
-          guard_(std::move(guard)) {}
+    TreeRemoval(Descriptor top, const std::string& topPath, ChildGuard guard, Helpers helpers)
+        : which_(linux_system::mountedFolder(top.get())),
+          top_(FolderPointer<Folder>::top(which_.value_or(MountedFolder{}))),
+          openTop_(top_->hold(std::move(top))),
+          whereabouts_(topPath),
+          guard_(std::move(guard)),
+          job_(removalPool(), helpers) {}
 
     Removal removeEntry(std::string name) {
         return run({.folder = top_,
+                    .descriptor = openTop_,
                     .entries = {{.inode = 0, .name = std::move(name), .isFolder = false}}});
     }
-    Removal removeAllEntries() { return run({.folder = top_, .entries = {}, .readsOn = true}); }
+    Removal removeAllEntries() {
+        return run({.folder = top_, .descriptor = openTop_, .readsOn = true});
+    }
 
  private:
     friend class Worker;
 
+    static WorkPool& removalPool();
     Removal run(Piece first);
-    OpenFolder hold(Descriptor folder);
-    OpenFolder open(Folder& folder);
-    OpenFolder reopen(Folder& folder);
-    OpenFolder openParentOf(Folder& folder);
-    void makeRoomFor(Folder& folder);
     bool isApproved(const Folder& folder, const std::string& name);
     void keep(Folder& folder) {
         folder.isKept = true;
         isIncomplete_ = true;
     }
 
-    static int threadLimit() {
-        // More than the processors, since a disk that discards at once is waited for.
-        return std::clamp(2 * static_cast<int>(std::thread::hardware_concurrency()), 2, 8);
-    }
-
-    std::atomic<int> openFolders_ = 0;
-    std::atomic<int> budget_ = openFolderBudget;
     std::atomic<bool> isIncomplete_ = false;
-    const std::shared_ptr<Folder> top_;
+    const std::optional<MountedFolder> which_;
+    const FolderPointer<Folder> top_;
+    const OpenFolder openTop_;
+    const Whereabouts whereabouts_;
     std::mutex guardMutex_;
     const ChildGuard guard_;
+    Job job_;
 };
 
-/// What one thread does with a piece of work and all that follows from it.
-class Worker {
+/// What one thread does with some work and all that follows from it.
+class Worker : public linux_system::Share {
  public:
-    Worker(TreeRemoval& removal, SharedWork<Piece>& work) : removal_(removal), work_(work) {}
+    Worker(TreeRemoval& removal, WayDown<Piece> pieces)
+        : removal_(removal), pieces_(std::move(pieces)) {}
+    Worker(TreeRemoval& removal, Piece first) : Worker(removal, WayDown<Piece>(foldersHeld)) {
+        pieces_.enter(std::move(first));
+    }
 
-    void run(Piece first) {
-        pieces_.push_back(std::move(first));
-        for (std::size_t steps = 1; !pieces_.empty(); ++steps) {
-            if (steps % sharingInterval == 0 && work_.isWanted()) share();
+    void work(Role) override {
+        for (std::size_t steps = 1; !pieces_.isEmpty(); ++steps) {
+            if (steps % sharingInterval == 0 && removal_.job_.appetite() > 0) share();
             step();
         }
     }
@@ -143,87 +140,38 @@ class Worker {
  private:
     void step();
     void share();
-    void readOn(const std::shared_ptr<Folder>& folder);
-    void remove(const std::shared_ptr<Folder>& folder, const NumberedEntry& entry);
-    bool enter(const std::shared_ptr<Folder>& folder, int place, const NumberedEntry& entry);
+    bool isOpen();
+    bool isInPlace(const Folder& folder, const OpenFolder& open);
+    void readOn();
+    void remove(const NumberedEntry& entry);
+    bool enter(const NumberedEntry& entry);
     bool putOff(const NumberedEntry& entry);
-    bool putOffFinishing(const std::shared_ptr<Folder>& folder);
-    void finish(std::shared_ptr<Folder> folder);
-    bool removeEmptied(const std::shared_ptr<Folder>& folder);
+    bool putOffFinishing(const FolderPointer<Folder>& folder);
+    bool leaveForLater();
+    void leave();
+    OpenFolder openAbove(const Folder& folder, const OpenFolder& open);
+    bool removeEmptied(const FolderPointer<Folder>& folder, const OpenFolder& open,
+                       const OpenFolder& place);
+    bool readAgain(const FolderPointer<Folder>& folder, const OpenFolder& open);
 
     TreeRemoval& removal_;
-    SharedWork<Piece>& work_;
-    std::vector<Piece> pieces_;
+    WayDown<Piece> pieces_;
+    linux_system::FolderReader reader_;
+    std::size_t removedSinceAsked_ = 0;
+    bool isInAnotherFolder_ = true;  ///< than when it was asked where the folder lies
 };
 
+WorkPool& TreeRemoval::removalPool() {
+    // More than the processors, since a disk that discards at once is waited for.
+    static auto& pool =
+        WorkPool::make(std::clamp(2 * static_cast<int>(std::thread::hardware_concurrency()), 2, 8));
+    return pool;
+}
+
 Removal TreeRemoval::run(Piece first) {
-    SharedWork<Piece> work(threadLimit(),
-                           [&](Piece piece) { Worker(*this, work).run(std::move(piece)); });
-    work.run(std::move(first));
+    if (!which_) return Removal::incomplete;
+    job_.run(std::make_unique<Worker>(*this, std::move(first)));
     return isIncomplete_ ? Removal::incomplete : Removal::complete;
-}
-
-OpenFolder TreeRemoval::hold(Descriptor folder) {
-    ++openFolders_;
-    return OpenFolder(new Descriptor(std::move(folder)), [this](const Descriptor* held) {
-        delete held;
-        --openFolders_;
-    });
-}
-
-bool lacksDescriptors() {
-    return errno == EMFILE || errno == ENFILE;
-}
-
-/// None if the folder is not to be found where it was, or for lack of descriptors.
-OpenFolder TreeRemoval::open(Folder& folder) {
-    if (auto held = folder.descriptor()) return held;
-    auto held = reopen(folder);
-    if (held || !lacksDescriptors()) return held;
-    makeRoomFor(folder);
-    return reopen(folder);
-}
-
-/// Finds the way from the nearest folder above that is open.
-OpenFolder TreeRemoval::reopen(Folder& folder) {
-    std::vector<Folder*> closed;
-    auto* at = &folder;
-    auto held = at->descriptor();
-    for (; !held; held = at->descriptor()) {
-        closed.push_back(at);
-        at = at->parent.get();
-    }
-    for (const auto* next : closed | std::views::reverse) {
-        auto opened = link_free::openSubfolder(held->get(), next->name);
-        if (!opened || !next->isSameAs(opened)) return nullptr;
-        held = hold(std::move(opened));
-    }
-    folder.setDescriptor(held);
-    return held;
-}
-
-/// Closes what can be found again, and has less open from now on.
-void TreeRemoval::makeRoomFor(Folder& folder) {
-    budget_ = std::max(2, openFolders_ / 2);
-    for (auto* above = folder.parent.get(); above; above = above->parent.get())
-        above->closeForNow();
-}
-
-/// Going up by ".." keeps a deep tree from being walked from the top for each of its levels. It is
-/// only believed if it leads to the very folder that was left: this one may have been moved.
-OpenFolder TreeRemoval::openParentOf(Folder& folder) {
-    auto& parent = *folder.parent;
-    if (auto held = parent.descriptor()) return held;
-    if (const auto own = folder.descriptor()) {
-        Descriptor above(::openat(own->get(), "..", posix::openFolderFlags));
-        if (above && parent.isSameAs(above)) {
-            auto held = hold(std::move(above));
-            parent.setDescriptor(held);
-            return held;
-        }
-    }
-    folder.closeForNow();
-    return open(parent);
 }
 
 bool TreeRemoval::isApproved(const Folder& folder, const std::string& name) {
@@ -233,46 +181,63 @@ bool TreeRemoval::isApproved(const Folder& folder, const std::string& name) {
 }
 
 void Worker::step() {
-    auto& piece = pieces_.back();
-    const auto folder = piece.folder;
+    auto& piece = pieces_.last();
     if (piece.left() > 0) {
         const auto entry = std::move(piece.entries[piece.next++]);
-        remove(folder, entry);
+        remove(entry);
     } else if (piece.readsOn) {
-        readOn(folder);
+        readOn();
     } else {
-        pieces_.pop_back();
-        finish(folder);
+        leave();
     }
 }
 
-/// Gives away half of the oldest work, since it is the largest. In folders that are closed for now
-/// it waits until the way back leads there: another thread would have to walk down from the top.
 void Worker::share() {
-    for (auto& piece : pieces_) {
-        const auto least = &piece == &pieces_.back() ? 2 * sharingInterval : 1;
-        if (piece.left() < least || !piece.folder->descriptor()) continue;
-        const auto middle =
-            piece.entries.begin() + static_cast<std::ptrdiff_t>(piece.next + piece.left() / 2);
-        Piece half{.folder = piece.folder, .entries = {}};
-        half.entries.assign(std::move_iterator(middle), std::move_iterator(piece.entries.end()));
-        piece.entries.erase(middle, piece.entries.end());
-        ++piece.folder->workLeft;
-        work_.give(std::move(half));
-        return;
-    }
+    const auto* last = &pieces_.last();
+    auto* piece = pieces_.oldestToShare([&](const Piece& some) {
+        return some.left() >= (&some == last ? 2 * sharingInterval : 1);
+    });
+    if (!piece) return;
+    const auto middle =
+        piece->entries.begin() + static_cast<std::ptrdiff_t>(piece->next + piece->left() / 2);
+    Piece half{.folder = piece->folder, .descriptor = piece->descriptor};
+    half.entries.assign(std::move_iterator(middle), std::move_iterator(piece->entries.end()));
+    piece->entries.erase(middle, piece->entries.end());
+    ++piece->folder->workLeft;
+    removal_.job_.offer(std::make_unique<Worker>(removal_, std::move(half)));
 }
 
-void Worker::readOn(const std::shared_ptr<Folder>& folder) {
-    auto& piece = pieces_.back();
-    const auto place = removal_.open(*folder);
-    auto batch = place ? readBatch(place->get()) : std::nullopt;
+bool Worker::isOpen() {
+    if (pieces_.openLast()) return true;
+    if (!lacksDescriptors()) return false;
+    pieces_.makeRoom();
+    return pieces_.openLast();
+}
+
+/// Asks every few dozen entries and after each change of folders; in deep trees, where an answer
+/// costs more, as much more seldom.
+bool Worker::isInPlace(const Folder& folder, const OpenFolder& open) {
+    const auto interval =
+        (isInAnotherFolder_ ? 0 : askingInterval) + removal_.whereabouts_.costOf(folder);
+    if (removedSinceAsked_++ < interval) return true;
+    removedSinceAsked_ = 0;
+    isInAnotherFolder_ = false;
+    errno = 0;
+    if (removal_.whereabouts_.isInPlace(folder, open)) return true;
+    if (!lacksDescriptors()) return false;
+    pieces_.makeRoom();
+    return removal_.whereabouts_.isInPlace(folder, open);
+}
+
+void Worker::readOn() {
+    auto& piece = pieces_.last();
+    auto batch =
+        isOpen() ? linux_system::readBatch(reader_, piece.descriptor->get()) : std::nullopt;
     if (!batch) {
-        removal_.keep(*folder);
-        piece.readsOn = false;
+        removal_.keep(*piece.folder);
+        piece.giveUp();
         return;
     }
-    folder->isRead = batch->isLast;
     piece.readsOn = !batch->isLast;
     piece.entries = std::move(batch->entries);
     piece.next = 0;
@@ -283,15 +248,23 @@ bool isGone(int result) {
     return result == 0 || errno == ENOENT;
 }
 
-void Worker::remove(const std::shared_ptr<Folder>& folder, const NumberedEntry& entry) {
-    const auto place = removal_.open(*folder);
-    if (!place && lacksDescriptors() && putOff(entry)) return;
-    if (!place || !removal_.isApproved(*folder, entry.name)) return removal_.keep(*folder);
+void Worker::remove(const NumberedEntry& entry) {
+    const bool isOpened = isOpen();
+    if (!isOpened && lacksDescriptors() && putOff(entry)) return;
+    auto& piece = pieces_.last();
+    const auto folder = piece.folder;
+    const auto place = piece.descriptor;
+    if (!isOpened || !isInPlace(*folder, place)) {
+        removal_.keep(*folder);
+        piece.giveUp();
+        return;
+    }
+    if (!removal_.isApproved(*folder, entry.name)) return removal_.keep(*folder);
     const auto* name = entry.name.c_str();
     bool isFolder = entry.isFolder;
     for (int attempt = 0; attempt < patience; ++attempt, isFolder = !isFolder) {
         if (isFolder) {
-            if (enter(folder, place->get(), entry)) return;
+            if (enter(entry)) return;
             if (errno != ELOOP && errno != ENOTDIR) break;
         } else {
             if (isGone(::unlinkat(place->get(), name, 0))) return;
@@ -304,90 +277,142 @@ void Worker::remove(const std::shared_ptr<Folder>& folder, const NumberedEntry& 
 }
 
 /// False, with the reason in errno, if the entry cannot be entered.
-bool Worker::enter(const std::shared_ptr<Folder>& folder, int place, const NumberedEntry& entry) {
-    auto opened = link_free::openSubfolder(place, entry.name);
+bool Worker::enter(const NumberedEntry& entry) {
+    const auto folder = pieces_.last().folder;
+    const auto place = pieces_.last().descriptor;
+    auto opened = link_free::openSubfolder(place->get(), entry.name);
     if (!opened && lacksDescriptors()) {
-        removal_.makeRoomFor(*folder);
-        opened = link_free::openSubfolder(place, entry.name);
+        pieces_.makeRoom();
+        opened = link_free::openSubfolder(place->get(), entry.name);
         if (!opened && lacksDescriptors()) return putOff(entry);
     }
     if (!opened) return errno == ENOENT;
+    const auto which = linux_system::mountedFolder(opened.get());
+    if (!which) return false;
+    const auto below = folder.below(entry.name, *which);
     ++folder->workLeft;
-    pieces_.push_back(
-        {.folder = std::make_shared<Folder>(folder, entry.name, removal_.hold(std::move(opened))),
-         .entries = {},
-         .readsOn = true});
-    if (removal_.openFolders_ > removal_.budget_) folder->closeForNow();
+    pieces_.enter({.folder = below, .descriptor = below->hold(std::move(opened)), .readsOn = true});
+    isInAnotherFolder_ = true;
     return true;
 }
 
 /// For want of descriptors that other threads hold: what stays must not depend on how the work was
 /// shared out. False if there are no others.
 bool Worker::putOff(const NumberedEntry& entry) {
-    auto& piece = pieces_.back();
+    auto& piece = pieces_.last();
     piece.entries[--piece.next] = entry;
-    if (work_.leaveForLater(pieces_)) return true;
-    ++piece.next;
+    if (leaveForLater()) return true;
+    ++pieces_.last().next;
     errno = EMFILE;
     return false;
 }
 
-bool Worker::putOffFinishing(const std::shared_ptr<Folder>& folder) {
+bool Worker::putOffFinishing(const FolderPointer<Folder>& folder) {
     folder->workLeft = 1;
-    pieces_.push_back({.folder = folder, .entries = {}});
-    if (work_.leaveForLater(pieces_)) return true;
-    pieces_.pop_back();
+    pieces_.enter({.folder = folder, .descriptor = nullptr});
+    if (leaveForLater()) return true;
+    pieces_.leave();
     folder->workLeft = 0;
     return false;
 }
 
-void Worker::finish(std::shared_ptr<Folder> folder) {
-    while (--folder->workLeft == 0 && folder->parent && removeEmptied(folder))
-        folder = folder->parent;
+bool Worker::leaveForLater() {
+    auto rest = std::make_unique<Worker>(removal_, pieces_.takeAll());
+    auto* const own = rest.get();
+    std::unique_ptr<linux_system::Share> share = std::move(rest);
+    if (removal_.job_.leaveForLater(share)) return true;
+    pieces_ = std::move(own->pieces_);
+    return false;
 }
 
-/// False if there is more to do in the folder: what came in while it was emptied is removed as
-/// well, once.
-bool Worker::removeEmptied(const std::shared_ptr<Folder>& folder) {
-    const auto place = removal_.openParentOf(*folder);
-    if (!place && lacksDescriptors() && putOffFinishing(folder)) return false;
+/// Ends a piece of work, and removes the folders that it was the last in.
+void Worker::leave() {
+    auto folder = pieces_.last().folder;
+    auto open = folder->held();
+    pieces_.leave();
+    isInAnotherFolder_ = true;
+    while (--folder->workLeft == 0 && folder->above()) {
+        auto place = openAbove(*folder, open);
+        if (!place && lacksDescriptors() && putOffFinishing(folder)) return;
+        if (!removeEmptied(folder, open, place)) return;
+        folder = folder.above();
+        open = std::move(place);
+        // Nothing that was removed is held any longer: the kernel would walk all of it each time.
+        pieces_.comeFrom(folder, open);
+    }
+}
+
+OpenFolder Worker::openAbove(const Folder& folder, const OpenFolder& open) {
+    auto place = folder.above()->openFrom(folder, open);
+    if (place || !lacksDescriptors()) return place;
+    pieces_.makeRoom();
+    return folder.above()->openFrom(folder, open);
+}
+
+/// False if there is more to do in the folder.
+bool Worker::removeEmptied(const FolderPointer<Folder>& folder, const OpenFolder& open,
+                           const OpenFolder& place) {
+    const auto above = folder.above();
     if (folder->isKept) {
-        folder->parent->isKept = true;
+        above->isKept = true;
         return true;
     }
-    if (place && isGone(::unlinkat(place->get(), folder->name.c_str(), AT_REMOVEDIR))) return true;
-    const auto own =
-        place && errno == ENOTEMPTY && !folder->isReadAgain ? removal_.open(*folder) : nullptr;
-    if (!own || ::lseek(own->get(), 0, SEEK_SET) != 0) {
-        removal_.keep(*folder->parent);
-        return true;
+    if (place && isInPlace(*above, place)) {
+        if (isGone(::unlinkat(place->get(), folder->name().c_str(), AT_REMOVEDIR))) return true;
+        if (errno == ENOTEMPTY && readAgain(folder, open)) return false;
     }
+    removal_.keep(*above);
+    return true;
+}
+
+/// What came in while the folder was emptied is removed as well, once.
+bool Worker::readAgain(const FolderPointer<Folder>& folder, const OpenFolder& open) {
+    if (folder->isReadAgain) return false;
+    const auto again = open ? open : folder->open();
+    if (!again || ::lseek(again->get(), 0, SEEK_SET) != 0) return false;
     folder->isReadAgain = true;
-    folder->isRead = false;
     folder->workLeft = 1;
-    pieces_.push_back({.folder = folder, .entries = {}, .readsOn = true});
-    return false;
+    pieces_.enter({.folder = folder, .descriptor = again, .readsOn = true});
+    isInAnotherFolder_ = true;
+    return true;
+}
+
+/// A removal that fails by itself is tried again, and then named.
+template <class Attempt>
+Removal attempted(const Attempt& attempt) {
+    try {
+        return linux_system::withHelpersOrWithout(attempt);
+    } catch (...) {
+        return Removal::incomplete;
+    }
 }
 
 }  // namespace
 
 Removal removeItem(const DeletablePath& item) {
-    auto place = link_free::openPlaceOf(item.real());
-    if (!place.folder) return errno == ENOENT ? Removal::complete : Removal::incomplete;
-    return TreeRemoval(std::move(place.folder), nullptr).removeEntry(std::move(place.name));
+    return attempted([&](Helpers helpers) {
+        auto place = link_free::openPlaceOf(item.real());
+        if (!place.folder) return errno == ENOENT ? Removal::complete : Removal::incomplete;
+        TreeRemoval removal(std::move(place.folder), std::string(parentPath(item.real())), nullptr,
+                            helpers);
+        return removal.removeEntry(std::move(place.name));
+    });
 }
 
 Removal emptyFolder(const DeletablePath& folder, const ChildGuard& guard) {
-    const auto place = link_free::openPlaceOf(folder.real());
-    if (!place.folder) return Removal::incomplete;
-    auto opened = link_free::openSubfolder(place.folder.get(), place.name);
-    if (!opened) return Removal::incomplete;
     const auto liesInside = [&](std::string_view name) {
         auto child = guard(name);
         const bool isThatChild = child && child->real() == joinPath(folder.real(), name);
         return isThatChild ? child : std::nullopt;
     };
-    return TreeRemoval(std::move(opened), liesInside).removeAllEntries();
+    return attempted([&](Helpers helpers) {
+        const auto place = link_free::openPlaceOf(folder.real());
+        if (!place.folder) return Removal::incomplete;
+        auto opened = link_free::openSubfolder(place.folder.get(), place.name);
+        if (!opened) return Removal::incomplete;
+        TreeRemoval removal(std::move(opened), folder.real(), liesInside, helpers);
+        return removal.removeAllEntries();
+    });
 }
 
 }  // namespace tidewell

@@ -2,39 +2,35 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <vector>
 
+#include "platform/linux/way_down.h"
 #include "platform/path_text.h"
-#include "platform/posix/descriptor.h"
-#include "platform/posix/folder_identity.h"
 #include "platform/posix/folder_listing.h"
 
 namespace tidewell {
 namespace {
 
+using linux_system::FolderPointer;
+using linux_system::OpenFolder;
+using linux_system::TreeFolder;
 using posix::Descriptor;
-using posix::FolderIdentity;
 
-/// How many folders on the way down to the current one are held open. Those above are opened again
-/// by their names when the walk comes back to them, so that no depth exhausts the descriptors.
+/// How many folders on the way down to the current one are held open.
 constexpr std::size_t heldFolders = 16;
 
 /// A folder that the walk has entered and not left.
 struct EnteredFolder {
-    Descriptor descriptor;
-    FolderIdentity identity;
+    using Folder = TreeFolder;
+
+    FolderPointer<TreeFolder> folder;
+    OpenFolder descriptor;
     std::size_t pathLength;            ///< of its own path, which its entries' paths begin with
     std::vector<FolderEntry> entries;  ///< in ascending byte order
     std::size_t next = 0;              ///< the entry to be visited next
 
-    /// The entry visited last, which leads to the entered folder below this one.
-    const std::string& nameBelow() const { return entries[next - 1].name; }
+    bool canBeLetGo() const { return true; }
 };
-
-Descriptor openFolderAt(int parent, const std::string& name) {
-    return Descriptor(::openat(parent, name.c_str(), posix::openFolderFlags));
-}
 
 class FolderWalk {
  public:
@@ -43,9 +39,14 @@ class FolderWalk {
         : path_(std::move(folder)), hidden_(hidden), visit_(visit) {}
 
     void run() {
-        enter(posix::openFolder(path_));
-        while (!entered_.empty()) {
-            if (entered_.back().next < entered_.back().entries.size()) {
+        auto opened = posix::openFolder(path_);
+        const auto which = linux_system::mountedFolder(opened.get());
+        if (!which) return;
+        const auto top = FolderPointer<TreeFolder>::top(*which);
+        const auto open = top->hold(std::move(opened));
+        enter(top, open);
+        while (!entered_.isEmpty()) {
+            if (entered_.last().next < entered_.last().entries.size()) {
                 visitNextEntry();
             } else {
                 leave();
@@ -55,7 +56,7 @@ class FolderWalk {
 
  private:
     void visitNextEntry() {
-        auto& folder = entered_.back();
+        auto& folder = entered_.last();
         const auto& entry = folder.entries[folder.next++];
         if (hidden_ == HiddenEntries::passOver && entry.name.starts_with('.')) return;
         appendToPath(entry.name);
@@ -70,50 +71,30 @@ class FolderWalk {
     }
 
     bool enterNamed(const std::string& name) {
-        return holdOpen(entered_.size() - 1) &&
-               enter(openFolderAt(entered_.back().descriptor.get(), name));
+        if (!entered_.openLast()) return false;
+        const auto& parent = entered_.last();
+        Descriptor opened(::openat(parent.descriptor->get(), name.c_str(), posix::openFolderFlags));
+        const auto which = linux_system::mountedFolder(opened.get());
+        if (!opened || !which || parent.folder->isLoop(*which)) return false;
+        const auto folder = parent.folder.below(name, *which);
+        return enter(folder, folder->hold(std::move(opened)));
     }
 
     /// The path already ends in the folder's name.
-    bool enter(Descriptor descriptor) {
-        if (!descriptor) return false;
-        const auto identity = posix::identityOf(descriptor.get());
-        if (!identity || isOwnAncestor(*identity)) return false;
-        auto entries = posix::listFolder(descriptor.get());
+    bool enter(const FolderPointer<TreeFolder>& folder, const OpenFolder& open) {
+        auto entries = posix::listFolder(open->get());
         if (!entries) return false;
         std::ranges::sort(*entries, {}, &FolderEntry::name);
-        entered_.push_back({std::move(descriptor), *identity, path_.size(), std::move(*entries)});
-        if (entered_.size() > heldFolders) letGo(entered_.size() - 1 - heldFolders);
+        entered_.enter({.folder = folder,
+                        .descriptor = open,
+                        .pathLength = path_.size(),
+                        .entries = std::move(*entries)});
         return true;
     }
 
     void leave() {
-        entered_.pop_back();
-        if (!entered_.empty()) returnToPathOfFolder();
-    }
-
-    bool isOwnAncestor(const FolderIdentity& identity) const {
-        return std::ranges::find(entered_, identity, &EnteredFolder::identity) != entered_.end();
-    }
-
-    /// Opens the folder at `depth` again if it was let go, and with it those right above, which
-    /// will be wanted next. Fails if another folder stands in its place by now.
-    bool holdOpen(std::size_t depth) {
-        if (entered_[depth].descriptor) return true;
-        for (std::size_t i = 1; i <= depth; ++i) {
-            if (entered_[i].descriptor) continue;
-            const auto& parent = entered_[i - 1];
-            auto again = openFolderAt(parent.descriptor.get(), parent.nameBelow());
-            if (!again || posix::identityOf(again.get()) != entered_[i].identity) return false;
-            entered_[i].descriptor = std::move(again);
-            if (i >= heldFolders) letGo(i - heldFolders);
-        }
-        return true;
-    }
-
-    /// The way down begins at the first folder, which is always held.
-    void letGo(std::size_t depth) {
-        if (depth > 0) entered_[depth].descriptor = Descriptor();
+        entered_.leave();
+        if (!entered_.isEmpty()) returnToPathOfFolder();
     }
 
     void appendToPath(const std::string& name) {
@@ -121,12 +102,12 @@ class FolderWalk {
         path_ += name;
     }
 
-    void returnToPathOfFolder() { path_.resize(entered_.back().pathLength); }
+    void returnToPathOfFolder() { path_.resize(entered_.last().pathLength); }
 
     std::string path_;
     const HiddenEntries hidden_;
     const std::function<Descent(const WalkEntry&)>& visit_;
-    std::vector<EnteredFolder> entered_;
+    linux_system::WayDown<EnteredFolder> entered_{heldFolders};
 };
 
 constexpr std::array<std::string_view, 30> packageExtensions = {
