@@ -30,7 +30,7 @@ DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder);
 struct Measure {
     Job job;
     std::size_t foldersHeldByThread;
-    std::mutex mutex;
+    std::mutex mutex = {};
     DiskUsage found = {};
 };
 
