@@ -1,9 +1,9 @@
 #include "platform/reduced_motion.h"
 
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "platform/environment.h"
 #include "platform/process.h"
 
 namespace tidewell {
@@ -36,8 +36,8 @@ bool asksForLess(const std::string& messenger, const MotionSetting& setting) {
 }  // namespace
 
 bool wantsReducedMotion(const Host& host) {
-    const char* wish = std::getenv("TIDEWELL_REDUCE_MOTION");
-    if (wish) return std::string_view(wish) == "1";
+    const auto wish = environmentValue("TIDEWELL_REDUCE_MOTION");
+    if (!wish.empty()) return wish == "1";
     const auto messenger = host.systemPath("/usr/bin/dbus-send");
     for (const auto& setting : motionSettings)
         if (asksForLess(messenger, setting)) return true;

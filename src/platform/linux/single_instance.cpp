@@ -13,12 +13,12 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <system_error>
 #include <thread>
 
+#include "platform/environment.h"
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
 
@@ -39,9 +39,9 @@ constexpr char taken = '+';
 /// The user's own folder for what lives as long as the session; empty if there is none that nobody
 /// else can write to.
 std::string runtimeFolder() {
-    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    auto folder = environmentValue("XDG_RUNTIME_DIR");
     struct stat status;
-    if (!folder || folder[0] != '/' || ::stat(folder, &status) != 0) return {};
+    if (!folder.starts_with('/') || ::stat(folder.c_str(), &status) != 0) return {};
     const bool isOwn = S_ISDIR(status.st_mode) && status.st_uid == ::getuid() &&
                        (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
     return isOwn ? folder : std::string();

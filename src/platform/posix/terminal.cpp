@@ -4,8 +4,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <string_view>
+#include "platform/environment.h"
 
 namespace tidewell {
 
@@ -15,11 +14,6 @@ constexpr int usualWidth = 100;
 
 int descriptorOf(StandardStream stream) {
     return stream == StandardStream::output ? STDOUT_FILENO : STDERR_FILENO;
-}
-
-std::string_view environmentValue(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
 }
 
 }  // namespace
