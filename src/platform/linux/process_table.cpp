@@ -9,12 +9,14 @@
 #include <tuple>
 
 #include "platform/files.h"
+#include "platform/posix/descriptor.h"
 
 namespace tidewell::linux_system {
 
 namespace {
 
 constexpr std::size_t longestStatus = 64 * 1024;
+constexpr std::size_t longestArguments = 64 * 1024;
 
 template <class Number>
 std::optional<Number> numberIn(std::string_view text) {
@@ -23,6 +25,21 @@ std::optional<Number> numberIn(std::string_view text) {
     const auto result = std::from_chars(text.data(), end, number);
     if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
     return number;
+}
+
+/// What is longer is cut, and still known.
+std::string beginningOf(const std::string& path, std::size_t most) {
+    const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    std::string bytes(most, '\0');
+    std::size_t length = 0;
+    while (length < most) {
+        const auto count = posix::retrying(
+            [&] { return ::read(file.get(), bytes.data() + length, most - length); });
+        if (count <= 0) break;
+        length += static_cast<std::size_t>(count);
+    }
+    bytes.resize(length);
+    return bytes;
 }
 
 std::string processFolder(std::int32_t id) {
@@ -81,6 +98,18 @@ std::vector<Process> ownProcesses() {
         return std::tuple(process.identity.startTime, process.identity.id);
     });
     return processes;
+}
+
+std::vector<std::string> argumentsOf(std::int32_t id) {
+    const auto text = beginningOf(processFolder(id) + "/cmdline", longestArguments);
+    std::vector<std::string> words;
+    for (auto rest = std::string_view(text); !rest.empty();) {
+        const auto end = std::min(rest.find('\0'), rest.size());
+        words.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    if (!words.empty()) words.erase(words.begin());
+    return words;
 }
 
 std::optional<std::uint64_t> startTime(std::int32_t id) {

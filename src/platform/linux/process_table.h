@@ -21,6 +21,10 @@ struct Process {
 /// left out, and so are those whose program is hidden from the user.
 std::vector<Process> ownProcesses();
 
+/// The words that a process was started with, behind its own name; the first 64 kilobytes of them.
+/// None once it has ended.
+std::vector<std::string> argumentsOf(std::int32_t id);
+
 /// Absent once the process has ended, also while its parent has not taken note of it.
 std::optional<std::uint64_t> startTime(std::int32_t id);
 
