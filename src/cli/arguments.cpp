@@ -96,6 +96,14 @@ void addScanningCommands(CLI::App& app, Call& call) {
                                         runTrash, command);
     command->add_option("ids", trash.ids, "Ids from deep-scan")->required()->type_name("ID");
     addConsent(*command, call, trash.consent);
+
+    auto& back = addCommand<PutBackCall>(
+        app, call, "put-back", "List what lies in the Trash; with --yes, put back what is named",
+        runPutBack, command);
+    command
+        ->add_option("names", back.names, "Names in the Trash, or the paths that things came from")
+        ->type_name("NAME");
+    addConsent(*command, call, back.consent);
 }
 
 void addAppCommands(CLI::App& app, Call& call) {

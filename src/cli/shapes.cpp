@@ -128,6 +128,15 @@ Value bigItemShape(const BigItem& item) {
     return shape;
 }
 
+Value trashedItemShape(const TrashedItem& item, ByteCount size) {
+    Value::Object shape = {{"name", item.name}};
+    addIfPresent(shape, "origin", item.origin);
+    addDate(shape, "deletedAt", item.deletedAt);
+    shape.emplace_back("sizeBytes", size);
+    shape.emplace_back("folder", item.folder);
+    return shape;
+}
+
 Value appShape(const InstalledApp& app) {
     Value::Object shape = {{"id", app.id}, {"name", app.name}, {"path", app.url}};
     addIfPresent(shape, "bundleID", app.bundleID);

@@ -36,6 +36,7 @@ std::string_view nameOf(Mode section);
 
 Value itemShape(const CleanupItem& item);
 Value bigItemShape(const BigItem& item);
+Value trashedItemShape(const TrashedItem& item, ByteCount size);
 Value appShape(const InstalledApp& app);
 Value leftoverShape(const LeftoverFile& leftover);
 Value runtimeShape(const SimRuntime& runtime);

@@ -175,6 +175,34 @@ TEST(CommandLine, CleansExactlyWhatTheCallPicks) {
     }
 }
 
+TEST(CommandLine, PutsBackWhatIsNamedAndNothingThatTwoThingsAreCalled) {
+    const SampleMachine machine;
+    const auto origin = machine.path("~/Games/big");
+    for (int round = 0; round < 2; ++round) {
+        machine.file("~/Games/big/assets", 101 * megabyte);
+        run(machine, {"trash", origin, "--yes"});
+    }
+    machine.text("~/.Trash/of others", "x");
+    const auto list = documentOf(machine, {"put-back"});
+    ASSERT_EQ(at(list, "items").list()->size(), 3U);
+    EXPECT_EQ(keysOf(first(at(list, "items"))),
+              (Words{"name", "origin", "deletedAt", "sizeBytes", "folder"}));
+    const auto shared = run(machine, {"put-back", origin, "--yes"});
+    EXPECT_EQ(shared.status, 2);
+    EXPECT_NE(shared.errors.find(machine.path("~/.Trash/big 2")), std::string::npos);
+    EXPECT_EQ(run(machine, {"put-back", "unknown", "--yes"}).status, 2);
+    EXPECT_EQ(run(machine, {"put-back", "big 2"}).status, 0);
+    EXPECT_FALSE(machine.has("~/Games/big"));  // it only said what it would do
+
+    const auto back = documentOf(machine, {"put-back", "big 2", "--yes"});
+    EXPECT_EQ(keysOf(first(at(back, "outcomes"))), (Words{"name", "success"}));
+    EXPECT_TRUE(machine.has("~/Games/big/assets"));
+    const auto stays = run(machine, {"put-back", origin, "of others", "--yes"});
+    EXPECT_EQ(stays.status, 1);
+    EXPECT_NE(stays.output.find("Something stands there already."), std::string::npos);
+    EXPECT_TRUE(machine.has("~/.Trash/big/assets") && machine.has("~/.Trash/of others"));
+}
+
 TEST(CommandLine, UninstallsByIdOrPathAndRefusesAnIdThatTwoShare) {
     const FurnishedMachine machine;
     machine.application("~/Applications/Notes Copy.app",

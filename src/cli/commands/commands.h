@@ -44,6 +44,12 @@ struct TrashCall {
 };
 Outcome runTrash(const Context& context, const TrashCall& call);
 
+struct PutBackCall {
+    std::vector<std::string> names;  ///< lists what there is if none is given
+    Consent consent = Consent::notGiven;
+};
+Outcome runPutBack(const Context& context, const PutBackCall& call);
+
 struct AppsCall {
     SortOrder order = SortOrder::leastUsed;
 };

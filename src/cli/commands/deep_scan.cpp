@@ -84,8 +84,10 @@ Outcomes trashAll(const Context& context, const Model& model, const std::vector<
 }
 
 Value outcomeShape(const BigItemScanner::TrashOutcome& outcome) {
-    return Value::Object{
+    Value::Object shape = {
         {"name", outcome.name}, {"freedBytes", outcome.freedBytes}, {"success", outcome.success}};
+    if (!outcome.success) shape.emplace_back("reason", outcome.reason);
+    return shape;
 }
 
 ExitStatus reportPlan(const Context& context, const std::vector<BigItem>& items) {
@@ -108,9 +110,10 @@ ExitStatus reportOutcomes(const Context& context, const Outcomes& outcomes, std:
     auto status = outcomes.size() == wanted ? ExitStatus::done : ExitStatus::leftBehind;
     for (const auto& outcome : outcomes) {
         if (!outcome.success) status = ExitStatus::leftBehind;
-        if (context.form == OutputForm::text)
-            printLine(inked(terminalText(trashBanner(outcome).text),
-                            outcome.success ? Ink::good : Ink::careful));
+        if (context.form == OutputForm::json) continue;
+        printLine(inked(terminalText(trashBanner(outcome).text),
+                        outcome.success ? Ink::good : Ink::careful));
+        if (!outcome.success) printLine("  " + terminalText(outcome.reason));
     }
     if (context.form == OutputForm::json)
         printDocument(Value::Object{{"outcomes", listOf(outcomes, outcomeShape)}});
