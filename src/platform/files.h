@@ -34,6 +34,9 @@ std::optional<Date> modificationDate(const std::string& path);
 /// file (a FIFO is not waited for) or longer than `limit` bytes.
 std::optional<std::string> readFile(const std::string& path, std::size_t limit);
 
+/// Whether a regular file may be started as a program by this user; a link is followed.
+bool isProgram(const std::string& path);
+
 /// Whether the file can be opened for reading. Nothing is read. Never waits.
 bool canOpenForReading(const std::string& path);
 

@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <thread>
 
-#include "platform/linux/desktop_entries.h"
 #include "platform/linux/process_table.h"
 #include "platform/memory.h"
 #include "support/child_process.h"
@@ -18,7 +17,6 @@
 namespace tidewell {
 namespace {
 
-using linux_system::parseDesktopEntry;
 using linux_system::parseProcessStatus;
 using linux_system::startTime;
 using test::OnRequestToEnd;
@@ -196,18 +194,6 @@ TEST(ProcessTable, ReadsStatusLinesWhateverAProgramIsCalled) {
     for (const auto* line : {"", "7", "7 (sleep)", "7 (sleep) S 1 7 7 0 -1",
                              "7 (sleep) S 1 7 7 0 -1 4194304 95 0 0 0 0 0 0 0 20 0 1 0 x 2"})
         EXPECT_FALSE(parseProcessStatus(line)) << line;
-}
-
-TEST(DesktopEntries, AreReadFromTheirOwnGroupWithQuotesAndEscapes) {
-    const auto entry = parseDesktopEntry(
-        "# a comment\nName=Before\n[Desktop Entry]\r\nType = Application\nName=A\\sB\nName[de]=C\n"
-        "Exec=\"/opt/my \\\\\"app\" --flag\nNoDisplay=false\n[Other]\nHidden=true\nExec=other\n");
-    EXPECT_TRUE(entry.isVisible);
-    EXPECT_EQ(entry.name, "A B");
-    EXPECT_EQ(entry.program, "/opt/my \"app");
-    EXPECT_FALSE(parseDesktopEntry("[Desktop Entry]\nType=Link\nExec=x\n").isVisible);
-    EXPECT_FALSE(parseDesktopEntry("[Desktop Entry]\nType=Application\nHidden=true").isVisible);
-    EXPECT_FALSE(parseDesktopEntry("Type=Application\nExec").isVisible);
 }
 
 TEST(Memory, IsUsedInPartAndReadFromItsOwnLinesOnly) {

@@ -11,7 +11,7 @@
 
 #include "platform/bundle.h"
 #include "platform/files.h"
-#include "platform/linux/desktop_entries.h"
+#include "platform/linux/menu_entries.h"
 #include "platform/linux/process_table.h"
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
@@ -20,7 +20,7 @@ namespace tidewell {
 
 namespace {
 
-using linux_system::DesktopEntry;
+using linux_system::MenuEntry;
 using linux_system::Process;
 
 constexpr std::size_t longestRollup = 64 * 1024;
@@ -63,7 +63,7 @@ RunningApplication bundleApplication(const ProcessIdentity& process, const std::
                 isBackground ? ActivationPolicy::background : ActivationPolicy::regular};
 }
 
-RunningApplication entryApplication(const ProcessIdentity& process, const DesktopEntry& entry) {
+RunningApplication entryApplication(const ProcessIdentity& process, const MenuEntry& entry) {
     return {.process = process,
             .name = entry.name,
             .bundleIdentifier = entry.id,
@@ -76,7 +76,7 @@ class ApplicationList {
  public:
     explicit ApplicationList(const Host& host) : root_(host.root) {
         if (host.root != "/") return;
-        for (auto& entry : linux_system::visibleDesktopEntries(host))
+        for (auto& entry : linux_system::menuEntries(host))
             entries_.emplace(entry.executable, entry);
     }
 
@@ -107,7 +107,7 @@ class ApplicationList {
     }
 
     std::string root_;
-    std::map<std::string, DesktopEntry> entries_;  ///< by executable; of several, the first
+    std::map<std::string, MenuEntry> entries_;  ///< by executable; of several, the first
 };
 
 }  // namespace

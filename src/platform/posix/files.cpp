@@ -66,6 +66,10 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
     return std::nullopt;
 }
 
+bool isProgram(const std::string& path) {
+    return fileKind(path) == FileKind::other && ::access(path.c_str(), X_OK) == 0;
+}
+
 bool canOpenForReading(const std::string& path) {
     const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     return static_cast<bool>(file);
