@@ -4,6 +4,7 @@
 
 #include "async/background.h"
 #include "kit/count_text.h"
+#include "platform/sum.h"
 
 namespace tidewell {
 
@@ -27,9 +28,7 @@ bool AdvisorViewModel::hasFindings() const {
 }
 
 ByteCount AdvisorViewModel::reclaimableBytes() const {
-    ByteCount sum = 0;
-    for (const auto& runtime : findings().runtimes) sum = addSaturating(sum, runtime.sizeBytes);
-    return sum;
+    return sumOf(findings().runtimes, [](const auto& runtime) { return runtime.sizeBytes; });
 }
 
 Task<> AdvisorViewModel::scan() {

@@ -4,6 +4,7 @@
 
 #include "async/background.h"
 #include "platform/dates.h"
+#include "platform/sum.h"
 
 namespace tidewell {
 
@@ -14,9 +15,7 @@ std::vector<InstalledApp> AppsViewModel::sortedApps() const {
 }
 
 ByteCount AppsViewModel::totalAppBytes() const {
-    ByteCount sum = 0;
-    for (const auto& app : apps()) sum = addSaturating(sum, app.sizeBytes);
-    return sum;
+    return sumOf(apps(), &InstalledApp::sizeBytes);
 }
 
 Task<> AppsViewModel::scan() {

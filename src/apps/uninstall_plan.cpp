@@ -1,11 +1,12 @@
 #include "apps/uninstall_plan.h"
 
+#include "platform/sum.h"
+
 namespace tidewell {
 
 ByteCount UninstallPlan::totalBytes() const {
-    ByteCount sum = app.sizeBytes;
-    for (const auto& leftover : leftovers) sum = addSaturating(sum, leftover.sizeBytes);
-    return sum;
+    const auto ofLeftovers = sumOf(leftovers, [](const auto& left) { return left.sizeBytes; });
+    return addSaturating(app.sizeBytes, ofLeftovers);
 }
 
 }  // namespace tidewell

@@ -6,10 +6,17 @@
 
 #include "async/background.h"
 #include "cleanup/project_artifacts.h"
+#include "platform/silent_mounts.h"
 
 namespace tidewell {
 
 namespace {
+
+/// What comes before the measuring.
+struct Search {
+    std::vector<std::string> silentMounts;
+    std::vector<CleanupTarget> artifacts;
+};
 
 double fraction(std::size_t part, std::size_t whole) {
     return static_cast<double>(part) / static_cast<double>(whole);
@@ -38,9 +45,13 @@ void CleaningSession::beginScan() {
 }
 
 Task<CleanupItems> CleaningSession::measured(std::vector<CleanupTarget> targets) {
-    auto searching = background([host = scanner_.host()] { return findProjectArtifacts(host); });
-    auto artifacts = co_await searching;
-    std::ranges::move(artifacts, std::back_inserter(targets));
+    auto searching = background([host = scanner_.host()] {
+        auto silent = findSilentMounts();
+        return Search{.silentMounts = std::move(silent), .artifacts = findProjectArtifacts(host)};
+    });
+    auto search = co_await searching;
+    silentMounts = std::move(search.silentMounts);
+    std::ranges::move(search.artifacts, std::back_inserter(targets));
 
     BackgroundGroup<std::optional<CleanupItem>> measuring;
     auto next = targets.cbegin();

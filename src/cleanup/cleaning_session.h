@@ -60,6 +60,8 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     Published<double> cleanProgress{willChange, 0.0};
     /// The title of the target whose measure began last, beyond the first lot.
     Published<std::optional<std::string>> currentTarget{willChange};
+    /// The mounts that the last scan passed over, since they did not answer.
+    Published<std::vector<std::string>> silentMounts{willChange};
     /// What the last clean did.
     Published<ByteCount> freedBytes{willChange, 0};
     Published<std::vector<std::string>> failedTitles{willChange};  ///< in the order of the items

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cleanup/cleanup_model.h"
+#include "platform/sum.h"
 
 namespace tidewell {
 
@@ -21,10 +22,8 @@ CleanupItems selectedItems(const CleanupItems& items);
 /// The sizes of all items that `isMeant` names together.
 template <class Predicate>
 ByteCount totalBytes(const CleanupItems& items, Predicate isMeant) {
-    ByteCount total = 0;
-    for (const auto& item : items)
-        if (isMeant(item)) total = addSaturating(total, item.sizeBytes);
-    return total;
+    return sumOf(items,
+                 [&](const CleanupItem& item) { return isMeant(item) ? item.sizeBytes : 0; });
 }
 
 /// The sizes of all items together, ticked or not.

@@ -4,7 +4,10 @@
 #include "async/failure.h"
 #include "cli/arguments.h"
 #include "cli/context.h"
+#include "kit/silent_mounts_note.h"
+#include "platform/silent_mounts.h"
 #include "platform/terminal.h"
+#include "platform/text.h"
 
 namespace tidewell::cli {
 
@@ -23,6 +26,11 @@ int endWrongCall(const std::string& problem) {
     return end(ExitStatus::wrongCall);
 }
 
+void tellOfSilentMounts() {
+    if (const auto note = silentMountsNote(knownSilentMounts()))
+        std::cerr << "tidewell-cli: " << terminalText(*note) << '\n';
+}
+
 int run(const Call& call) {
     auto found = findHost(call.host);
     if (!found.host) return endWrongCall(found.problem);
@@ -30,6 +38,7 @@ int run(const Call& call) {
         return endWrongCall(found.host->home + " is another user's: it can only be looked at");
     RunLoop loop;
     const auto outcome = call.run({std::move(*found.host), call.form, loop});
+    tellOfSilentMounts();
     if (const auto* wrong = std::get_if<WrongCall>(&outcome)) return endWrongCall(wrong->problem);
     return end(std::get<ExitStatus>(outcome));
 }

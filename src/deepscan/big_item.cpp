@@ -1,5 +1,7 @@
 #include "deepscan/big_item.h"
 
+#include "platform/sum.h"
+
 #include <algorithm>
 #include <functional>
 
@@ -10,9 +12,7 @@ void sortBySize(std::vector<BigItem>& items) {
 }
 
 ByteCount totalBytes(const std::vector<BigItem>& items) {
-    ByteCount total = 0;
-    for (const auto& item : items) total = addSaturating(total, item.sizeBytes);
-    return total;
+    return sumOf(items, &BigItem::sizeBytes);
 }
 
 }  // namespace tidewell

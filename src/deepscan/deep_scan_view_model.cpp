@@ -7,8 +7,18 @@
 
 #include "async/background.h"
 #include "platform/path_text.h"
+#include "platform/silent_mounts.h"
 
 namespace tidewell {
+
+namespace {
+
+struct Found {
+    std::vector<std::string> silentMounts;
+    std::vector<BigItem> items;
+};
+
+}  // namespace
 
 std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigItem> installers,
                                    std::vector<BigItem> containers,
@@ -41,14 +51,18 @@ Task<> DeepScanViewModel::scan() {
     try {
         auto scanning = background([walk = scanner_, installers = installerScanner_,
                                     containers = containerScanner_, progress = progressHop()] {
+            auto silent = findSilentMounts();
             auto walked = walk.scan(progress);
             auto foundInstallers = installers.scan();
             auto foundContainers = containers.scan();
-            return mergeDeepScan(std::move(walked), std::move(foundInstallers),
-                                 std::move(foundContainers), containers.walkExclusionPaths());
+            auto merged =
+                mergeDeepScan(std::move(walked), std::move(foundInstallers),
+                              std::move(foundContainers), containers.walkExclusionPaths());
+            return Found{.silentMounts = std::move(silent), .items = std::move(merged)};
         });
         auto found = co_await scanning;
-        items = std::move(found);
+        silentMounts = std::move(found.silentMounts);
+        items = std::move(found.items);
         phase = Phase::list;
     } catch (...) {
         phase = before;

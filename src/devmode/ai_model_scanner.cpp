@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "platform/sum.h"
 
 namespace tidewell {
 
@@ -92,9 +93,7 @@ std::optional<std::string> firstThatExists(const Places& places, const Host& hos
 }  // namespace
 
 ByteCount totalBytes(const std::vector<AIModelStore>& stores) {
-    ByteCount total = 0;
-    for (const auto& store : stores) total = addSaturating(total, store.sizeBytes);
-    return total;
+    return sumOf(stores, &AIModelStore::sizeBytes);
 }
 
 AIModelScanner::AIModelScanner(Host host) : host_(std::move(host)), disk_(host_) {}

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "async/background.h"
+#include "platform/sum.h"
 
 namespace tidewell {
 
@@ -40,9 +41,7 @@ double PerformanceViewModel::memoryFraction() const {
 }
 
 ByteCount PerformanceViewModel::totalAppMemory() const {
-    ByteCount sum = 0;
-    for (const auto& app : apps()) sum = addSaturating(sum, app.memoryBytes);
-    return sum;
+    return sumOf(apps(), [](const auto& app) { return app.memoryBytes; });
 }
 
 Task<> PerformanceViewModel::scan() {

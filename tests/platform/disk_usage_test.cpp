@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/posix/descriptor.h"
+#include "platform/posix/reach.h"
 #include "support/hostile_tree.h"
 #include "support/sample_machine.h"
 #include "support/separate_process.h"

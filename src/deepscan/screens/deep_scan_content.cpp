@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "kit/byte_text.h"
+#include "kit/silent_mounts_note.h"
 
 namespace tidewell {
 
@@ -254,6 +255,7 @@ DeepScanContent deepScanContent(const DeepScanViewModel& model, const DeepScanSc
     content.header = "Deep Scan";
     fillPage(content, model, state);
     if (state.pendingTrash) content.confirmation = trashConfirmation(*state.pendingTrash);
+    content.leftOutNote = silentMountsNote(model.silentMounts());
     if (model.lastResult()) content.banner = trashBanner(*model.lastResult());
     return content;
 }

@@ -141,8 +141,9 @@ struct DeepScanContent {
     std::string_view headerLine;  ///< empty: none
     Placard placard;              ///< empty on the list
     double progress = 0;
-    std::string_view scanLabel;  ///< empty while scanning: there is no such button
-    std::string summary;         ///< of the list alone, as are the next three
+    std::string_view scanLabel;              ///< empty while scanning: there is no such button
+    std::string summary;                     ///< of the list alone, as are the next three
+    std::optional<std::string> leftOutNote;  ///< of mounts that do not answer, on each page
     std::vector<RiskRow> rail;
     std::string_view bucketSubtitle;
     std::vector<BigItemCard> cards;

@@ -7,6 +7,7 @@
 #include "platform/linux/descriptor_limit.h"
 #include "platform/linux/folder_measurer.h"
 #include "platform/linux/work_pool.h"
+#include "platform/posix/reach.h"
 
 namespace tidewell {
 namespace {
@@ -29,8 +30,12 @@ DiskUsage diskUsage(const std::string& path) {
     static auto& pool = WorkPool::make(poolWidth());
     const auto folder = posix::openFolder(path);
     if (folder) return linux_system::usageBelow(pool, folder);
-    DiskUsage usage;
     const bool isNoFolder = linux_system::isGone();
+    DiskUsage usage;
+    if (posix::isOutOfReach(path, posix::LastLink::keep)) {
+        usage.unread.add(0, path);
+        return usage;
+    }
     const auto size = linux_system::sizeOfRegularFile(AT_FDCWD, path.c_str());
     usage.bytes = size.value_or(0);
     const bool isMissing = !size && (errno == ENOENT || errno == ENOTDIR);

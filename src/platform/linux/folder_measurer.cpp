@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/linux/descriptor_limit.h"
+#include "platform/posix/reach.h"
 
 namespace tidewell::linux_system {
 namespace {
@@ -162,7 +163,7 @@ void FolderMeasurer::enterSubfolder() {
 
 std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent, std::string name) {
     const int place = parent.descriptor->get();
-    posix::Descriptor opened(::openat(place, name.c_str(), posix::openFolderFlags));
+    auto opened = posix::openSubfolder(place, name);
     const auto which = opened ? mountedFolder(opened.get()) : std::nullopt;
     if (!which) {
         missed(place, name);

@@ -7,6 +7,7 @@
 #include "platform/linux/way_down.h"
 #include "platform/path_text.h"
 #include "platform/posix/folder_listing.h"
+#include "platform/posix/reach.h"
 
 namespace tidewell {
 namespace {
@@ -73,9 +74,10 @@ class FolderWalk {
     bool enterNamed(const std::string& name) {
         if (!entered_.openLast()) return false;
         const auto& parent = entered_.last();
-        Descriptor opened(::openat(parent.descriptor->get(), name.c_str(), posix::openFolderFlags));
+        auto opened = posix::openSubfolder(parent.descriptor->get(), name);
+        if (!opened) return false;
         const auto which = linux_system::mountedFolder(opened.get());
-        if (!opened || !which || parent.folder->isLoop(*which)) return false;
+        if (!which || parent.folder->isLoop(*which)) return false;
         const auto folder = parent.folder.below(name, *which);
         return enter(folder, folder->hold(std::move(opened)));
     }

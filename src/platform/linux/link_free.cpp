@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "platform/path_text.h"
+#include "platform/posix/reach.h"
 
 namespace tidewell::link_free {
 
@@ -49,7 +50,7 @@ Descriptor openPlaceStepwise(const std::string& absolutePath) {
 }
 
 Descriptor openSubfolderStepwise(int parent, const std::string& name) {
-    Descriptor folder(::openat(parent, name.c_str(), posix::openFolderFlags));
+    auto folder = posix::openSubfolder(parent, name);
     if (!folder || isOnSameMount(folder.get(), parent)) return folder;
     folder = Descriptor();
     errno = EXDEV;

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <string>
 #include <utility>
 
 namespace tidewell::posix {
@@ -33,13 +32,6 @@ class Descriptor {
  private:
     int descriptor_ = -1;
 };
-
-/// Opens a folder to be listed, never the one that a link leads to: a slash behind a link's name
-/// would follow it.
-inline Descriptor openFolder(std::string path) {
-    while (path.size() > 1 && path.ends_with('/')) path.pop_back();
-    return Descriptor(::open(path.c_str(), openFolderFlags));
-}
 
 /// Repeats a system call that a signal interrupted.
 template <class Call>

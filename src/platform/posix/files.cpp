@@ -12,10 +12,24 @@
 
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/reach.h"
 
 namespace tidewell {
 
+namespace {
+
+using posix::LastLink;
+
+/// To be read, its link followed; a FIFO is not waited for.
+posix::Descriptor openFile(const std::string& path) {
+    if (posix::isOutOfReach(path, LastLink::follow)) return posix::Descriptor();
+    return posix::Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+}
+
+}  // namespace
+
 FileKind fileKind(const std::string& path) {
+    if (posix::isOutOfReach(path, LastLink::follow)) return FileKind::untold;
     struct stat status;
     if (::stat(path.c_str(), &status) != 0)
         return errno == ENOENT || errno == ENOTDIR ? FileKind::missing : FileKind::untold;
@@ -28,7 +42,7 @@ bool fileExists(const std::string& path) {
 }
 
 std::optional<std::vector<std::string>> folderNames(const std::string& path) {
-    posix::Descriptor folder(::open(path.c_str(), posix::openFolderFlags));
+    auto folder = posix::openFolder(path);
     if (!folder) return std::nullopt;
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(folder.get()), ::closedir);
     if (!stream) return std::nullopt;
@@ -44,13 +58,14 @@ std::optional<std::vector<std::string>> folderNames(const std::string& path) {
 }
 
 std::optional<Date> modificationDate(const std::string& path) {
+    if (posix::isOutOfReach(path, LastLink::keep)) return std::nullopt;
     struct stat status;
     if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
     return Date(std::chrono::seconds(status.st_mtime));
 }
 
 std::optional<std::string> readFile(const std::string& path, std::size_t limit) {
-    const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const auto file = openFile(path);
     struct stat status;
     if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
     if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) > limit) return std::nullopt;
@@ -71,11 +86,11 @@ bool isProgram(const std::string& path) {
 }
 
 bool canOpenForReading(const std::string& path) {
-    const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    return static_cast<bool>(file);
+    return static_cast<bool>(openFile(path));
 }
 
 std::optional<std::string> resolvedPath(const std::string& path) {
+    if (posix::isOutOfReach(path, LastLink::follow)) return std::nullopt;
     const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(path.c_str(), nullptr),
                                                           std::free);
     if (!resolved) return std::nullopt;
@@ -84,6 +99,7 @@ std::optional<std::string> resolvedPath(const std::string& path) {
 
 std::optional<std::string> realLocation(const std::string& path) {
     const auto standardized = standardizedPath(path);
+    if (posix::isOutOfReach(standardized, LastLink::keep)) return std::nullopt;
     const auto name = lastPathComponent(standardized);
     if (name.empty() || name == "." || name == "..") return std::nullopt;
     const auto parent = std::string(parentPath(standardized));

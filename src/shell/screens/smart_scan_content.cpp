@@ -9,6 +9,7 @@
 #include "kit/count_text.h"
 #include "kit/percent_text.h"
 #include "platform/dates.h"
+#include "platform/sum.h"
 
 namespace tidewell {
 
@@ -190,9 +191,9 @@ std::optional<PrimaryActionContent> primaryAction(const SmartScanController& con
 }  // namespace
 
 ByteCount foundBytes(const SmartScanController& controller) {
-    return addSaturating(
-        addSaturating(controller.cleanup->totalBytes(), controller.deepScan->totalBytes()),
-        controller.advisor->reclaimableBytes());
+    return sumOf(std::initializer_list<ByteCount>{controller.cleanup->totalBytes(),
+                                                  controller.deepScan->totalBytes(),
+                                                  controller.advisor->reclaimableBytes()});
 }
 
 SmartScanContent smartScanContent(const SmartScanController& controller, Date now) {
