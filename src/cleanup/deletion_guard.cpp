@@ -1,9 +1,11 @@
 #include "cleanup/deletion_guard.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "cleanup/cleanup_model.h"
+#include "cleanup/kept_places.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 
@@ -26,20 +28,6 @@ bool isBuildOutput(const std::vector<std::string_view>& pieces) {
     return std::ranges::any_of(pieces, [](std::string_view piece) {
         return isArtifactFolderName(piece) || isBuildFolderName(piece);
     });
-}
-
-/// The protected paths where they really lie: the entries themselves, and what they lead to. People
-/// keep such files elsewhere and link to them.
-std::vector<std::string> realKeys(std::string_view home) {
-    std::vector<std::string> keys;
-    for (const auto entry : protectedHomePaths) {
-        const auto path = joinPath(home, entry);
-        auto target = resolvedPath(path);
-        if (!target) continue;
-        if (auto location = realLocation(path)) keys.push_back(std::move(*location));
-        keys.push_back(std::move(*target));
-    }
-    return keys;
 }
 
 /// A scratch folder that holds personal folders, such as the home folder itself, opens nothing.
@@ -98,40 +86,77 @@ DeletionRule deletionRule(std::string_view path, std::string_view home,
     return isBuildOutput(pieces) ? DeletionRule::buildFolder : DeletionRule::personalFolder;
 }
 
+/// What the guard of a folder's entries sees of the disk. To look for each entry would cost more
+/// than to remove it, so a view serves for a moment, and longer where it is dear.
+struct DeletionGuard::View {
+    using Clock = std::chrono::steady_clock;
+    static constexpr auto shortest = std::chrono::milliseconds(20);
+    static constexpr int timesItsCost = 20;
+
+    View(const Host& host, const std::string& folder)
+        : kept(host), names(kept.namesOf(folder)), readyAt(Clock::now()) {}
+
+    bool isOld() const {
+        return Clock::now() - readyAt >
+               std::max<Clock::duration>(shortest, timesItsCost * (readyAt - begunAt));
+    }
+
+    Clock::time_point begunAt = Clock::now();
+    KeptPlaces kept;
+    std::vector<std::string> names;
+    Clock::time_point readyAt;
+};
+
 DeletionGuard::DeletionGuard(const Host& host)
-    : home_(host.home),
-      homeOwner_(host.homeOwner),
+    : host_(host),
       roots_(deletableRoots(host)),
       realRoots_(realScratchFolders(roots_, host.home)) {}
 
-DeletionRule DeletionGuard::rule(std::string_view path) const {
-    return deletionRule(path, home_, roots_);
+DeletionRule DeletionGuard::verdict(const std::string& path) const {
+    const auto named = standardizedPath(path);
+    const auto real = realLocation(named);
+    if (!real) return deletionRule(named, host_.home, roots_);
+    const KeptPlaces kept(host_);
+    return judge(named, kept.namesOf(*real), kept);
 }
 
-bool DeletionGuard::allowsReal(std::string_view real, const std::vector<std::string>& keys) const {
-    return allows(deletionRule(real, home_, realRoots_)) && !isAtOrBelowAny(real, keys);
+/// By what it is named first, then by where it really lies, then by its other names, which can only
+/// close what those opened.
+DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std::string>& names,
+                                  const KeptPlaces& kept) const {
+    const auto rule = deletionRule(named, host_.home, roots_);
+    if (!allows(rule)) return rule;
+    // In another user's home folder nothing may go, whatever its name.
+    if (host_.homeOwner != HomeOwner::user) return DeletionRule::outsideHome;
+    // The file system would read the path up to its first zero byte, and judge another one.
+    if (named.find('\0') != std::string_view::npos || !kept.knowsNamesOf(names.front()))
+        return DeletionRule::outsideHome;
+    for (const auto& name : names) {
+        const auto other = deletionRule(name, host_.home, realRoots_);
+        const bool isRealLocation = &name == &names.front();
+        if (!allows(other) && (isRealLocation || other != DeletionRule::outsideHome)) return other;
+    }
+    return rule;
 }
 
 std::optional<DeletablePath> DeletionGuard::approve(const std::string& path) const {
-    // The file system would read the path up to its first zero byte, and judge another one.
-    if (path.find('\0') != std::string::npos || homeOwner_ != HomeOwner::user) return std::nullopt;
     auto named = standardizedPath(path);
-    if (!isDeletable(named)) return std::nullopt;
     auto real = realLocation(named);
-    if (!real || !allowsReal(*real, realKeys(home_))) return std::nullopt;
+    if (!real) return std::nullopt;
+    const KeptPlaces kept(host_);
+    if (!allows(judge(named, kept.namesOf(*real), kept))) return std::nullopt;
     return DeletablePath(std::move(named), std::move(*real));
 }
 
 ChildGuard DeletionGuard::childGuard(const DeletablePath& folder) const {
-    return [guard = *this, folder,
-            keys = realKeys(home_)](std::string_view name) -> std::optional<DeletablePath> {
+    return [guard = *this, folder, view = View(host_, folder.real())](
+               std::string_view name) mutable -> std::optional<DeletablePath> {
+        if (view.isOld()) view = View(guard.host_, folder.real());
+        const auto names = view.kept.namesIn(view.names, name);
         auto named = joinPath(folder.named(), name);
-        auto real = joinPath(folder.real(), name);
-        const bool holdsKey =
-            std::ranges::any_of(keys, [&](const auto& key) { return isBelow(key, real); });
-        if (!guard.isDeletable(named) || !guard.allowsReal(real, keys) || holdsKey)
+        if (!allows(guard.judge(named, names, view.kept)) || view.kept.liesBelow(names))
             return std::nullopt;
-        return DeletablePath(std::move(named), std::move(real));
+        return DeletablePath(std::move(named), joinPath(folder.real(), name));
     };
 }
 

@@ -42,6 +42,8 @@ inline constexpr std::array<std::string_view, 8> personalFolders = {
 /// The temporary folder and the per-user cache folder, as far as the machine has them.
 std::vector<std::string> deletableRoots(const Host& host);
 
+class KeptPlaces;
+
 /// The rule of the deletion guard that decided about a path.
 enum class DeletionRule {
     protectedPath,   ///< keys and credentials: never
@@ -64,24 +66,27 @@ class DeletionGuard {
  public:
     explicit DeletionGuard(const Host& host);
 
-    /// The rule for the path as it is named.
-    DeletionRule rule(std::string_view path) const;
-    bool isDeletable(std::string_view path) const { return allows(rule(path)); }
+    /// The rule that decides about a path: as it is named, and then under every name of the place
+    /// where it really lies, the first that refuses. So a `~/.cache` that leads into Documents is
+    /// refused, and so are keys that were put elsewhere, from either side; whether by links, by
+    /// mounts or by letter case. Only the name counts if the folder that holds the path is missing.
+    DeletionRule verdict(const std::string& path) const;
 
-    /// Asks twice: for the path as it is named, and for its real location. So a `~/.cache` that is
-    /// a link into Documents is refused, and so are keys that a link was followed to, from either
-    /// side. Absent also if the folder that holds the path is missing.
+    /// The path, if the verdict allows it and the folder that holds it exists.
     std::optional<DeletablePath> approve(const std::string& path) const;
 
     /// The same question for each entry of an approved folder, from what the disk holds now. An
-    /// entry is removed with all in it, so one that holds a protected path is refused as well.
+    /// entry is removed with all in it, so one that holds keys or a personal folder is refused as
+    /// well.
     ChildGuard childGuard(const DeletablePath& folder) const;
 
  private:
-    bool allowsReal(std::string_view real, const std::vector<std::string>& keys) const;
+    struct View;
 
-    std::string home_;
-    HomeOwner homeOwner_;  ///< nothing of somebody else's is ever removed
+    DeletionRule judge(std::string_view named, const std::vector<std::string>& names,
+                       const KeptPlaces& kept) const;
+
+    Host host_;
     std::vector<std::string> roots_;
     std::vector<std::string> realRoots_;  ///< where the roots lay when the guard was made
 };

@@ -132,9 +132,9 @@ Removal DiskScanner::attempt(const std::string& path) const {
 }
 
 Removal DiskScanner::cleanPath(const std::string& path) const {
-    if (!guard_.isDeletable(path)) return Removal::incomplete;
     const auto kind = fileKind(path);
-    if (kind == FileKind::missing) return Removal::complete;
+    if (kind == FileKind::missing)
+        return allows(guard_.verdict(path)) ? Removal::complete : Removal::incomplete;
     if (kind == FileKind::untold) return Removal::incomplete;
     const auto approved = guard_.approve(path);
     if (!approved) return Removal::incomplete;

@@ -1,13 +1,18 @@
 #include "cleanup/deletion_guard.h"
 
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 
 #include "support/sample_machine.h"
+#include "support/separate_process.h"
 
 namespace tidewell {
 namespace {
 
+using test::enterOwnMountSpace;
+using test::expectInSeparateProcess;
 using test::SampleMachine;
+using test::skipSeparateProcess;
 
 TEST(DeletionGuard, DecidesByTheFirstRuleThatApplies) {
     struct Row {
@@ -105,6 +110,94 @@ TEST(DeletionGuard, KeepsAChildThatHoldsKeys) {
     EXPECT_FALSE(child("gh") || child("composer") || child("store"));
     ASSERT_TRUE(child("other"));
     EXPECT_EQ(child("other")->real(), machine.path("~/.config/other"));
+}
+
+TEST(DeletionGuard, KnowsWhatMustStayByWhatItIs) {
+    const SampleMachine machine;
+    machine.text("~/disk/Sync/Documents/thesis", "x");
+    machine.text("~/disk/Sync/Documents/app/node_modules/pad", "x");
+    machine.text("~/disk/Sync/other", "x");
+    machine.link("~/Documents", "disk/Sync/Documents");
+    machine.link("~/.gradle", "Documents");
+    machine.text("~/.cache/vault/id", "x");
+    machine.text("~/.cache/vault/more/deep", "x");
+    machine.link("~/.ssh/id", "../.cache/vault/id");
+    machine.link("~/.ssh/more/keys", "../../.cache/vault/more");
+    machine.link("~/Desktop", ".");
+    machine.link("~/Music", "/");
+    const DeletionGuard guard(machine.host());
+    for (const auto* path : {"~/.gradle/thesis", "~/disk/Sync/Documents",
+                             "~/disk/Sync/Documents/thesis", "~/disk/Sync/Documents/app"})
+        EXPECT_EQ(guard.verdict(machine.path(path)), DeletionRule::personalFolder) << path;
+    for (const auto* path : {"~/.cache/vault/id", "~/.cache/vault/more/deep"})
+        EXPECT_EQ(guard.verdict(machine.path(path)), DeletionRule::protectedPath) << path;
+    for (const auto* path : {"~/disk/Sync/Documents/app/node_modules", "~/disk/Sync/other",
+                             "~/.cache/vault", "~/.gradle/app/node_modules"})
+        EXPECT_TRUE(guard.approve(machine.path(path))) << path;
+    const auto child = guard.childGuard(guard.approve(machine.path("~/disk")).value());
+    EXPECT_FALSE(child("Sync")) << "Documents would go with it";
+    EXPECT_FALSE(guard.childGuard(guard.approve(machine.path("~/.cache")).value())("vault"));
+}
+
+/// For the body of a separate process: a machine on which folders are mounted in other places.
+struct MountedMachine : SampleMachine {
+    ~MountedMachine() {
+        for (const auto& place : places) ::umount2(place.c_str(), MNT_DETACH);
+    }
+    void mount(std::string_view from, std::string_view at) {
+        folder(from);
+        folder(at);
+        places.push_back(path(at));
+        ASSERT_EQ(::mount(path(from).c_str(), places.back().c_str(), nullptr, MS_BIND, nullptr), 0);
+    }
+    void hideMounts() {
+        places.push_back("/proc");
+        ASSERT_EQ(::mount("none", "/proc", "tmpfs", 0, "size=4k"), 0);
+    }
+    std::vector<std::string> places;
+};
+
+TEST(DeletionGuard, KnowsWhatMustStayWhereverItIsMounted) {
+    expectInSeparateProcess([] {
+        if (!enterOwnMountSpace()) skipSeparateProcess();
+        MountedMachine machine;
+        machine.text("~/Documents/thesis/app/build/x", "x");
+        machine.mount("~/Documents", "~/.gradle");               // whole
+        machine.mount("~/Documents/thesis", "~/.npm/_cacache");  // in part
+        machine.mount("~/.cache/a/photos", "~/Pictures");        // the other way round
+        machine.mount("~/.cache/b/reel", "~/Movies/reel");
+        machine.mount("~/.config/c/keys", "~/.ssh");
+        machine.mount("~", "~/.again");
+        const DeletionGuard guard(machine.host());
+        for (const auto* path : {"~/.gradle/thesis", "~/.npm/_cacache/text", "~/.cache/a/photos/x",
+                                 "~/.cache/b/reel/x", "~/.again/Documents/thesis"})
+            EXPECT_EQ(guard.verdict(machine.path(path)), DeletionRule::personalFolder) << path;
+        EXPECT_EQ(guard.verdict(machine.path("~/.config/c/keys/id")), DeletionRule::protectedPath);
+        for (const auto* path : {"~/.gradle/thesis/app/build/x", "~/.npm/_cacache/app/build",
+                                 "~/.npm/other", "~/.again/.npm/other"})
+            EXPECT_TRUE(guard.approve(machine.path(path))) << path;
+        const auto caches = guard.childGuard(guard.approve(machine.path("~/.cache")).value());
+        EXPECT_FALSE(caches("a") || caches("b"));
+        EXPECT_FALSE(guard.childGuard(guard.approve(machine.path("~/.config")).value())("c"));
+        const auto again = guard.childGuard(guard.approve(machine.path("~/.again")).value());
+        EXPECT_FALSE(again("Documents") || again(".cache"));
+    });
+}
+
+TEST(DeletionGuard, OpensNoOtherMountWhereTheSystemHidesThem) {
+    expectInSeparateProcess([] {
+        if (!enterOwnMountSpace()) skipSeparateProcess();
+        MountedMachine machine;
+        machine.text("~/.npm/x", "x");
+        machine.mount("~/Sync/Documents", "~/.gradle");
+        machine.link("~/Documents", "Sync/Documents");
+        machine.hideMounts();
+        const DeletionGuard guard(machine.host());
+        EXPECT_FALSE(guard.approve(machine.path("~/.gradle/thesis")));
+        EXPECT_TRUE(guard.approve(machine.path("~/.npm/x")));
+        machine.mount("~/.npm", "~/Music");
+        EXPECT_FALSE(guard.approve(machine.path("~/.npm/x")));
+    });
 }
 
 TEST(DeletionGuard, OpensNothingByAScratchFolderThatHoldsPersonalFolders) {

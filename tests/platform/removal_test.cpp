@@ -215,22 +215,22 @@ TEST(Removal, LosesNothingToThousandsOfSwapsWhileItRuns) {
 /// and in place of the folder that is emptied.
 void surviveMounts() {
     const SampleMachine machine;
-    machine.text("~/Documents/thesis", "x");
+    machine.text("~/films/thesis", "x");
     for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
         machine.folder(folder);
     machine.file("~/Library/tree/a/file");
     machine.file("~/.cache/file");
     if (!enterOwnMountSpace()) skipSeparateProcess();
     for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
-        ASSERT_TRUE(mountAgain(machine.path("~/Documents"), machine.path(folder)));
+        ASSERT_TRUE(mountAgain(machine.path("~/films"), machine.path(folder)));
     EXPECT_EQ(removeAt(machine, "~/Library/tree"), Removal::incomplete);
     EXPECT_EQ(emptyAt(machine, "~/.cache"), Removal::incomplete);
     EXPECT_EQ(emptyAt(machine, "~/.npm"), Removal::incomplete);
     EXPECT_EQ(removeAt(machine, "~/.npm"), Removal::incomplete);
-    EXPECT_TRUE(machine.has("~/Documents/thesis"));
+    EXPECT_TRUE(machine.has("~/films/thesis"));
     for (const auto* folder : {"~/Library/tree/a/mount", "~/.cache/mount", "~/.npm"})
         ::umount2(machine.path(folder).c_str(), MNT_DETACH);
-    EXPECT_TRUE(machine.has("~/Documents/thesis"));
+    EXPECT_TRUE(machine.has("~/films/thesis"));
     EXPECT_FALSE(machine.has("~/Library/tree/a/file") || machine.has("~/.cache/file"));
 }
 

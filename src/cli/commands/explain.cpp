@@ -1,14 +1,13 @@
 #include <algorithm>
 
 #include "cleanup/deletion_guard.h"
-#include "cleanup/disk_scanner.h"
 #include "cleanup/target_catalogue.h"
 #include "cli/commands/commands.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "deepscan/screens/deep_scan_content.h"
 #include "kit/byte_text.h"
-#include "platform/files.h"
+#include "platform/disk_usage.h"
 #include "platform/path_text.h"
 #include "platform/text.h"
 
@@ -87,27 +86,17 @@ std::vector<std::string> claimingRows(const std::string& path, const Host& host)
     return ids;
 }
 
-/// The rule for the path as it is named, unless its real location is refused where the name is not.
-DeletionRule decidingRule(const std::string& path, const Host& host) {
-    const DeletionGuard guard(host);
-    const auto named = guard.rule(path);
-    const auto real = realLocation(path);
-    if (!allows(named) || !real) return named;
-    const auto behindLinks = guard.rule(*real);
-    return allows(behindLinks) ? named : behindLinks;
-}
-
 Explanation explain(const std::string& word, const Host& host) {
     const auto path = standardizedPath(absolutePath(word));
     const auto name = lastPathComponent(path);
     const auto fact = FolderKnowledge::fact(name);
     return {
         .path = path,
-        .sizeBytes = DiskScanner(host).measurePath(path),
+        .sizeBytes = allocatedSize(path),
         .kind = finalKind(classifyBigItem(path, host.home), fact),
         .fact = fact,
         .claimedBy = claimingRows(path, host),
-        .rule = decidingRule(path, host),
+        .rule = DeletionGuard(host).verdict(path),
     };
 }
 

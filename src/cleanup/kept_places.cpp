@@ -1,0 +1,108 @@
+#include "cleanup/kept_places.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cleanup/deletion_guard.h"
+#include "platform/files.h"
+#include "platform/folder_walk.h"
+#include "platform/path_text.h"
+
+namespace tidewell {
+
+KeptPlaces::KeptPlaces(const Host& host) : home_(host.home) {
+    addHolders(joinPath(home_, "."));
+    for (const auto name : personalFolders) keep(joinPath(home_, name));
+    for (const auto path : protectedHomePaths) {
+        const auto entry = joinPath(home_, path);
+        keep(entry);
+        keepWhatIsLinkedIn(entry);
+    }
+}
+
+/// One that leads to the home folder or above it names nothing: all of it would have to stay.
+void KeptPlaces::keep(const std::string& entry) {
+    if (isSurelyMissing(entry)) return;
+    if (auto location = realLocation(entry)) addLocation(entry, *location);
+    const auto target = resolvedPath(entry);
+    if (!target || isAtOrBelow(home_, *target)) return;
+    addLocation(entry, *target);
+    if (const auto identity = identityOf(*target)) entriesByIdentity_.emplace(*identity, entry);
+    for (const auto& place : mounts_.placesBelow(*target)) {
+        const auto known = joinPath(entry, pathRelativeTo(place, *target));
+        for (const auto& path : mounts_.otherPaths(place)) addLocation(known, path);
+    }
+    if (!mounts_.isKnown() && mountNumber(*target) != mountNumber(home_)) isAllOnOneMount_ = false;
+}
+
+/// Keys are linked from where programs look for them to where people keep them.
+void KeptPlaces::keepWhatIsLinkedIn(const std::string& keyFolder) {
+    const auto real = resolvedPath(keyFolder);
+    if (!real) return;
+    walkFolder(*real, HiddenEntries::visit, [&](const WalkEntry& entry) {
+        if (entry.type == EntryType::link)
+            keep(joinPath(keyFolder, pathRelativeTo(entry.path, *real)));
+        return Descent::enter;
+    });
+}
+
+void KeptPlaces::addLocation(std::string entry, const std::string& location) {
+    for (const auto& path : mounts_.otherPaths(location)) {
+        entries_.emplace(path, entry);
+        addHolders(path);
+    }
+    addHolders(location);
+    entries_.emplace(location, std::move(entry));
+}
+
+void KeptPlaces::addHolders(std::string_view location) {
+    const auto folder = parentPath(location);
+    if (folder.empty() || folder == "/" || holders_.contains(folder)) return;
+    const auto [holder, isNew] =
+        holders_.emplace(std::string(folder), identityOf(std::string(folder)));
+    if (holder->second) holderIdentities_.insert(*holder->second);
+    addHolders(folder);
+}
+
+std::vector<std::string> KeptPlaces::namesIn(const std::vector<std::string>& folder,
+                                             std::string_view name) const {
+    std::vector<std::string> names;
+    for (const auto& above : folder) names.push_back(joinPath(above, name));
+    std::vector<std::string> entries;
+    for (const auto& path : names)
+        for (auto [at, end] = entries_.equal_range(path); at != end; ++at)
+            entries.push_back(at->second);
+    if (const auto identity = identityOf(names.front()))
+        for (auto [at, end] = entriesByIdentity_.equal_range(*identity); at != end; ++at)
+            entries.push_back(at->second);
+    for (auto& entry : entries)
+        if (std::ranges::find(names, entry) == names.end()) names.push_back(std::move(entry));
+    return names;
+}
+
+std::vector<std::string> KeptPlaces::namesOf(std::string_view real) const {
+    std::vector<std::string> names;
+    auto paths = mounts_.otherPaths(real);
+    paths.emplace(paths.begin(), real);
+    for (const auto& path : paths) {
+        std::vector<std::string> found = {""};
+        for (const auto piece : pathPieces(path)) found = namesIn(found, piece);
+        std::ranges::move(found, std::back_inserter(names));
+    }
+    return names;
+}
+
+bool KeptPlaces::liesBelow(const std::vector<std::string>& names) const {
+    const auto holdsSome = [&](const std::string& name) { return holders_.contains(name); };
+    if (std::ranges::any_of(names, holdsSome)) return true;
+    const auto identity = identityOf(names.front());
+    return identity && holderIdentities_.contains(*identity);
+}
+
+bool KeptPlaces::knowsNamesOf(const std::string& real) const {
+    if (mounts_.isKnown()) return true;
+    const auto number = mountNumber(std::string(parentPath(real)));
+    return isAllOnOneMount_ && number && number == mountNumber(home_);
+}
+
+}  // namespace tidewell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace tidewell {
+
+/// Which entry of which disk it is, whatever path leads to it.
+struct Identity {
+    std::uint64_t disk = 0;
+    std::uint64_t number = 0;
+
+    auto operator<=>(const Identity&) const = default;
+};
+
+/// Of the entry itself, which may be a link; absent if it cannot be looked at. Any thread.
+std::optional<Identity> identityOf(const std::string& path);
+
+/// Whether the system says that no entry stands there. What cannot be looked at is not missing.
+bool isSurelyMissing(const std::string& path);
+
+}  // namespace tidewell

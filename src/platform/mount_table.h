@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tidewell {
+
+/// What is mounted where, as of one moment. A part of a disk can be mounted in several places, so
+/// that what lies in it has as many paths, none of which is a link to another. Any thread.
+class MountTable {
+ public:
+    /// The machine's table as it is now; one that is not known where the system does not tell.
+    static MountTable read();
+
+    /// From lines as the system writes them; a damaged line is passed over.
+    explicit MountTable(std::string_view lines);
+
+    /// Whether it tells of the whole disk: not where it is hidden, nor from inside a part that was
+    /// made the root.
+    bool isKnown() const { return root() != nullptr; }
+
+    /// The other paths of what stands at `path`, which is absolute and has no link in it. May name
+    /// places that something else is mounted over.
+    std::vector<std::string> otherPaths(std::string_view path) const;
+
+    /// Where something is mounted below a folder.
+    std::vector<std::string> placesBelow(std::string_view folder) const;
+
+ private:
+    struct Mount {
+        std::string id;
+        std::string parent;  ///< the mount that it was put on
+        std::string disk;
+        std::string part;   ///< the folder of the disk that is shown
+        std::string place;  ///< where it is shown
+    };
+
+    const Mount* root() const;
+    const Mount* holding(std::string_view path) const;
+
+    std::vector<Mount> mounts_;
+};
+
+/// The number of the mount on which an entry itself stands, without the help of the table; absent
+/// if it cannot be told. Any thread.
+std::optional<std::uint64_t> mountNumber(const std::string& path);
+
+}  // namespace tidewell

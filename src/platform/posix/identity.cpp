@@ -1,0 +1,20 @@
+#include "platform/identity.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+
+namespace tidewell {
+
+std::optional<Identity> identityOf(const std::string& path) {
+    struct stat status;
+    if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
+    return Identity{.disk = status.st_dev, .number = status.st_ino};
+}
+
+bool isSurelyMissing(const std::string& path) {
+    struct stat status;
+    return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+}  // namespace tidewell
