@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/disk_usage.h"
 #include "platform/files.h"
 #include "platform/process.h"
 
@@ -20,11 +21,11 @@ constexpr std::string_view dockerDisk = "~/Library/Containers/com.docker.docker/
 
 }  // namespace
 
-AdvisorService::AdvisorService(Host host) : scanner_(std::move(host)) {}
+AdvisorService::AdvisorService(Host host) : host_(std::move(host)) {}
 
 std::optional<std::string> AdvisorService::run(std::string_view tool,
                                                const std::vector<std::string>& arguments) const {
-    auto ended = runTool(scanner_.host().toolPath(tool), arguments, ToolOutput::keep);
+    auto ended = runTool(host_.toolPath(tool), arguments, ToolOutput::keep);
     if (!ended || ended->exitStatus != 0) return std::nullopt;
     return std::move(ended->output);
 }
@@ -64,8 +65,8 @@ bool AdvisorService::thinSnapshots() const {
 }
 
 ByteCount AdvisorService::dockerBytes() const {
-    const auto disk = scanner_.host().locate(dockerDisk);
-    return fileExists(disk) ? scanner_.measurePath(disk) : 0;
+    const auto disk = host_.locate(dockerDisk);
+    return fileExists(disk) ? allocatedSize(disk) : 0;
 }
 
 }  // namespace tidewell

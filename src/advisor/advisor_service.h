@@ -8,7 +8,7 @@
 
 #include "advisor/sim_runtime.h"
 #include "advisor/simulator_lists.h"
-#include "cleanup/disk_scanner.h"
+#include "platform/byte_count.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -44,7 +44,7 @@ class AdvisorService {
     std::optional<std::string> run(std::string_view tool,
                                    const std::vector<std::string>& arguments) const;
 
-    DiskScanner scanner_;
+    Host host_;
 };
 
 }  // namespace tidewell

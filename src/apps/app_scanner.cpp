@@ -7,6 +7,7 @@
 #include "apps/leftover_search.h"
 #include "apps/uninstaller.h"
 #include "platform/bundle.h"
+#include "platform/disk_usage.h"
 #include "platform/path_text.h"
 #include "platform/uuid.h"
 
@@ -61,7 +62,7 @@ std::optional<std::string> firstText(const Bundle& bundle, std::string_view key,
 }  // namespace
 
 AppScanner::AppScanner(Host host, std::vector<std::string> searchDirs)
-    : diskScanner_(std::move(host)), searchDirs_(std::move(searchDirs)) {}
+    : host_(std::move(host)), searchDirs_(std::move(searchDirs)) {}
 
 std::vector<InstalledApp> AppScanner::scan(const Progress& onProgress) const {
     const auto paths = findBundles(searchDirs_);
@@ -77,7 +78,7 @@ std::vector<InstalledApp> AppScanner::scan(const Progress& onProgress) const {
 
 /// Absent for the platform's own applications, which are never offered.
 std::optional<InstalledApp> AppScanner::readApp(const std::string& path) const {
-    if (path.starts_with(diskScanner_.host().systemPath("/System/"))) return std::nullopt;
+    if (path.starts_with(host_.systemPath("/System/"))) return std::nullopt;
     const auto bundle = readBundle(path).value_or(Bundle{});
     if (bundle.identifier && bundle.identifier->starts_with("com.apple.")) return std::nullopt;
     const auto name = firstText(bundle, "CFBundleName", "CFBundleDisplayName");
@@ -87,16 +88,16 @@ std::optional<InstalledApp> AppScanner::readApp(const std::string& path) const {
         .url = path,
         .bundleID = bundle.identifier,
         .version = firstText(bundle, "CFBundleShortVersionString", "CFBundleVersion"),
-        .sizeBytes = diskScanner_.measurePath(path),
+        .sizeBytes = allocatedSize(path),
         .lastUsed = lastUsedDate(path),
     };
 }
 
 std::vector<LeftoverFile> AppScanner::findLeftovers(const InstalledApp& app) const {
-    const auto library = joinPath(diskScanner_.host().home, "Library");
+    const auto library = joinPath(host_.home, "Library");
     std::vector<LeftoverFile> leftovers;
     for (auto& place : findLeftoverPlaces(app, library)) {
-        const auto size = diskScanner_.measurePath(place.path);
+        const auto size = allocatedSize(place.path);
         leftovers.push_back({
             .id = randomUuid(),
             .url = std::move(place.path),
@@ -109,7 +110,7 @@ std::vector<LeftoverFile> AppScanner::findLeftovers(const InstalledApp& app) con
 }
 
 UninstallResult AppScanner::uninstall(const UninstallPlan& plan) const {
-    return tidewell::uninstall(plan, diskScanner_.host());
+    return tidewell::uninstall(plan, host_);
 }
 
 std::vector<std::string> applicationFolders(const Host& host) {

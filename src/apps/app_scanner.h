@@ -7,7 +7,6 @@
 
 #include "apps/installed_app.h"
 #include "apps/uninstall_plan.h"
-#include "cleanup/disk_scanner.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -39,7 +38,7 @@ class AppScanner {
  private:
     std::optional<InstalledApp> readApp(const std::string& path) const;
 
-    DiskScanner diskScanner_;
+    Host host_;
     std::vector<std::string> searchDirs_;
 };
 

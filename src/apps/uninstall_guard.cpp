@@ -1,12 +1,13 @@
 #include "apps/uninstall_guard.h"
 
+#include "cleanup/kept_places.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 
 namespace tidewell {
 
 UninstallGuard::UninstallGuard(const Host& host)
-    : homeOwner_(host.homeOwner),
+    : host_(host),
       systemFolder_(host.systemPath("/System")),
       applications_(host.systemPath("/Applications")),
       ownApplications_(joinPath(host.home, "Applications")),
@@ -22,10 +23,15 @@ bool UninstallGuard::isAllowed(std::string_view path) const {
 }
 
 std::optional<TrashablePath> UninstallGuard::approve(std::string_view path) const {
-    if (homeOwner_ != HomeOwner::user || !isAllowed(path)) return std::nullopt;
+    if (host_.homeOwner != HomeOwner::user || !isAllowed(path)) return std::nullopt;
     auto named = standardizedPath(path);
     auto real = realLocation(named);
     if (!real || !isAllowed(*real)) return std::nullopt;
+    const KeptPlaces kept(host_);
+    const auto names = kept.namesOf(*real);
+    if (!kept.knowsNamesOf(*real) || kept.mustStay(names) || kept.isInKeys(names) ||
+        kept.isPersonal(names))
+        return std::nullopt;
     return TrashablePath(std::move(named), std::move(*real));
 }
 

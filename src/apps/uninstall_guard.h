@@ -20,12 +20,13 @@ class UninstallGuard {
     bool isAllowed(std::string_view path) const;
 
     /// Asks twice: for the path as it is named, and for its real location. So an Applications
-    /// folder that is a link into Documents moves nothing out of there. Absent also if the folder
-    /// that holds the path is missing.
+    /// folder that is a link into Documents moves nothing out of there; nor does one that is
+    /// mounted from there, and nothing goes that holds keys. Absent also if the folder that holds
+    /// the path is missing.
     std::optional<TrashablePath> approve(std::string_view path) const;
 
  private:
-    HomeOwner homeOwner_;
+    Host host_;
     std::string systemFolder_;
     std::string applications_;
     std::string ownApplications_;

@@ -7,7 +7,8 @@ namespace tidewell {
 
 /// Moves an application and then its leftovers to the Trash, one by one, each behind the guard.
 /// Nothing is deleted, and a failure of one item stops none of the others. Does nothing while the
-/// application runs. Blocks; any thread but the main one.
+/// application runs, which shows for bundles with an identifier alone: one without is moved all the
+/// same. Blocks; any thread but the main one.
 UninstallResult uninstall(const UninstallPlan& plan, const Host& host);
 
 }  // namespace tidewell

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cleanup/cleanup_model.h"
+#include "cleanup/kept_entries.h"
 #include "cleanup/kept_places.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
@@ -13,36 +14,29 @@ namespace tidewell {
 
 namespace {
 
-bool isProtected(std::string_view path, std::string_view home) {
-    return std::ranges::any_of(protectedHomePaths, [&](std::string_view entry) {
-        return isAtOrBelow(path, joinPath(home, entry));
-    });
-}
-
 bool isAtOrBelowAny(std::string_view path, const std::vector<std::string>& folders) {
     return std::ranges::any_of(folders,
                                [&](const auto& folder) { return isAtOrBelow(path, folder); });
 }
 
-bool isBuildOutput(const std::vector<std::string_view>& pieces) {
-    return std::ranges::any_of(pieces, [](std::string_view piece) {
-        return isArtifactFolderName(piece) || isBuildFolderName(piece);
-    });
+/// Whether what lies in a personal folder lies in build output there.
+bool isBuildOutput(std::string_view path, std::string_view personalFolder) {
+    return std::ranges::any_of(pathPieces(pathRelativeTo(path, personalFolder)),
+                               [](std::string_view piece) {
+                                   return isArtifactFolderName(piece) || isBuildFolderName(piece);
+                               });
 }
 
-/// A scratch folder that holds personal folders, such as the home folder itself, opens nothing.
-bool isScratch(const std::string& root, std::string_view home) {
-    return std::ranges::none_of(personalFolders, [&](std::string_view name) {
-        return isAtOrBelow(joinPath(home, name), root);
-    });
-}
-
+/// Where the scratch folders really lie. One that holds personal folders, such as the home folder
+/// itself, opens nothing.
 std::vector<std::string> realScratchFolders(const std::vector<std::string>& roots,
-                                            std::string_view home) {
+                                            const KeptEntries& kept) {
     std::vector<std::string> found;
     for (const auto& root : roots) {
         auto real = realLocation(root);
-        if (real && isScratch(*real, home)) found.push_back(std::move(*real));
+        const auto isInRoot = [&real](const auto& folder) { return isAtOrBelow(folder, *real); };
+        if (real && std::ranges::none_of(kept.personalFolders, isInRoot))
+            found.push_back(std::move(*real));
     }
     return found;
 }
@@ -71,19 +65,16 @@ bool allows(DeletionRule rule) {
 }
 
 DeletionRule deletionRule(std::string_view path, std::string_view home,
-                          const std::vector<std::string>& roots) {
+                          const std::vector<std::string>& roots, const KeptEntries& kept) {
     const auto standardPath = standardizedPath(path);
-    const auto standardHome = standardizedPath(home);
-    if (isProtected(standardPath, standardHome)) return DeletionRule::protectedPath;
+    if (isInKeys(standardPath, kept)) return DeletionRule::protectedPath;
     if (isAtOrBelowAny(standardPath, roots)) return DeletionRule::deletableRoot;
     // With a home folder at "/" the whole machine would count as the user's own.
-    if (standardHome == "/" || !isBelow(standardPath, standardHome))
-        return DeletionRule::outsideHome;
-    const auto pieces = pathPieces(pathRelativeTo(standardPath, standardHome));
-    const bool isPersonal =
-        std::ranges::find(personalFolders, pieces.front()) != personalFolders.end();
-    if (!isPersonal) return DeletionRule::openFolder;
-    return isBuildOutput(pieces) ? DeletionRule::buildFolder : DeletionRule::personalFolder;
+    if (home == "/" || !isBelow(standardPath, home)) return DeletionRule::outsideHome;
+    const auto* folder = personalFolderOf(standardPath, kept);
+    if (!folder) return DeletionRule::openFolder;
+    return isBuildOutput(standardPath, *folder) ? DeletionRule::buildFolder
+                                                : DeletionRule::personalFolder;
 }
 
 /// What the guard of a folder's entries sees of the disk. To look for each entry would cost more
@@ -110,12 +101,12 @@ struct DeletionGuard::View {
 DeletionGuard::DeletionGuard(const Host& host)
     : host_(host),
       roots_(deletableRoots(host)),
-      realRoots_(realScratchFolders(roots_, host.home)) {}
+      realRoots_(realScratchFolders(roots_, keptEntries(host))) {}
 
 DeletionRule DeletionGuard::verdict(const std::string& path) const {
     const auto named = standardizedPath(path);
     const auto real = realLocation(named);
-    if (!real) return deletionRule(named, host_.home, roots_);
+    if (!real) return deletionRule(named, host_.home, roots_, keptEntries(host_));
     const KeptPlaces kept(host_);
     return judge(named, kept.namesOf(*real), kept);
 }
@@ -124,7 +115,7 @@ DeletionRule DeletionGuard::verdict(const std::string& path) const {
 /// close what those opened.
 DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std::string>& names,
                                   const KeptPlaces& kept) const {
-    const auto rule = deletionRule(named, host_.home, roots_);
+    const auto rule = deletionRule(named, host_.home, roots_, kept.entries());
     if (!allows(rule)) return rule;
     // In another user's home folder nothing may go, whatever its name.
     if (host_.homeOwner != HomeOwner::user) return DeletionRule::outsideHome;
@@ -132,7 +123,7 @@ DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std:
     if (named.find('\0') != std::string_view::npos || !kept.knowsNamesOf(names.front()))
         return DeletionRule::outsideHome;
     for (const auto& name : names) {
-        const auto other = deletionRule(name, host_.home, realRoots_);
+        const auto other = deletionRule(name, host_.home, realRoots_, kept.entries());
         const bool isRealLocation = &name == &names.front();
         if (!allows(other) && (isRealLocation || other != DeletionRule::outsideHome)) return other;
     }
@@ -154,7 +145,7 @@ ChildGuard DeletionGuard::childGuard(const DeletablePath& folder) const {
         if (view.isOld()) view = View(guard.host_, folder.real());
         const auto names = view.kept.namesIn(view.names, name);
         auto named = joinPath(folder.named(), name);
-        if (!allows(guard.judge(named, names, view.kept)) || view.kept.liesBelow(names))
+        if (!allows(guard.judge(named, names, view.kept)) || view.kept.mustStay(names))
             return std::nullopt;
         return DeletablePath(std::move(named), joinPath(folder.real(), name));
     };

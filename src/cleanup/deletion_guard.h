@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,38 +10,11 @@
 
 namespace tidewell {
 
-/// Paths below the home folder that hold keys and credentials. Neither they nor anything below them
-/// may ever be deleted.
-inline constexpr std::array<std::string_view, 18> protectedHomePaths = {
-    ".cache/huggingface/token",
-    ".cache/huggingface/stored_tokens",
-    ".ssh",
-    ".aws",
-    ".gnupg",
-    ".kube",
-    ".config/gh",
-    ".netrc",
-    ".ollama/id_ed25519",
-    ".ollama/id_ed25519.pub",
-    ".cargo/credentials.toml",
-    ".cargo/credentials",
-    ".composer/auth.json",
-    ".config/composer/auth.json",
-    ".gradle/gradle.properties",
-    ".docker/config.json",
-    ".android/adbkey",
-    ".android/debug.keystore",
-};
-
-/// The folders of the home folder that hold the user's own files.
-inline constexpr std::array<std::string_view, 8> personalFolders = {
-    "Documents", "Desktop", "Downloads", "Pictures", "Movies", "Music", "Public", "Sites",
-};
-
 /// The temporary folder and the per-user cache folder, as far as the machine has them.
 std::vector<std::string> deletableRoots(const Host& host);
 
 class KeptPlaces;
+struct KeptEntries;
 
 /// The rule of the deletion guard that decided about a path.
 enum class DeletionRule {
@@ -56,9 +28,10 @@ enum class DeletionRule {
 
 bool allows(DeletionRule rule);
 
-/// Decides on the text of the path alone, standardised. The first rule that applies wins.
+/// Decides on the text of the path alone, standardised. The first rule that applies wins. `home`
+/// and `roots` are standardised too.
 DeletionRule deletionRule(std::string_view path, std::string_view home,
-                          const std::vector<std::string>& roots);
+                          const std::vector<std::string>& roots, const KeptEntries& kept);
 
 /// The last word on whether a path may be removed, and the only maker of a DeletablePath. Any
 /// thread.

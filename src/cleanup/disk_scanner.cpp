@@ -142,10 +142,6 @@ Removal DiskScanner::cleanPath(const std::string& path) const {
     return emptyFolder(*approved, guard_.childGuard(*approved));
 }
 
-ByteCount DiskScanner::measurePath(const std::string& path) const {
-    return allocatedSize(path);
-}
-
 ByteCount DiskScanner::availableCapacity() const {
     const auto capacity = volumeCapacity(host_.home);
     return capacity ? capacity->available : 0;

@@ -12,8 +12,8 @@
 
 namespace tidewell {
 
-/// Turns a target into a measured item, cleans what an item names, and owns the one size measure
-/// and the one reading of free space of the program. Has no state but the machine that it works
+/// Turns a target into a measured item, cleans what an item names, and owns the one reading of free
+/// space of the program. Has no state but the machine that it works
 /// on; every operation blocks, may be called from any thread but the main one, and never fails
 /// towards its caller: what cannot be read shrinks a figure.
 class DiskScanner {
@@ -32,9 +32,6 @@ class DiskScanner {
     /// a resolved path stay, empty. A path of which something could be read at the scan and cannot
     /// be read now counts as wholly there; whatever cannot be read counts as a failure.
     CleanResult clean(const CleanupItem& item) const;
-
-    /// Bytes allocated on disk; 0 for anything missing or unreadable. See platform/disk_usage.h.
-    ByteCount measurePath(const std::string& path) const;
 
     /// Free space of the home folder's volume; 0 if it cannot be read.
     ByteCount availableCapacity() const;

@@ -3,26 +3,25 @@
 #include <algorithm>
 #include <utility>
 
-#include "cleanup/deletion_guard.h"
 #include "platform/files.h"
 #include "platform/folder_walk.h"
 #include "platform/path_text.h"
 
 namespace tidewell {
 
-KeptPlaces::KeptPlaces(const Host& host) : home_(host.home) {
+KeptPlaces::KeptPlaces(const Host& host) : known_(keptEntries(host)), home_(host.home) {
     addHolders(joinPath(home_, "."));
-    for (const auto name : personalFolders) keep(joinPath(home_, name));
-    for (const auto path : protectedHomePaths) {
-        const auto entry = joinPath(home_, path);
-        keep(entry);
-        keepWhatIsLinkedIn(entry);
+    for (const auto& folder : known_.personalFolders) keep(folder);
+    for (const auto& key : known_.keys) {
+        keep(key);
+        keepWhatIsLinkedIn(key);
     }
 }
 
 /// One that leads to the home folder or above it names nothing: all of it would have to stay.
 void KeptPlaces::keep(const std::string& entry) {
     if (isSurelyMissing(entry)) return;
+    addLocation(entry, entry);
     if (auto location = realLocation(entry)) addLocation(entry, *location);
     const auto target = resolvedPath(entry);
     if (!target || isAtOrBelow(home_, *target)) return;
@@ -92,11 +91,23 @@ std::vector<std::string> KeptPlaces::namesOf(std::string_view real) const {
     return names;
 }
 
-bool KeptPlaces::liesBelow(const std::vector<std::string>& names) const {
-    const auto holdsSome = [&](const std::string& name) { return holders_.contains(name); };
-    if (std::ranges::any_of(names, holdsSome)) return true;
+bool KeptPlaces::mustStay(const std::vector<std::string>& names) const {
+    const auto isOrHoldsSome = [&](const std::string& name) {
+        return entries_.contains(name) || holders_.contains(name);
+    };
+    if (std::ranges::any_of(names, isOrHoldsSome)) return true;
     const auto identity = identityOf(names.front());
     return identity && holderIdentities_.contains(*identity);
+}
+
+bool KeptPlaces::isInKeys(const std::vector<std::string>& names) const {
+    return std::ranges::any_of(
+        names, [this](const auto& name) { return tidewell::isInKeys(name, known_); });
+}
+
+bool KeptPlaces::isPersonal(const std::vector<std::string>& names) const {
+    return std::ranges::any_of(
+        names, [this](const auto& name) { return personalFolderOf(name, known_) != nullptr; });
 }
 
 bool KeptPlaces::knowsNamesOf(const std::string& real) const {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cleanup/kept_entries.h"
 #include "platform/host.h"
 #include "platform/identity.h"
 #include "platform/mount_table.h"
@@ -32,9 +33,18 @@ class KeptPlaces {
     std::vector<std::string> namesIn(const std::vector<std::string>& folder,
                                      std::string_view name) const;
 
-    /// Whether something that is kept, or the home folder, lies below what has these names. It
-    /// would go with it.
-    bool liesBelow(const std::vector<std::string>& names) const;
+    /// Whether what has these names is something that is kept, or holds some, or holds the home
+    /// folder: it cannot go as a whole.
+    bool mustStay(const std::vector<std::string>& names) const;
+
+    /// Whether what has these names lies in a key, or is one.
+    bool isInKeys(const std::vector<std::string>& names) const;
+
+    /// Whether what has these names lies in a personal folder, or is one.
+    bool isPersonal(const std::vector<std::string>& names) const;
+
+    /// By the paths under which the user knows them.
+    const KeptEntries& entries() const { return known_; }
 
     /// Whether all names of a real location could be found. Not where the system hides what is
     /// mounted, and the place is on another mount than the home folder.
@@ -46,6 +56,7 @@ class KeptPlaces {
     void addLocation(std::string entry, const std::string& location);
     void addHolders(std::string_view location);
 
+    KeptEntries known_;
     std::string home_;
     MountTable mounts_ = MountTable::read();
     /// The entries by which the user knows what is kept, by each location that it has.

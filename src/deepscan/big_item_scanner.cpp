@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "cleanup/cleanup_model.h"
+#include "platform/disk_usage.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
@@ -30,24 +32,31 @@ std::vector<std::string> namesIn(const std::string& folder) {
     return folderNames(folder).value_or(std::vector<std::string>{});
 }
 
-bool isInPersonalFolder(std::string_view path, std::string_view home) {
-    if (!isBelow(path, home)) return false;
-    const auto pieces = pathPieces(pathRelativeTo(path, home));
-    return !pieces.empty() &&
-           std::ranges::find(personalFolders, pieces.front()) != personalFolders.end();
-}
-
 }  // namespace
 
-BigItem::Kind classifyBigItem(std::string_view path, std::string_view home) {
+BigItem::Kind classifyBigItem(std::string_view path, std::string_view home,
+                              const KeptEntries& kept) {
     const auto name = lastPathComponent(path);
     if (isArtifactFolderName(name) || isBuildFolderName(name)) return BigItem::Kind::rebuildable;
     // Without a slash behind it, so that "Caches 2" beside it counts as well.
     if (path.starts_with(joinPath(home, "Library/Caches")) || name == "Cache" || name == "Caches")
         return BigItem::Kind::cache;
     if (isBelow(path, joinPath(home, "Library"))) return BigItem::Kind::appData;
-    if (isInPersonalFolder(path, home)) return BigItem::Kind::personal;
+    if (personalFolderOf(path, kept)) return BigItem::Kind::personal;
     return BigItem::Kind::other;
+}
+
+BigItem::Kind classifyPlace(const std::string& path, std::string_view home,
+                            const KeptPlaces& kept) {
+    const auto kind = classifyBigItem(path, home, kept.entries());
+    const auto real = realLocation(path);
+    if (!real) return kind;
+    const auto names = kept.namesOf(*real);
+    const auto isPersonal = [&](const std::string& name) {
+        return classifyBigItem(name, home, kept.entries()) == BigItem::Kind::personal;
+    };
+    const bool staysForTheUser = kept.mustStay(names) || std::ranges::any_of(names, isPersonal);
+    return staysForTheUser ? BigItem::Kind::personal : kind;
 }
 
 BigItem::Kind finalKind(BigItem::Kind classified,
@@ -65,7 +74,7 @@ BigItem::Kind finalKind(BigItem::Kind classified,
     return classified;
 }
 
-BigItemScanner::BigItemScanner(Host host) : host_(std::move(host)), disk_(host_), guard_(host_) {}
+BigItemScanner::BigItemScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 
 std::vector<std::string> BigItemScanner::roots() const {
     std::vector<std::string> roots;
@@ -90,7 +99,8 @@ std::vector<std::string> BigItemScanner::candidates() const {
     return paths;
 }
 
-BigItem BigItemScanner::describe(const std::string& path, ByteCount size) const {
+BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
+                                 const KeptPlaces& kept) const {
     const auto name = lastPathComponent(path);
     const auto fact = FolderKnowledge::fact(name);
     BigItem item{.id = path,
@@ -98,7 +108,7 @@ BigItem BigItemScanner::describe(const std::string& path, ByteCount size) const 
                  .location = std::string(host_.relativeToHome(parentPath(path))),
                  .sizeBytes = size,
                  .isDirectory = fileKind(path) == FileKind::folder,
-                 .kind = finalKind(classifyBigItem(path, host_.home), fact),
+                 .kind = finalKind(classifyPlace(path, host_.home, kept), fact),
                  .note = std::nullopt,
                  .reclaimCommand = std::nullopt};
     if (fact) item.note = std::string(fact->note);
@@ -107,13 +117,14 @@ BigItem BigItemScanner::describe(const std::string& path, ByteCount size) const 
 
 std::vector<BigItem> BigItemScanner::scan(const Progress& progress) const {
     const auto paths = candidates();
+    const KeptPlaces kept(host_);
     std::vector<BigItem> items;
     std::size_t measured = 0;
     for (const auto& path : paths) {
-        const auto size = disk_.measurePath(path);
+        const auto size = allocatedSize(path);
         ++measured;
         if (progress) progress(static_cast<double>(measured) / static_cast<double>(paths.size()));
-        if (isBigItem(size)) items.push_back(describe(path, size));
+        if (isBigItem(size)) items.push_back(describe(path, size, kept));
     }
     sortBySize(items);
     return items;

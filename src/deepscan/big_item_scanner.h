@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "cleanup/disk_scanner.h"
+#include "cleanup/kept_places.h"
 #include "deepscan/big_item.h"
 #include "deepscan/big_item_trash_guard.h"
 #include "deepscan/folder_knowledge.h"
@@ -22,7 +22,12 @@ constexpr bool isBigItem(ByteCount size) {
 }
 
 /// What an entry is by its name and its place in the home folder alone.
-BigItem::Kind classifyBigItem(std::string_view path, std::string_view home);
+BigItem::Kind classifyBigItem(std::string_view path, std::string_view home,
+                              const KeptEntries& kept);
+
+/// The same by every name of the place where it really lies: personal if one of them says so, and
+/// if something that must stay is in it.
+BigItem::Kind classifyPlace(const std::string& path, std::string_view home, const KeptPlaces& kept);
 
 /// The same once the folder is known: a fact overrules it where losing the folder hurts, and where
 /// it surely does not.
@@ -60,10 +65,9 @@ class BigItemScanner {
  private:
     std::vector<std::string> roots() const;
     std::vector<std::string> candidates() const;
-    BigItem describe(const std::string& path, ByteCount size) const;
+    BigItem describe(const std::string& path, ByteCount size, const KeptPlaces& kept) const;
 
     Host host_;
-    DiskScanner disk_;
     BigItemTrashGuard guard_;
 };
 

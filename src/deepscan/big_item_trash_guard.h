@@ -21,16 +21,16 @@ bool isDeepInHome(std::string_view path, std::string_view home);
 /// Decides which found items may be moved to the Trash. Any thread.
 class BigItemTrashGuard {
  public:
-    explicit BigItemTrashGuard(const Host& host) : home_(host.home), homeOwner_(host.homeOwner) {}
+    explicit BigItemTrashGuard(const Host& host) : host_(host) {}
 
-    /// Asks for the item's depth twice: as its path is named, and at its real location. So neither
-    /// a folder that is a link out of the home folder, nor one that is a link back up to it, gets
-    /// anything past the guard. Absent also if the folder that holds the item is missing.
+    /// Asks for the item's depth as its path is named, and under every name of its real location.
+    /// So neither a folder that is a link out of the home folder, nor one that is a link back up to
+    /// it, gets anything past the guard; nor does what a personal folder leads to, or what holds
+    /// keys or a personal folder. Absent also if the folder that holds the item is missing.
     std::optional<TrashablePath> approve(const BigItem& item) const;
 
  private:
-    std::string home_;
-    HomeOwner homeOwner_;
+    Host host_;
 };
 
 }  // namespace tidewell

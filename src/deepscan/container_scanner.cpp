@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "platform/disk_usage.h"
 #include "platform/files.h"
 
 namespace tidewell {
@@ -74,7 +75,7 @@ std::span<const ContainerScanner::Engine> ContainerScanner::engines() {
     return engineTable;
 }
 
-ContainerScanner::ContainerScanner(Host host) : host_(std::move(host)), disk_(host_) {}
+ContainerScanner::ContainerScanner(Host host) : host_(std::move(host)) {}
 
 std::optional<std::string> ContainerScanner::firstExisting(const CataloguePaths& paths) const {
     for (const auto stored : paths) {
@@ -88,7 +89,7 @@ std::optional<BigItem> ContainerScanner::find(const Engine& engine) const {
     if (!firstExisting(engine.detect)) return std::nullopt;
     const auto measured = firstExisting(engine.measure);
     if (!measured) return std::nullopt;
-    const auto size = disk_.measurePath(*measured);
+    const auto size = allocatedSize(*measured);
     if (size < containerMinimumSize) return std::nullopt;
     BigItem item{.id = firstExisting(engine.reveal).value_or(*measured),
                  .name = std::string(engine.name) + " data",

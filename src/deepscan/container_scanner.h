@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "cleanup/disk_scanner.h"
 #include "cleanup/target_catalogue.h"
 #include "deepscan/big_item.h"
 #include "platform/host.h"
@@ -47,7 +46,6 @@ class ContainerScanner {
     std::optional<std::string> firstExisting(const CataloguePaths& paths) const;
 
     Host host_;
-    DiskScanner disk_;
 };
 
 }  // namespace tidewell

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/dates.h"
+#include "platform/disk_usage.h"
 #include "platform/folder_walk.h"
 #include "platform/path_text.h"
 
@@ -59,7 +60,7 @@ std::string installerNote(std::string_view extension, std::optional<Date> added,
     return note + " Safe to trash once you've installed the app.";
 }
 
-InstallerScanner::InstallerScanner(Host host) : host_(std::move(host)), disk_(host_) {}
+InstallerScanner::InstallerScanner(Host host) : host_(std::move(host)) {}
 
 /// A folder with an installer's extension counts like a file, and is walked all the same unless it
 /// is a package.
@@ -91,7 +92,7 @@ BigItem InstallerScanner::describe(const std::string& path, ByteCount size) cons
 std::vector<BigItem> InstallerScanner::scan() const {
     std::vector<BigItem> items;
     for (const auto& path : installerPaths()) {
-        const auto size = disk_.measurePath(path);
+        const auto size = allocatedSize(path);
         if (size >= installerMinimumSize) items.push_back(describe(path, size));
     }
     sortBySize(items);

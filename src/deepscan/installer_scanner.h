@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "cleanup/disk_scanner.h"
 #include "deepscan/big_item.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -44,7 +43,6 @@ class InstallerScanner {
     BigItem describe(const std::string& path, ByteCount size) const;
 
     Host host_;
-    DiskScanner disk_;
 };
 
 }  // namespace tidewell

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/disk_usage.h"
 #include "platform/files.h"
 #include "platform/sum.h"
 
@@ -96,7 +97,7 @@ ByteCount totalBytes(const std::vector<AIModelStore>& stores) {
     return sumOf(stores, &AIModelStore::sizeBytes);
 }
 
-AIModelScanner::AIModelScanner(Host host) : host_(std::move(host)), disk_(host_) {}
+AIModelScanner::AIModelScanner(Host host) : host_(std::move(host)) {}
 
 std::vector<AIModelStore> AIModelScanner::scan() const {
     std::vector<AIModelStore> stores;
@@ -104,7 +105,7 @@ std::vector<AIModelStore> AIModelScanner::scan() const {
         if (!firstThatExists(engine.detect, host_)) continue;
         auto path = firstThatExists(engine.measure, host_);
         if (!path) continue;
-        const auto size = disk_.measurePath(*path);
+        const auto size = allocatedSize(*path);
         if (!isWorthShowing(size)) continue;
         stores.push_back({.id = std::move(*path),
                           .tool = std::string(engine.tool),

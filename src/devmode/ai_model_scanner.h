@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cleanup/disk_scanner.h"
+#include "platform/byte_count.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -40,7 +40,6 @@ class AIModelScanner {
 
  private:
     Host host_;
-    DiskScanner disk_;
 };
 
 }  // namespace tidewell

@@ -174,6 +174,18 @@ TEST_F(Uninstaller, AllowsOnlyWhatLiesInTheApplicationsFoldersAndTheOwnLibrary) 
     EXPECT_FALSE(guard.isAllowed("/Applications/X.app"));
 }
 
+TEST_F(Uninstaller, KeepsWhatAPersonalFolderOrAKeyLeadsTo) {
+    machine.text("~/Library/Caches/App/keys/id", "x");
+    machine.text("~/Library/Sync/Documents/thesis", "x");
+    machine.link("~/.ssh", "Library/Caches/App/keys");
+    machine.link("~/Documents", "Library/Sync/Documents");
+    const UninstallGuard guard(machine.host());
+    for (const auto* path : {"~/Library/Caches/App", "~/Library/Caches/App/keys/id",
+                             "~/Library/Sync", "~/Library/Sync/Documents/thesis"})
+        EXPECT_FALSE(guard.approve(machine.path(path))) << path;
+    EXPECT_TRUE(guard.approve(machine.path("~/Library/Caches/App/other")));
+}
+
 }  // namespace
 
 }  // namespace tidewell::test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 
+#include "cleanup/kept_entries.h"
 #include "support/sample_machine.h"
 #include "support/separate_process.h"
 
@@ -19,6 +20,9 @@ TEST(DeletionGuard, DecidesByTheFirstRuleThatApplies) {
         const char* path;
         DeletionRule rule;
     };
+    Host host;
+    host.home = "/home/ada";
+    const auto kept = keptEntries(host);
     const std::vector<std::string> roots = {"/var/T", "/home/ada/.ssh/T", "/home/ada/Music/T"};
     for (const auto& [path, rule] : {
              Row{"/home/ada/.ssh", DeletionRule::protectedPath},
@@ -50,8 +54,8 @@ TEST(DeletionGuard, DecidesByTheFirstRuleThatApplies) {
              Row{"/home/ada/Documents/app/node_modules/left-pad", DeletionRule::buildFolder},
              Row{"/home/ada/Desktop/target", DeletionRule::buildFolder},
          })
-        EXPECT_EQ(deletionRule(path, "/home/ada", roots), rule) << path;
-    EXPECT_EQ(deletionRule("/usr/lib", "/", {}), DeletionRule::outsideHome);
+        EXPECT_EQ(deletionRule(path, "/home/ada", roots, kept), rule) << path;
+    EXPECT_EQ(deletionRule("/usr/lib", "/", {}, kept), DeletionRule::outsideHome);
     EXPECT_FALSE(allows(DeletionRule::protectedPath) || allows(DeletionRule::outsideHome) ||
                  allows(DeletionRule::personalFolder));
     EXPECT_TRUE(allows(DeletionRule::deletableRoot) && allows(DeletionRule::openFolder) &&

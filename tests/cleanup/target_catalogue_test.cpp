@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <set>
 
-#include "cleanup/deletion_guard.h"
 #include "cleanup/disk_scanner.h"
+#include "cleanup/kept_entries.h"
 #include "platform/path_text.h"
 #include "support/sample_machine.h"
 

@@ -292,6 +292,8 @@ TEST(CommandLine, TakesAnIdByItsBytesAndAsTheDocumentShowsIt) {
 TEST(CommandLine, ExplainsWhatMayBeRemovedAndWhy) {
     const FurnishedMachine machine;
     machine.link("~/.gradle", machine.path("~/Documents"));
+    machine.link("~/.aws", machine.path("~/Sync/keys"));
+    machine.text("~/Sync/keys/credentials", "x");
     struct Row {
         std::string path;
         std::string_view rule;
@@ -311,6 +313,7 @@ TEST(CommandLine, ExplainsWhatMayBeRemovedAndWhy) {
          true,
          {"chrome-cache", "other-app-caches"}},
         {"~/.gradle/caches", "personal", false, {"gradle-caches"}},  // by its real location
+        {"~/Sync/keys/credentials", "protected", false, {}},
     };
     for (const auto& row : rows) {
         const auto known = documentOf(machine, {"explain", machine.path(row.path)});

@@ -24,7 +24,11 @@ TEST(BigItemScanner, ClassifiesByNameThenPlaceAndLetsAClearFactOverruleIt) {
         {"/h/Projects/Documents", Kind::other},
         {"/h2/Documents/x", Kind::other},
     };
-    for (const auto& [path, kind] : rows) EXPECT_EQ(classifyBigItem(path, "/h"), kind) << path;
+    Host host;
+    host.home = "/h";
+    const auto kept = keptEntries(host);
+    for (const auto& [path, kind] : rows)
+        EXPECT_EQ(classifyBigItem(path, "/h", kept), kind) << path;
 
     const auto with = [](Verdict verdict) {
         return finalKind(Kind::appData, FolderKnowledge::Fact{verdict, ""});

@@ -76,6 +76,32 @@ TEST_F(BigItemTrash, LetsNoLinkCarryItPastTheGuard) {
     EXPECT_TRUE(machine.has("/Users/Shared/folder/x"));
 }
 
+TEST_F(BigItemTrash, KeepsWhatAPersonalFolderOrAKeyLeadsTo) {
+    machine.file("~/Sync/mine/Documents/thesis", 90 * megabyte);
+    machine.folder("~/Sync/mine/Documents/node_modules");
+    machine.text("~/Sync/keys/id", "x");
+    machine.link("~/Documents", "Sync/mine/Documents");
+    machine.link("~/.ssh", "Sync/keys");
+    machine.link("~/Work", "Sync/mine");
+    const KeptPlaces kept(machine.host());
+    const auto kindOf = [&](const char* path) {
+        return classifyPlace(machine.path(path), machine.home(), kept);
+    };
+    for (const auto* path : {"~/Sync/mine", "~/Sync/mine/Documents", "~/Work/Documents/thesis",
+                             "~/Sync/mine/Documents/thesis"})
+        EXPECT_EQ(kindOf(path), Kind::personal) << path;
+    EXPECT_EQ(kindOf("~/Sync/mine/Documents/node_modules"), Kind::rebuildable);
+    EXPECT_EQ(kindOf("~/Sync/other"), Kind::other);
+    const auto found = BigItemScanner(machine.host()).scan();
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found.front().kind, Kind::personal);
+
+    for (const auto* path : {"~/Sync/mine", "~/Sync/mine/Documents", "~/Work/Documents",
+                             "~/Sync/keys", "~/Sync/keys/id"})
+        expectRefused(path);
+    EXPECT_TRUE(trash("~/Work/Documents/thesis").success) << "one thing in it may go, if asked";
+}
+
 TEST_F(BigItemTrash, LeavesAnItemWhereTheTrashIsALink) {
     machine.folder("~/Elsewhere");
     machine.link("~/.Trash", "Elsewhere");

@@ -93,7 +93,7 @@ Explanation explain(const std::string& word, const Host& host) {
     return {
         .path = path,
         .sizeBytes = allocatedSize(path),
-        .kind = finalKind(classifyBigItem(path, host.home), fact),
+        .kind = finalKind(classifyPlace(path, host.home, KeptPlaces(host)), fact),
         .fact = fact,
         .claimedBy = claimingRows(path, host),
         .rule = DeletionGuard(host).verdict(path),

@@ -1,7 +1,7 @@
-#include "cleanup/disk_scanner.h"
 #include "cli/commands/commands.h"
 #include "cli/report.h"
 #include "kit/byte_text.h"
+#include "platform/disk_usage.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {
@@ -13,10 +13,9 @@ constexpr int sizeColumns = 10;
 }  // namespace
 
 Outcome runMeasure(const Context& context, const MeasureCall& call) {
-    const DiskScanner scanner(context.host);
     Value::List measured;
     for (const auto& path : call.paths) {
-        const auto size = scanner.measurePath(path);
+        const auto size = allocatedSize(path);
         measured.push_back(Value::Object{{"path", path}, {"sizeBytes", size}});
         if (context.form == OutputForm::text)
             printLine(rightAligned(byteText(size), sizeColumns) + "  " + terminalText(path));
