@@ -1,13 +1,13 @@
 #include <algorithm>
 #include <iterator>
 
-#include "cleanup/disk_scanner.h"
 #include "cli/commands/commands.h"
 #include "cli/interruption.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
 #include "platform/dates.h"
+#include "platform/disk_usage.h"
 #include "platform/removal.h"
 #include "platform/text.h"
 
@@ -57,18 +57,17 @@ std::variant<Items, WrongCall> wantedItems(const Items& items,
 }
 
 ExitStatus list(const Context& context, const Items& items) {
-    const DiskScanner disk(context.host);
     if (context.form == OutputForm::json) {
         Value::List entries;
         for (const auto& item : items)
-            entries.push_back(trashedItemShape(item, disk.measurePath(item.path)));
+            entries.push_back(trashedItemShape(item, allocatedSize(item.path)));
         printDocument(Value::Object{{"items", std::move(entries)}});
         return ExitStatus::done;
     }
     if (items.empty()) printLine("The Trash is empty.");
     for (const auto& item : items) {
         printLine("  " + leftAligned(terminalText(item.name), nameColumns) +
-                  rightAligned(byteText(disk.measurePath(item.path)), sizeColumns) + "  " +
+                  rightAligned(byteText(allocatedSize(item.path)), sizeColumns) + "  " +
                   (item.deletedAt ? relativeDateInWords(*item.deletedAt, now()) : ""));
         printLine("    " + inked(terminalText(item.origin.value_or(unknownOrigin)), Ink::faint));
     }
