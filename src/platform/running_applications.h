@@ -29,6 +29,8 @@ struct RunningApplication {
     std::optional<std::string> bundleIdentifier;
     std::optional<std::string> bundlePath;  ///< absent for an application that is no bundle
     ActivationPolicy activationPolicy = ActivationPolicy::regular;
+    /// All of it, `process` first, in the order of their start; empty where only that one counts.
+    std::vector<ProcessIdentity> processes = {};
 };
 
 /// The user's applications in the order in which they were started, one for each bundle below the

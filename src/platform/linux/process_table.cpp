@@ -80,6 +80,7 @@ std::optional<Process> readProcess(std::int32_t id) {
     const auto status = executable ? readStatus(id) : std::nullopt;
     if (!status) return std::nullopt;
     return Process{.identity = {.id = id, .startTime = status->startTime},
+                   .parent = status->parent,
                    .executable = std::move(*executable)};
 }
 
@@ -122,6 +123,7 @@ std::optional<ProcessStatus> parseProcessStatus(std::string_view line) {
     if (nameEnd == std::string_view::npos) return std::nullopt;
     // The fields behind the name, which is the second one.
     constexpr std::size_t stateField = 0;
+    constexpr std::size_t parentField = 1;
     constexpr std::size_t startTimeField = 19;
     std::vector<std::string_view> fields;
     auto rest = line.substr(nameEnd + 1);
@@ -133,8 +135,10 @@ std::optional<ProcessStatus> parseProcessStatus(std::string_view line) {
         rest.remove_prefix(fields.back().size());
     }
     const auto start = numberIn<std::uint64_t>(fields[startTimeField]);
-    if (!start) return std::nullopt;
-    return ProcessStatus{.state = fields[stateField].front(), .startTime = *start};
+    const auto parent = numberIn<std::int32_t>(fields[parentField]);
+    if (!start || !parent) return std::nullopt;
+    return ProcessStatus{
+        .state = fields[stateField].front(), .parent = *parent, .startTime = *start};
 }
 
 std::optional<ByteCount> labelledByteCount(std::string_view text, std::string_view label) {

@@ -14,6 +14,7 @@ namespace tidewell::linux_system {
 /// A process whose program is known.
 struct Process {
     ProcessIdentity identity;
+    std::int32_t parent = 0;
     std::string executable;  ///< its real location, also if the file has been replaced meanwhile
 };
 
@@ -30,6 +31,7 @@ std::optional<std::uint64_t> startTime(std::int32_t id);
 
 struct ProcessStatus {
     char state = 0;
+    std::int32_t parent = 0;
     std::uint64_t startTime = 0;
 };
 
