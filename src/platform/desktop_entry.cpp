@@ -179,6 +179,13 @@ std::vector<std::string> settingFolders(const Host& host) {
     return folders;
 }
 
+std::vector<std::string> sessionDesktops(const Host& host) {
+    if (host.root != "/") return {};
+    auto desktops = piecesOf(environmentValue("XDG_CURRENT_DESKTOP"), ':');
+    std::erase(desktops, "");
+    return desktops;
+}
+
 std::vector<EntryFile> applicationEntries(const Host& host) {
     std::vector<EntryFile> entries;
     std::set<std::string> seen;

@@ -52,6 +52,10 @@ std::vector<std::string> dataFolders(const Host& host);
 /// The same for settings: {config} and then what the system has.
 std::vector<std::string> settingFolders(const Host& host);
 
+/// What the desktop of this session goes by, such as "ubuntu" and "GNOME"; none where nobody knows,
+/// as on a machine that lies in a folder.
+std::vector<std::string> sessionDesktops(const Host& host);
+
 /// An entry where it stands.
 struct EntryFile {
     std::string id;    ///< "org.example.Paint", without the file's extension

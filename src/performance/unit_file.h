@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tidewell {
+
+/// What the file of a unit says of itself; empty for what it does not say.
+struct UnitFile {
+    std::string description;
+    std::string command;  ///< of the first "ExecStart", without the marks before its program
+};
+
+UnitFile parseUnitFile(std::string_view text);
+
+/// The file of a unit's name: "mail@work.service" is made of "mail@.service".
+std::string unitFileName(std::string_view unit);
+
+}  // namespace tidewell
