@@ -33,10 +33,11 @@ struct RunningApplication {
     std::vector<ProcessIdentity> processes = {};
 };
 
-/// The user's applications in the order in which they were started, one for each bundle below the
-/// host's root whose executable runs, and, if the root is "/", one for each installed desktop entry
-/// whose executable runs. Processes that end meanwhile, and those of other users, are left out.
-/// Any thread.
+/// The user's applications in the order in which they were started. On macOS machines one for each
+/// bundle below the host's root whose executable runs, and, if the root is "/", one for each
+/// installed desktop entry whose executable runs; on Linux machines one for each desktop entry,
+/// flatpak and snap of which any process runs. Processes that end meanwhile, and those of other
+/// users, are left out. Any thread.
 std::vector<RunningApplication> runningApplications(const Host& host);
 
 /// Whether an application of this identifier runs, in the background or not. Any thread.

@@ -134,7 +134,9 @@ TEST_F(RunningApplicationsTest, AreFoundByDesktopEntriesOnTheUsersOwnMachine) {
     const auto own = findHost({.home = home});
     ASSERT_TRUE(own.host) << own.problem;
     auto applications = runningApplications(*own.host);
-    std::erase_if(applications, [](const auto& each) { return each.bundlePath.has_value(); });
+    std::erase_if(applications, [](const auto& each) {
+        return each.bundlePath || each.activationPolicy == ActivationPolicy::background;
+    });
     ASSERT_EQ(idsOf(applications), (std::vector{sketch.processId(), show.processId()}));
     EXPECT_EQ(applications[0].name, "Sketch");
     EXPECT_EQ(applications[0].bundleIdentifier, "org.example.Sketch");

@@ -27,6 +27,7 @@ Value runningAppShape(const RunningApp& app) {
     if (app.bundleID) shape.emplace_back("bundleID", *app.bundleID);
     if (app.url) shape.emplace_back("path", *app.url);
     shape.emplace_back("memoryBytes", app.memoryBytes);
+    if (app.processCount) shape.emplace_back("processCount", *app.processCount);
     return shape;
 }
 

@@ -34,8 +34,9 @@ std::vector<RunningApplication> groupedApplications(const std::vector<ProcessFac
                                                     const std::vector<KnownApplication>& known);
 
 /// What a shell script that starts a program ends in: the program of its last "exec", its plain
-/// variables put in, and the script's own folder for those that are worked out. Absent for what is
-/// no such script; nothing of it is run. `script` is the script's real location.
+/// variables put in, and the script's own folder for those that are worked out: an absolute path or
+/// a bare name. Absent for what is no such script; nothing of it is run. `script` is the script's
+/// real location.
 std::optional<std::string> programStartedBy(std::string_view script, std::string_view text);
 
 }  // namespace tidewell::linux_system

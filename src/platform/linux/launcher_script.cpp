@@ -101,8 +101,11 @@ std::optional<std::string> programStartedBy(std::string_view script, std::string
         if (const auto word = executedWord(line); !word.empty())
             program = filledIn(word, variables, folder);
     }
-    if (!program.starts_with('/') || lastPathComponent(program).empty()) return std::nullopt;
-    return standardizedPath(program);
+    const bool isPlace = program.find('/') != program.npos;
+    const bool isRedirection = program.find_first_of("<>") != program.npos;
+    if (program.empty() || isRedirection || (isPlace && !program.starts_with('/')))
+        return std::nullopt;
+    return isPlace ? standardizedPath(program) : program;
 }
 
 }  // namespace tidewell::linux_system

@@ -1,20 +1,14 @@
 #include "platform/linux/program_signs.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
+#include "platform/desktop_entry.h"
 #include "platform/path_text.h"
 
 namespace tidewell::linux_system {
 
 namespace {
-
-/// By the beginning of their names.
-constexpr std::array<std::string_view, 14> runners{
-    "java", "electron", "node", "python", "perl", "ruby", "mono",
-    "wine", "gjs",      "sh",   "bash",   "dash", "zsh",  "bwrap",
-};
 
 bool contains(const std::vector<std::string>& names, std::string_view name) {
     return std::ranges::find(names, name) != names.end();
@@ -39,18 +33,10 @@ std::optional<std::int32_t> lockHolder(std::string_view link, std::string_view h
     return process;
 }
 
-bool runsOtherPrograms(std::string_view executable) {
-    const auto name = lastPathComponent(executable);
-    return std::ranges::any_of(runners, [name](std::string_view runner) {
-        return name.starts_with(runner) &&
-               name.find_first_not_of("0123456789.-", runner.size()) == std::string_view::npos;
-    });
-}
-
 bool isExecutableOf(const ProgramSigns& program, std::string_view executable,
                     const std::vector<std::string>& arguments) {
     if (contains(program.executables, lastPathComponent(executable))) return true;
-    if (!runsOtherPrograms(executable)) return false;
+    if (!isLauncher(executable)) return false;
     return std::ranges::any_of(arguments, [&](const std::string& argument) {
         // A program's own place or its archive: "/opt/idea/bin/idea", "/usr/share/paint/paint.jar".
         return contains(program.executables, lastPathComponent(argument)) ||

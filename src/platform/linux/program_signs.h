@@ -21,7 +21,4 @@ std::optional<std::int32_t> lockHolder(std::string_view link, std::string_view h
 bool isExecutableOf(const ProgramSigns& program, std::string_view executable,
                     const std::vector<std::string>& arguments);
 
-/// "python3.11" is one: its own name says nothing about what it is running.
-bool runsOtherPrograms(std::string_view executable);
-
 }  // namespace tidewell::linux_system

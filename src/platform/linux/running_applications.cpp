@@ -11,6 +11,7 @@
 
 #include "platform/bundle.h"
 #include "platform/files.h"
+#include "platform/linux/desktop_applications.h"
 #include "platform/linux/menu_entries.h"
 #include "platform/linux/process_table.h"
 #include "platform/path_text.h"
@@ -113,7 +114,13 @@ class ApplicationList {
 }  // namespace
 
 std::vector<RunningApplication> runningApplications(const Host& host) {
-    return ApplicationList(host).applications();
+    switch (host.system) {
+        case System::macOS:
+            return ApplicationList(host).applications();
+        case System::linux:
+            return linux_system::desktopApplications(host);
+    }
+    return {};
 }
 
 bool isApplicationRunning(const Host& host, std::string_view bundleIdentifier) {

@@ -8,6 +8,7 @@
 #include <climits>
 #include <cstdint>
 
+#include "platform/desktop_entry.h"
 #include "platform/files.h"
 #include "platform/linux/control_group.h"
 #include "platform/linux/process_table.h"
@@ -87,16 +88,14 @@ bool isOf(const ProgramSigns& program, const SeenProcess& seen) {
     return isIn(group, Packaging::flatpak, program.flatpaks) ||
            isIn(group, Packaging::snap, program.snaps) ||
            linux_system::isExecutableOf(program, process.executable, arguments) ||
-           (linux_system::runsOtherPrograms(process.executable) &&
-            hasFileOpenIn(program.folders, process.identity.id));
+           (isLauncher(process.executable) && hasFileOpenIn(program.folders, process.identity.id));
 }
 
 SeenProcess look(Process process) {
     const auto id = process.identity.id;
     SeenProcess seen{.process = std::move(process), .group = {}, .arguments = {}};
     seen.group = linux_system::groupedApplication(id);
-    if (linux_system::runsOtherPrograms(seen.process.executable))
-        seen.arguments = linux_system::argumentsOf(id);
+    if (isLauncher(seen.process.executable)) seen.arguments = linux_system::argumentsOf(id);
     return seen;
 }
 

@@ -1,0 +1,51 @@
+#include "platform/linux/desktop_applications.h"
+
+#include "platform/desktop_entry.h"
+#include "platform/files.h"
+#include "platform/linux/application_groups.h"
+#include "platform/linux/process_table.h"
+#include "platform/path_text.h"
+
+namespace tidewell::linux_system {
+
+namespace {
+
+constexpr std::size_t longestScript = 64 * 1024;
+
+/// What runs in the end when an entry is started; empty if that is a program for running others.
+std::string executableBehind(const Host& host, const DesktopEntry& entry) {
+    const auto words = commandWords(entry.exec);
+    auto program = words.empty() ? std::nullopt : namedProgram(host, words.front());
+    const auto text = program ? readFile(*program, longestScript) : std::nullopt;
+    const auto started = text ? programStartedBy(*program, *text) : std::nullopt;
+    if (started) program = namedProgram(host, *started);
+    return program && !isLauncher(*program) ? *program : std::string();
+}
+
+std::vector<KnownApplication> knownApplications(const Host& host) {
+    std::vector<KnownApplication> known;
+    for (const auto& [id, path, entry] : applicationEntries(host)) {
+        if (entry.isHidden) continue;
+        known.push_back({.id = id,
+                         .name = entry.name.value_or(id),
+                         .executable = executableBehind(host, entry),
+                         .activationPolicy = entry.isShownInMenus ? ActivationPolicy::regular
+                                                                  : ActivationPolicy::background});
+    }
+    return known;
+}
+
+}  // namespace
+
+std::vector<RunningApplication> desktopApplications(const Host& host) {
+    std::vector<ProcessFacts> processes;
+    for (const auto& process : ownProcesses())
+        if (isBelow(process.executable, host.root))
+            processes.push_back({.identity = process.identity,
+                                 .parent = process.parent,
+                                 .executable = process.executable,
+                                 .group = groupedApplication(process.identity.id)});
+    return groupedApplications(processes, knownApplications(host));
+}
+
+}  // namespace tidewell::linux_system
