@@ -10,6 +10,7 @@
 #include "platform/disk_usage.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
+#include "platform/trash.h"
 #include "platform/volume.h"
 
 namespace tidewell {
@@ -139,7 +140,10 @@ Removal DiskScanner::cleanPath(const std::string& path) const {
     const auto approved = guard_.approve(path);
     if (!approved) return Removal::incomplete;
     if (kind == FileKind::other) return removeItem(*approved);
-    return emptyFolder(*approved, guard_.childGuard(*approved));
+    const auto children = guard_.childGuard(*approved);
+    const auto trashes = trashFolders(host_);
+    const bool isTrash = std::ranges::find(trashes, approved->real()) != trashes.end();
+    return isTrash ? emptyTrash(*approved, children, host_) : emptyFolder(*approved, children);
 }
 
 ByteCount DiskScanner::availableCapacity() const {

@@ -74,6 +74,11 @@ using ChildGuard = std::function<std::optional<DeletablePath>(std::string_view n
 /// which loses nothing.
 Removal emptyFolder(const DeletablePath& folder, const ChildGuard& guard);
 
+/// Empties one of the user's Trashes for good, by the folder in which its entries lie: like any
+/// folder, and what the Trash keeps about an entry goes after it, also where the entry itself was
+/// gone before. What is kept about an entry that stays, stays. Any other folder is left alone.
+Removal emptyTrash(const DeletablePath& entries, const ChildGuard& guard, const Host& host);
+
 /// What became of something on its way to the Trash.
 struct Trashing {
     std::optional<TrashedItem> moved;  ///< what it is there; absent if it stayed where it was

@@ -37,4 +37,8 @@ struct TrashedItem {
 /// unreadable, a link or somebody else's counts as empty. Blocks; any thread.
 std::vector<TrashedItem> trashedItems(const Host& host);
 
+/// The folders of the same Trashes in which the entries lie: their real paths. Emptied with
+/// emptyTrash, which is told of in removal.h.
+std::vector<std::string> trashFolders(const Host& host);
+
 }  // namespace tidewell

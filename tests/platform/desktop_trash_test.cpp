@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <iterator>
 
+#include "cleanup/disk_scanner.h"
 #include "deepscan/big_item_trash_guard.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
@@ -344,6 +346,107 @@ TEST(PutBack, BringsBackWhatLiesInAMacTrashByItsAttribute) {
     EXPECT_FALSE(extendedAttribute(item.id, "user.tidewell.origin"));
 }
 
+DiskScanner::CleanResult empty(const Desktop& desktop, const std::string& files) {
+    CleanupItem item;
+    item.target.title = "Trash";
+    item.resolvedPaths = {desktop.path(files)};
+    return DiskScanner(desktop.host).clean(item);
+}
+
+TEST(EmptyingTheTrash, LeavesNoOrphanAndNoStaleSize) {
+    const Desktop desktop;
+    const std::string sizes = "~/.local/share/Trash/directorysizes";
+    desktop.machine.file("~/Movies/reel/one", 8192);
+    EXPECT_TRUE(desktop.trash("~/Movies/reel").moved);
+    desktop.machine.text(desktop.files + "without a text", "x");
+    desktop.machine.text(desktop.infos + "without an entry.trashinfo", "x");
+    desktop.machine.text(desktop.infos + "notes", "of the user");
+    desktop.machine.text(sizes, "8192 1 reel\n");
+    EXPECT_FALSE(empty(desktop, desktop.files).failedTitle);
+    EXPECT_TRUE(fs::is_empty(desktop.path(desktop.files)));
+    EXPECT_FALSE(desktop.has(desktop.infos + "reel.trashinfo"));
+    EXPECT_FALSE(desktop.has(desktop.infos + "without an entry.trashinfo"));
+    EXPECT_TRUE(desktop.has(desktop.infos + "notes"));
+    EXPECT_EQ(desktop.machine.contentOf(sizes), "");
+}
+
+TEST(EmptyingTheTrash, KeepsTheTextAboutWhatStays) {
+    test::expectInSeparateProcess([] {
+        test::becomeOrdinaryUser();
+        const Desktop desktop;
+        desktop.machine.text("~/Movies/reel/one", "x");
+        const auto item = desktop.trash("~/Movies/reel").moved.value();
+        ASSERT_EQ(::chmod(item.path.c_str(), 0500), 0);
+        EXPECT_TRUE(empty(desktop, desktop.files).failedTitle);
+        EXPECT_TRUE(desktop.has(desktop.infos + "reel.trashinfo"));
+        ASSERT_EQ(::chmod(item.path.c_str(), 0700), 0);
+        EXPECT_EQ(putBack(item, desktop.host).place, desktop.path("~/Movies/reel"));
+    });
+}
+
+// Programs of others that keep to the same rules: what one moves the other lists and puts back.
+
+/// Runs a program as the user of the machine.
+test::ProgramRun runAs(const Desktop& desktop, std::vector<std::string> words) {
+    std::vector<std::string> all = {"-u", "XDG_DATA_HOME", "HOME=" + desktop.machine.home()};
+    std::ranges::move(words, std::back_inserter(all));
+    return test::runProgram("/usr/bin/env", all);
+}
+
+bool hasProgram(const std::string& name) {
+    return fs::exists("/usr/bin/" + name);
+}
+
+const std::vector<std::string> oddNames = {"50% a\xc3\xa4", "plus+[x]", "\xe6\x97\xa5.tar.gz",
+                                           "-n"};
+
+TEST(Counterparts, ListRestoreAndEmptyWhatWasMovedHere) {
+    if (!hasProgram("trash-list")) GTEST_SKIP() << "trash-cli is not installed";
+    const Desktop desktop;
+    for (const auto& name : oddNames) desktop.trashNew("~/Movies/" + name, name);
+    const auto listed = runAs(desktop, {"trash-list"}).output;
+    for (const auto& name : oddNames)
+        EXPECT_NE(listed.find(" " + desktop.path("~/Movies/" + name) + "\n"), std::string::npos)
+            << listed;
+    for (const auto& name : oddNames) {
+        const auto origin = desktop.path("~/Movies/" + name);
+        const auto script = "echo 0 | trash-restore \"$1\"";
+        const auto restored = runAs(desktop, {"sh", "-c", script, "sh", origin});
+        EXPECT_EQ(desktop.machine.contentOf("~/Movies/" + name), name)
+            << restored.output << restored.errors;
+    }
+    EXPECT_TRUE(fs::is_empty(desktop.path(desktop.infos)));
+    desktop.trashNew("~/Movies/last");
+    runAs(desktop, {"trash-empty"});
+    EXPECT_TRUE(desktop.namesInTrash().empty());
+    EXPECT_TRUE(fs::is_empty(desktop.path(desktop.infos)));
+}
+
+TEST(Counterparts, HaveTheirsPutBackHere) {
+    for (const auto& program :
+         {std::vector<std::string>{"trash-put", "--"}, {"gio", "trash", "--"}}) {
+        if (!hasProgram(program.front())) GTEST_SKIP() << program.front() << " is not installed";
+        const Desktop desktop;
+        desktop.machine.text("~/.local/share/there", "x");
+        for (const auto& name : oddNames) {
+            desktop.machine.text("~/Movies/" + name, name);
+            auto words = program;
+            words.push_back(desktop.path("~/Movies/" + name));
+            const auto ended = runAs(desktop, words);
+            EXPECT_EQ(ended.status, 0) << program.front() << ": " << ended.errors;
+        }
+        const auto items = trashedItems(desktop.host);
+        EXPECT_EQ(items.size(), oddNames.size()) << program.front();
+        for (const auto& item : items) {
+            EXPECT_TRUE(item.deletedAt) << program.front();
+            EXPECT_EQ(putBack(item, desktop.host).problem, "");
+        }
+        for (const auto& name : oddNames)
+            EXPECT_EQ(desktop.machine.contentOf("~/Movies/" + name), name);
+        EXPECT_TRUE(fs::is_empty(desktop.path(desktop.infos)));
+    }
+}
+
 /// A disk of its own below the home folder.
 bool mountDisk(const Desktop& desktop) {
     desktop.machine.folder("~/Movies/disk");
@@ -376,15 +479,23 @@ TEST(DesktopTrash, OfAnotherVolumeIsTheSharedOneWhereThatIsSafe) {
         desktop.machine.link(top + ".Trash", "elsewhere");
         EXPECT_EQ(desktop.trashNew(top + "film").path, desktop.path(own + "/files/film"));
 
+        EXPECT_EQ(trashFolders(desktop.host), std::vector{desktop.path(own + "/files")});
+        const auto listed = runAs(desktop, {"trash-list"});
+        EXPECT_TRUE(!hasProgram("trash-list") ||
+                    listed.output.find(desktop.path(top + "film") + "\n") != std::string::npos)
+            << listed.output << listed.errors;
         desktop.machine.text(own + "/files/foreign", "x");
         for (const auto& path : {desktop.machine.home() + "/Movies/x", std::string("../x")}) {
             desktop.machine.text(own + "/info/foreign.trashinfo", infoOf(path));
-            auto foreign = item;
-            foreign.name = "foreign";
-            foreign.path = desktop.path(own + "/files/foreign");
-            foreign.origin = desktop.machine.home() + "/../x";
-            EXPECT_FALSE(putBack(foreign, desktop.host).place);
+            const auto items = trashedItems(desktop.host);
+            const auto foreign = std::ranges::find(items, "foreign", &TrashedItem::name);
+            ASSERT_NE(foreign, items.end());
+            desktop.expectStaysInTrash(*foreign, "The Trash does not say where it came from.");
         }
+        auto elsewhere = *desktop.trash(top + "elsewhere").moved;
+        elsewhere.origin = desktop.machine.root() + "/outside";
+        desktop.expectStaysInTrash(elsewhere,
+                                   "It came from another disk than the one on which it lies now.");
     });
 }
 

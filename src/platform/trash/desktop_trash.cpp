@@ -58,6 +58,7 @@ class DesktopTrash final : public OpenTrash {
 
     const std::string& path() const override { return path_; }
     int entries() const override { return files_.get(); }
+    std::string entriesPath() const override { return joinPath(path_, "files"); }
 
     OrProblem<TrashedItem> take(const SeenPlace& item, const Departure& departure) override {
         const auto limit = longestNameIn(files_.get()) - trashInfoExtension.size();
@@ -87,6 +88,19 @@ class DesktopTrash final : public OpenTrash {
         return items;
     }
 
+    std::vector<std::string> notes() const override { return sortedNames(info_.get()); }
+
+    void dropOrphans(const std::vector<std::string>& notes) override {
+        for (const auto& note : notes) {
+            const auto isNote = std::string_view(note).ends_with(trashInfoExtension);
+            const auto entry =
+                note.substr(0, note.size() - std::min(note.size(), trashInfoExtension.size()));
+            if (isNote && !entry.empty() && !trashEntry(files_.get(), entry) && errno == ENOENT)
+                ::unlinkat(info_.get(), note.c_str(), 0);
+        }
+        updateSizes({});
+    }
+
  private:
     /// The text comes first: whoever looks in between sees one without an entry, which is nothing,
     /// and never an entry of which nobody knows where it came from.
@@ -102,7 +116,7 @@ class DesktopTrash final : public OpenTrash {
         auto item = trashEntry(files_.get(), name);
         if (!item) return std::nullopt;
         item->folder = path_;
-        item->path = joinPath(joinPath(path_, "files"), name);
+        item->path = joinPath(entriesPath(), name);
         const auto text = readSmallFile(info_.get(), infoName(name), infoLimit);
         const auto info = text ? parseTrashInfo(*text) : std::nullopt;
         item->origin = info ? originIn(*info) : std::nullopt;

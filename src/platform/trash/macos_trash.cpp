@@ -32,6 +32,7 @@ class MacosTrash final : public OpenTrash {
 
     const std::string& path() const override { return path_; }
     int entries() const override { return folder_.get(); }
+    std::string entriesPath() const override { return path_; }
 
     OrProblem<TrashedItem> take(const SeenPlace& item, const Departure& departure) override {
         const auto limit = longestNameIn(folder_.get());

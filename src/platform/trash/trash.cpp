@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <utility>
 
 #include "platform/dates.h"
@@ -13,6 +14,7 @@
 #include "platform/removal.h"
 #include "platform/trash/trash_entry.h"
 #include "platform/trash/trash_layout.h"
+#include "platform/trash/volumes.h"
 
 namespace tidewell {
 
@@ -123,6 +125,21 @@ OrProblem<std::string> putBackOrSayWhy(const TrashedItem& item, const Host& host
     return origin;
 }
 
+/// Those of the home folder first.
+std::vector<std::unique_ptr<OpenTrash>> existingTrashes(const Host& host) {
+    const auto layout = trash::layoutOf(host);
+    auto places = layout->homePlaces();
+    for (const auto& disk : trash::mountedDisks(host.root))
+        std::ranges::move(layout->placesOfVolume(disk), std::back_inserter(places));
+    std::vector<std::unique_ptr<OpenTrash>> trashes;
+    for (const auto& place : places) {
+        auto opened = layout->openAt(place);
+        if (auto* found = std::get_if<std::unique_ptr<OpenTrash>>(&opened))
+            trashes.push_back(std::move(*found));
+    }
+    return trashes;
+}
+
 }  // namespace
 
 Trashing moveToTrash(const TrashablePath& item, const Host& host) {
@@ -138,15 +155,28 @@ PuttingBack putBack(const TrashedItem& item, const Host& host) {
 }
 
 std::vector<TrashedItem> trashedItems(const Host& host) {
-    const auto layout = trash::layoutOf(host);
     std::vector<TrashedItem> items;
-    for (const auto& place : layout->homePlaces()) {
-        const auto opened = layout->openAt(place);
-        if (problemIn(opened)) continue;
-        std::ranges::move(std::get<std::unique_ptr<OpenTrash>>(opened)->items(),
-                          std::back_inserter(items));
-    }
+    for (const auto& trash : existingTrashes(host))
+        std::ranges::move(trash->items(), std::back_inserter(items));
     return items;
+}
+
+std::vector<std::string> trashFolders(const Host& host) {
+    std::vector<std::string> folders;
+    for (const auto& trash : existingTrashes(host)) folders.push_back(trash->entriesPath());
+    return folders;
+}
+
+Removal emptyTrash(const DeletablePath& entries, const ChildGuard& guard, const Host& host) {
+    auto trashes = existingTrashes(host);
+    const auto own = std::ranges::find_if(
+        trashes, [&entries](const auto& trash) { return trash->entriesPath() == entries.real(); });
+    if (own == trashes.end()) return Removal::incomplete;
+    // What another program notes from now on is about an entry that is still to come.
+    const auto notes = (*own)->notes();
+    const auto result = emptyFolder(entries, guard);
+    (*own)->dropOrphans(notes);
+    return result;
 }
 
 }  // namespace tidewell

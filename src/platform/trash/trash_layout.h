@@ -33,6 +33,12 @@ class OpenTrash {
     virtual void forget(const TrashedItem& item, const link_free::Place& place) = 0;
     /// In ascending byte order of the names.
     virtual std::vector<TrashedItem> items() const = 0;
+
+    virtual std::string entriesPath() const = 0;
+    /// The names of what it keeps about entries, whether these are there or not.
+    virtual std::vector<std::string> notes() const { return {}; }
+    /// Drops those among the notes that belong to no entry that is there now.
+    virtual void dropOrphans(const std::vector<std::string>& /*notes*/) {}
 };
 
 using OpenedTrash = OrProblem<std::unique_ptr<OpenTrash>>;
