@@ -109,6 +109,10 @@ std::vector<LeftoverFile> AppScanner::findLeftovers(const InstalledApp& app) con
     return leftovers;
 }
 
+PutBackResult AppScanner::putBack(const UninstallResult& result) const {
+    return undoUninstall(result, diskScanner_.host());
+}
+
 UninstallResult AppScanner::uninstall(const UninstallPlan& plan) const {
     return tidewell::uninstall(plan, host_);
 }

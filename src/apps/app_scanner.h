@@ -32,6 +32,7 @@ class AppScanner {
 
     /// Moves an application and its leftovers to the Trash. See apps/uninstaller.h.
     UninstallResult uninstall(const UninstallPlan& plan) const;
+    PutBackResult putBack(const UninstallResult& result) const;
 
     const std::vector<std::string>& searchDirs() const { return searchDirs_; }
 

@@ -24,6 +24,7 @@ Task<> AppsViewModel::scan() {
     phase = Phase::scanning;
     scanProgress = 0.0;
     lastResult = std::nullopt;
+    lastPutBack = std::nullopt;
     auto& executor = Executor::main();
     const auto report = [weak = weak_from_this(), &executor](double fraction) {
         executor.post([weak, fraction] {
@@ -69,7 +70,36 @@ Task<> AppsViewModel::confirmUninstall() {
     if (result.appBundleMoved)
         std::erase_if(apps.mutate(),
                       [&](const InstalledApp& app) { return app.id == plan.app.id; });
+    lastUninstalled_ = plan.app;
+    lastPutBack = std::nullopt;
     lastResult = std::move(result);
+}
+
+Task<> AppsViewModel::putBack() {
+    if (!lastResult() || lastResult()->moved.empty()) co_return;
+    const auto result = *lastResult();
+    const auto app = lastUninstalled_;
+    // A second wish finds nothing to undo.
+    lastResult.mutate()->moved.clear();
+    auto puttingBack = background([scanner = scanner, result] { return scanner.putBack(result); });
+    PutBackResult failed;
+    failed.appName = result.appName;
+    failed.failed.push_back(result.appName);
+    auto undone = co_await valueOr(puttingBack, failed);
+    const bool isBack = app && std::ranges::find(undone.places, app->url) != undone.places.end();
+    if (isBack && result.appBundleMoved) apps.mutate().push_back(*app);
+    // What stays in the Trash may be tried again.
+    auto left = result.moved;
+    std::erase_if(left, [&undone](const TrashedItem& item) {
+        return item.origin && std::ranges::find(undone.places, *item.origin) != undone.places.end();
+    });
+    if (lastResult()) lastResult.mutate()->moved = std::move(left);
+    lastPutBack = std::move(undone);
+}
+
+void AppsViewModel::dismissResult() {
+    lastResult = std::nullopt;
+    lastPutBack = std::nullopt;
 }
 
 }  // namespace tidewell

@@ -35,6 +35,8 @@ class AppsViewModel : public std::enable_shared_from_this<AppsViewModel> {
     Published<bool> isBuildingPlan{willChange, false};
     /// The outcome of the last uninstall, until the next scan or until it is dismissed.
     Published<std::optional<UninstallResult>> lastResult{willChange};
+    /// How it came to be undone, until the next one, the next scan, or until it is dismissed.
+    Published<std::optional<PutBackResult>> lastPutBack{willChange};
 
     const AppScanner scanner;
 
@@ -48,6 +50,14 @@ class AppsViewModel : public std::enable_shared_from_this<AppsViewModel> {
     Task<> prepareUninstall(InstalledApp app);
     /// Carries out the pending plan, if there is one.
     Task<> confirmUninstall();
+    /// Undoes the last uninstall; does nothing without one, or while it is being undone. The
+    /// application is listed again if its bundle is back.
+    Task<> putBack();
+    /// Forgets how the last uninstall ended.
+    void dismissResult();
+
+ private:
+    std::optional<InstalledApp> lastUninstalled_;
 };
 
 }  // namespace tidewell

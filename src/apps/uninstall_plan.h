@@ -40,4 +40,11 @@ struct UninstallResult {
         moved;  ///< what went is in the Trash now, in the order in which it went
 };
 
+/// What undoing an uninstall did.
+struct PutBackResult {
+    std::string appName;
+    std::vector<std::string> places;  ///< of what is back
+    std::vector<std::string> failed;  ///< names of what stays in the Trash, each with the reason
+};
+
 }  // namespace tidewell

@@ -75,4 +75,17 @@ UninstallResult uninstall(const UninstallPlan& plan, const Host& host) {
     return result;
 }
 
+PutBackResult undoUninstall(const UninstallResult& result, const Host& host) {
+    PutBackResult undone;
+    undone.appName = result.appName;
+    for (const auto& item : result.moved) {
+        const auto outcome = putBack(item, host);
+        if (outcome.place)
+            undone.places.push_back(*outcome.place);
+        else
+            undone.failed.push_back(item.name + ": " + outcome.problem);
+    }
+    return undone;
+}
+
 }  // namespace tidewell

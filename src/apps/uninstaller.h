@@ -11,4 +11,8 @@ namespace tidewell {
 /// same. Blocks; any thread but the main one.
 UninstallResult uninstall(const UninstallPlan& plan, const Host& host);
 
+/// Puts all that an uninstall moved back where it was, each thing by itself. Agents that it
+/// unloaded are loaded with the next login. Blocks; any thread but the main one.
+PutBackResult undoUninstall(const UninstallResult& result, const Host& host);
+
 }  // namespace tidewell

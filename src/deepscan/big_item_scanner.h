@@ -62,6 +62,9 @@ class BigItemScanner {
     /// was found.
     TrashOutcome trash(const BigItem& item) const;
 
+    /// Undoes such a move. See platform/removal.h.
+    PuttingBack putBack(const TrashedItem& item) const { return tidewell::putBack(item, host_); }
+
  private:
     std::vector<std::string> roots() const;
     std::vector<std::string> candidates() const;

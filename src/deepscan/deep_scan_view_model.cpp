@@ -47,6 +47,7 @@ Task<> DeepScanViewModel::scan() {
     phase = Phase::scanning;
     scanProgress = 0.0;
     lastResult = std::nullopt;
+    lastPutBack = std::nullopt;
 
     try {
         auto scanning = background([walk = scanner_, installers = installerScanner_,
@@ -78,7 +79,28 @@ Task<> DeepScanViewModel::trash(BigItem item) {
     if (outcome.success)
         std::erase_if(items.mutate(),
                       [&item](const BigItem& listed) { return listed.id == item.id; });
+    lastTrashed_ = std::move(item);
+    lastPutBack = std::nullopt;
     lastResult = std::move(outcome);
+}
+
+Task<> DeepScanViewModel::putBack() {
+    if (!lastResult() || !lastResult()->moved) co_return;
+    const auto moved = *lastResult()->moved;
+    // A second wish finds nothing to undo.
+    lastResult.mutate()->moved.reset();
+    const auto item = lastTrashed_;
+    auto puttingBack = background([scanner = scanner_, moved] { return scanner.putBack(moved); });
+    PuttingBack failed;
+    failed.problem = "Something went wrong inside the program.";
+    const auto outcome = co_await valueOr(puttingBack, failed);
+    if (outcome.place) {
+        items.mutate().push_back(item);
+        sortBySize(items.mutate());
+    } else if (lastResult()) {
+        lastResult.mutate()->moved = moved;
+    }
+    lastPutBack = PutBackOutcome{.name = item.name, .problem = outcome.problem};
 }
 
 BigItemScanner::Progress DeepScanViewModel::progressHop() {

@@ -28,6 +28,11 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
  public:
     enum class Phase { idle, scanning, list };
 
+    struct PutBackOutcome {
+        std::string name;
+        std::string problem;  ///< why it stays in the Trash, a sentence; empty if it is back
+    };
+
     explicit DeepScanViewModel(const Host& host);
 
     /// Fired before each change of what follows.
@@ -45,12 +50,18 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     /// How the last move to the Trash ended, until the next scan.
     Published<std::optional<BigItemScanner::TrashOutcome>> lastResult{willChange};
 
+    /// How the last move came to be undone, until the next move or scan.
+    Published<std::optional<PutBackOutcome>> lastPutBack{willChange};
+
     ByteCount totalBytes() const { return tidewell::totalBytes(items()); }
 
     /// Does nothing during a scan. Ends when the scan has ended.
     Task<> scan();
     /// Ends when the Trash has answered. An item that could not be moved stays in the list.
     Task<> trash(BigItem item);
+    /// Undoes that very move; does nothing without one, or while it is being undone. Ends when the
+    /// item is back where it was and in the list, or stays in the Trash.
+    Task<> putBack();
 
     /// Sets scanProgress in a later turn, unless the view model is gone by then. Made on the main
     /// thread, called on any.
@@ -60,6 +71,7 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     const BigItemScanner scanner_;
     const InstallerScanner installerScanner_;
     const ContainerScanner containerScanner_;
+    BigItem lastTrashed_;
 };
 
 }  // namespace tidewell

@@ -1,4 +1,5 @@
 #include "apps/apps_view_model.h"
+#include "apps/screens/apps_content.h"
 
 #include <gtest/gtest.h>
 
@@ -104,8 +105,20 @@ TEST_F(AppsViewModelTest, UninstallsWhatWasPreparedAndKeepsTheRest) {
     EXPECT_EQ(model->totalAppBytes(), before - megabyte - 4 * kilobyte);
     ASSERT_TRUE(model->lastResult());
     EXPECT_EQ(model->lastResult()->movedCount, 2);
+    EXPECT_EQ(appsContent(*model, now()).banner->undoLabel, "Put Back");
 
-    uninstall(0);
+    spawn(model, &AppsViewModel::putBack);
+    spawn(model, &AppsViewModel::putBack);
+    loop.runAll();
+    EXPECT_TRUE(machine.has("/Applications/Notes.app") && machine.has("~/Library/Caches/Notes/x"));
+    EXPECT_EQ(model->apps().size(), 2u);
+    const auto banner = *appsContent(*model, now()).banner;
+    EXPECT_EQ(banner.title + ": " + banner.line, "Put Notes back: 2 items are where they were.");
+    EXPECT_EQ(banner.undoLabel, "");
+    model->dismissResult();
+    EXPECT_FALSE(appsContent(*model, now()).banner);
+
+    while (!model->apps().empty()) uninstall(0);
     EXPECT_TRUE(model->apps().empty());
     EXPECT_EQ(model->phase(), Phase::list);
 }

@@ -97,6 +97,20 @@ TEST_F(DeepScan, TakesATrashedItemOutOfTheListAndKeepsOneThatCouldNotBeMoved) {
     EXPECT_EQ(model->lastResult()->freedBytes, 90 * megabyte);
     EXPECT_TRUE(machine.has("~/.Trash/film"));
     EXPECT_EQ(model->phase(), Phase::list);
+
+    machine.text("~/Movies/film", "in the way");
+    spawn(model, &DeepScanViewModel::putBack);
+    loop.runAll();
+    EXPECT_EQ(model->lastPutBack()->problem, "Something stands there already.");
+    EXPECT_EQ(idsOf(model->items()), std::vector{disk.id});
+    machine.remove("~/Movies/film");
+    spawn(model, &DeepScanViewModel::putBack);
+    spawn(model, &DeepScanViewModel::putBack);
+    loop.runAll();
+    EXPECT_EQ(model->lastPutBack()->problem, "");
+    EXPECT_EQ(idsOf(model->items()), (std::vector{disk.id, film.id}));
+    EXPECT_TRUE(machine.has("~/Movies/film"));
+    EXPECT_FALSE(machine.has("~/.Trash/film"));
 }
 
 TEST_F(DeepScan, TakesLateProgressButIsNotKeptAliveByIt) {

@@ -66,9 +66,19 @@ void fillList(AppsContent& content, const AppsViewModel& model, Date now) {
     content.sortChoices = sortChoices(model.sortOrder());
     content.sortLabel = rawText(model.sortOrder());
     if (model.lastResult()) content.banner = resultBanner(*model.lastResult());
+    if (model.lastPutBack()) {
+        const auto undoLabel = content.banner ? content.banner->undoLabel : std::string_view();
+        content.banner = putBackBanner(*model.lastPutBack());
+        content.banner->undoLabel = undoLabel;
+    }
     for (const auto& app : sorted(model.apps(), model.sortOrder(), now))
         content.cards.push_back(appCard(app, now));
     content.isHuntingLeftovers = model.isBuildingPlan();
+}
+
+/// What moved can be put back, also where not all did.
+std::string_view undoLabel(const UninstallResult& result) {
+    return result.moved.empty() ? std::string_view() : "Put Back";
 }
 
 }  // namespace
@@ -80,6 +90,7 @@ ResultBanner resultBanner(const UninstallResult& result) {
             .symbol = "exclamationmark.triangle.fill",
             .title = result.appName + ": some items couldn't be moved",
             .line = "Couldn't move: " + joined(result.failed),
+            .undoLabel = undoLabel(result),
         };
     return {
         .tone = ResultBanner::Tone::success,
@@ -87,6 +98,23 @@ ResultBanner resultBanner(const UninstallResult& result) {
         .title = "Moved " + result.appName + " to the Trash",
         .line = std::to_string(result.movedCount) + " items · " + byteText(result.freedBytes) +
                 ". Empty the Trash to lock it in.",
+        .undoLabel = undoLabel(result),
+    };
+}
+
+ResultBanner putBackBanner(const PutBackResult& result) {
+    if (!result.failed.empty())
+        return {
+            .tone = ResultBanner::Tone::warning,
+            .symbol = "exclamationmark.triangle.fill",
+            .title = result.appName + ": some items stay in the Trash",
+            .line = "Couldn't put back: " + joined(result.failed),
+        };
+    return {
+        .tone = ResultBanner::Tone::success,
+        .symbol = "checkmark.circle.fill",
+        .title = "Put " + result.appName + " back",
+        .line = std::to_string(result.places.size()) + " items are where they were.",
     };
 }
 

@@ -42,9 +42,11 @@ struct ResultBanner {
     std::string_view symbol;
     std::string title;
     std::string line;
+    std::string_view undoLabel = {};  ///< of the button that undoes it; empty if there is none
 };
 
 ResultBanner resultBanner(const UninstallResult& result);
+ResultBanner putBackBanner(const PutBackResult& result);
 
 /// The mark at a card's foot.
 enum class AppMark {

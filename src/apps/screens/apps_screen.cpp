@@ -104,4 +104,8 @@ void AppsScreen::confirmUninstall() {
     spawn(model_, &AppsViewModel::confirmUninstall);
 }
 
+void AppsScreen::putBack() {
+    spawn(model_, &AppsViewModel::putBack);
+}
+
 }  // namespace tidewell

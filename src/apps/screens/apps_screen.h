@@ -28,6 +28,7 @@ class AppsScreen final : public Screen {
     Q_PROPERTY(QString bannerSymbol READ bannerSymbol NOTIFY changed)
     Q_PROPERTY(QString bannerTitle READ bannerTitle NOTIFY changed)
     Q_PROPERTY(QString bannerLine READ bannerLine NOTIFY changed)
+    Q_PROPERTY(QString undoLabel READ undoLabel NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* cards READ cards CONSTANT)
     Q_PROPERTY(bool isHuntingLeftovers READ isHuntingLeftovers NOTIFY changed)
     Q_PROPERTY(bool hasSheet READ hasSheet NOTIFY changed)
@@ -66,6 +67,7 @@ class AppsScreen final : public Screen {
     QString bannerSymbol() const { return toText(banner_.symbol); }
     QString bannerTitle() const { return toText(banner_.title); }
     QString bannerLine() const { return toText(banner_.line); }
+    QString undoLabel() const { return toText(banner_.undoLabel); }
     QAbstractItemModel* cards() { return &cards_; }
     bool isHuntingLeftovers() const { return content_.isHuntingLeftovers; }
     bool hasSheet() const { return content_.sheet.has_value(); }
@@ -95,7 +97,9 @@ class AppsScreen final : public Screen {
     Q_INVOKABLE void prepareUninstall(int row);
     Q_INVOKABLE void confirmUninstall();
     Q_INVOKABLE void cancelUninstall() { model_->pendingPlan = std::nullopt; }
-    Q_INVOKABLE void dismissResult() { model_->lastResult = std::nullopt; }
+    Q_INVOKABLE void dismissResult() { model_->dismissResult(); }
+    /// Undoes the uninstall that the banner tells of.
+    Q_INVOKABLE void putBack();
 
  private:
     void update() override;

@@ -10,6 +10,8 @@ namespace tidewell {
 
 namespace {
 
+constexpr std::string_view putBackLabel = "Put Back";
+
 struct BucketRow {
     std::string_view title;
     std::string_view symbol;
@@ -242,7 +244,18 @@ TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome) {
     return {.symbol = "checkmark.circle.fill",
             .color = look(RiskBucket::safe).color,
             .text = "Moved " + outcome.name + " to the Trash • " + byteText(outcome.freedBytes) +
-                    ". Empty the Trash to lock it in."};
+                    ". Empty the Trash to lock it in.",
+            .undoLabel = outcome.moved ? putBackLabel : std::string_view()};
+}
+
+TrashBanner putBackBanner(const DeepScanViewModel::PutBackOutcome& outcome) {
+    if (!outcome.problem.empty())
+        return {.symbol = "exclamationmark.triangle.fill",
+                .color = look(RiskBucket::review).color,
+                .text = "Couldn't put " + outcome.name + " back. " + outcome.problem};
+    return {.symbol = "checkmark.circle.fill",
+            .color = look(RiskBucket::safe).color,
+            .text = "Put " + outcome.name + " back where it was."};
 }
 
 std::string deepScanSummary(const std::vector<BigItem>& items) {
@@ -257,6 +270,11 @@ DeepScanContent deepScanContent(const DeepScanViewModel& model, const DeepScanSc
     if (state.pendingTrash) content.confirmation = trashConfirmation(*state.pendingTrash);
     content.leftOutNote = silentMountsNote(model.silentMounts());
     if (model.lastResult()) content.banner = trashBanner(*model.lastResult());
+    if (model.lastPutBack()) {
+        const auto undoLabel = content.banner ? content.banner->undoLabel : std::string_view();
+        content.banner = putBackBanner(*model.lastPutBack());
+        content.banner->undoLabel = undoLabel;
+    }
     return content;
 }
 

@@ -117,9 +117,12 @@ struct TrashBanner {
     std::string_view symbol;
     Color color;
     std::string text;
+    std::string_view undoLabel =
+        {};  ///< of the button that undoes the move; empty if there is none
 };
 
 TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome);
+TrashBanner putBackBanner(const DeepScanViewModel::PutBackOutcome& outcome);
 
 struct DeepScanContent {
     enum class Page {

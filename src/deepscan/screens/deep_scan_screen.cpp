@@ -123,6 +123,10 @@ void DeepScanScreen::trash(int row) {
     refresh();
 }
 
+void DeepScanScreen::putBack() {
+    spawn(model_, &DeepScanViewModel::putBack);
+}
+
 void DeepScanScreen::confirmTrash() {
     if (const auto item = std::exchange(state_.pendingTrash, std::nullopt)) move(*item);
     refresh();

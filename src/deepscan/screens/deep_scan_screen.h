@@ -38,6 +38,7 @@ class DeepScanScreen final : public Screen {
     Q_PROPERTY(QString bannerSymbol READ bannerSymbol NOTIFY changed)
     Q_PROPERTY(QColor bannerColor READ bannerColor NOTIFY changed)
     Q_PROPERTY(QString bannerText READ bannerText NOTIFY changed)
+    Q_PROPERTY(QString undoLabel READ undoLabel NOTIFY changed)
     Q_PROPERTY(bool asksToTrash READ asksToTrash NOTIFY changed)
     Q_PROPERTY(QString questionTitle READ questionTitle NOTIFY changed)
     Q_PROPERTY(QString questionText READ questionText NOTIFY changed)
@@ -66,6 +67,7 @@ class DeepScanScreen final : public Screen {
     QString bannerSymbol() const { return toText(banner_.symbol); }
     QColor bannerColor() const { return toQColor(banner_.color); }
     QString bannerText() const { return toText(banner_.text); }
+    QString undoLabel() const { return toText(banner_.undoLabel); }
     bool asksToTrash() const { return content_.confirmation.has_value(); }
     QString questionTitle() const { return toText(question_.title); }
     QString questionText() const { return toText(question_.message); }
@@ -83,6 +85,8 @@ class DeepScanScreen final : public Screen {
     Q_INVOKABLE void copyCommand(int row);
     /// Asks first, where the item may be dear to the user.
     Q_INVOKABLE void trash(int row);
+    /// Undoes the move that the banner tells of.
+    Q_INVOKABLE void putBack();
     // The answers to that question.
     Q_INVOKABLE void confirmTrash();
     Q_INVOKABLE void cancelTrash();
