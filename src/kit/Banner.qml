@@ -9,6 +9,9 @@ Rectangle {
     property color tint: Ambient.palette.primary
     property string title
     property string line
+    /// Of the button that undoes what the strip tells of. Empty: there is none.
+    property string undoLabel
+    signal undone()
     /// Empty: the user does not take it away.
     property string dismissLabel
     property string dismissSymbol: "xmark"
@@ -36,7 +39,7 @@ Rectangle {
         id: words
         anchors.left: icon.right
         anchors.leftMargin: 12
-        anchors.right: dismiss.visible ? dismiss.left : parent.right
+        anchors.right: undo.visible ? undo.left : dismiss.visible ? dismiss.left : parent.right
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
@@ -58,6 +61,15 @@ Rectangle {
             wrapMode: Text.Wrap
             Accessible.ignored: true
         }
+    }
+    SmallButton {
+        id: undo
+        anchors.right: dismiss.visible ? dismiss.left : parent.right
+        anchors.rightMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.undoLabel !== ""
+        text: root.undoLabel
+        onClicked: root.undone()
     }
     IconButton {
         id: dismiss

@@ -76,6 +76,8 @@ FocusScope {
             tint: root.screen.isBannerWarning ? Theme.caution : Theme.success
             title: root.screen.bannerTitle
             line: root.screen.bannerLine
+            undoLabel: root.screen.undoLabel
+            onUndone: root.screen.putBack()
             dismissSymbol: root.screen.dismissSymbol
             dismissLabel: root.screen.dismissLabel
             onDismissed: root.screen.dismissResult()

@@ -79,6 +79,8 @@ FocusScope {
             symbol: root.screen.bannerSymbol
             tint: root.screen.bannerColor
             title: root.screen.bannerText
+            undoLabel: root.screen.undoLabel
+            onUndone: root.screen.putBack()
         }
 
         Column {
