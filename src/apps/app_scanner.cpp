@@ -110,7 +110,7 @@ std::vector<LeftoverFile> AppScanner::findLeftovers(const InstalledApp& app) con
 }
 
 PutBackResult AppScanner::putBack(const UninstallResult& result) const {
-    return undoUninstall(result, diskScanner_.host());
+    return undoUninstall(result, host_);
 }
 
 UninstallResult AppScanner::uninstall(const UninstallPlan& plan) const {
