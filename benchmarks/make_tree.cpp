@@ -95,6 +95,24 @@ class TreeMaker {
         for (; left_ > 0; --left_) ::close(top.makeFolder(numbered("folder", left_)));
     }
 
+    /// A chain of folders that each have a file and a folder with a file beside the next one: who
+    /// goes down must come back to every level.
+    void makeComb(const Folder& top) {
+        int current = top.makeFolder("next");
+        for (; left_ > 0; left_ -= entriesOfTooth) {
+            const Folder folder(current);
+            makeTooth(folder);
+            current = folder.makeFolder("next");
+        }
+        ::close(current);
+    }
+
+    /// The same entries, none of them deep.
+    void makeFlatComb(const Folder& top) {
+        for (; left_ > 0; left_ -= entriesOfTooth)
+            makeTooth(Folder(top.makeFolder(numbered("next", left_))));
+    }
+
     /// A home folder whose files lie nearly all in what projects can make anew.
     void makeHome(const Folder& top) {
         const Folder code(top.makeFolder("Code"));
@@ -113,6 +131,13 @@ class TreeMaker {
     }
 
  private:
+    static constexpr long entriesOfTooth = 4;  ///< with the next folder
+
+    static void makeTooth(const Folder& folder) {
+        folder.makeFile("file", 100);
+        Folder(folder.makeFolder("side")).makeFile("file", 100);
+    }
+
     static std::string numbered(std::string_view name, long number) {
         return std::string(name) + "-" + std::to_string(number);
     }
@@ -176,11 +201,13 @@ struct Shape {
     void (TreeMaker::*make)(const Folder&);
 };
 
-constexpr std::array<Shape, 6> shapes = {{
+constexpr std::array<Shape, 8> shapes = {{
     {"packages", &TreeMaker::makePackages},
     {"flat", &TreeMaker::makeFlatFolders},
     {"extremes", &TreeMaker::makeExtremes},
     {"home", &TreeMaker::makeHome},
+    {"comb", &TreeMaker::makeComb},
+    {"flat-comb", &TreeMaker::makeFlatComb},
     {"many-files", &TreeMaker::makeManyFiles},
     {"many-folders", &TreeMaker::makeManyFolders},
 }};
@@ -192,9 +219,10 @@ int main(int count, char** arguments) {
     const auto* shape =
         count == 4 ? std::ranges::find(shapes, arguments[1], &Shape::name) : nullptr;
     if (!shape || shape == shapes.end()) {
-        std::fprintf(
-            stderr,
-            "Usage: make_tree packages|flat|extremes|home|many-files|many-folders FOLDER N\n");
+        std::fprintf(stderr, "Usage: make_tree SHAPE FOLDER N\nSHAPE is one of:");
+        for (const auto& each : shapes)
+            std::fprintf(stderr, " %.*s", static_cast<int>(each.name.size()), each.name.data());
+        std::fprintf(stderr, "\n");
         return 2;
     }
     if (::mkdir(arguments[2], 0755) != 0) Folder::fail(arguments[2]);
