@@ -6,6 +6,7 @@
 #include <linux/seccomp.h>
 #include <sys/mount.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -18,6 +19,7 @@
 #include <thread>
 
 #include "cleanup/deletion_guard.h"
+#include "platform/disk_usage.h"
 #include "support/sample_machine.h"
 #include "support/separate_process.h"
 
@@ -267,12 +269,11 @@ struct Move {
 constexpr int mayBeLost = 8 * 64;
 
 /// Moves as soon as the first file is gone, and counts what is there from then on.
-void losesNothingTo(const Move& move, const std::function<void(const SampleMachine&)>& prepare) {
+void losesNothingTo(const Move& move) {
     const SampleMachine machine;
-    prepare(machine);
     machine.folder("~/Applications");
     machine.folder("~/Documents");
-    constexpr int files = 20000;
+    constexpr int files = 8000;
     machine.folder(move.filled);
     const int filled = ::open(machine.path(move.filled).c_str(), O_PATH | O_DIRECTORY);
     for (int file = 0; file < files; ++file)
@@ -303,21 +304,38 @@ const std::vector<Move>& moves() {
          .to = "~/Applications/New.app",
          .filledAfterwards = "~/Applications/New.app"},
         {.removed = "~/.cache/updater",
-         .filled = "~/.cache/updater/stage/New.app/Contents/Resources",
+         .filled = "~/.cache/updater/stage/New.app/Contents",
          .from = "~/.cache/updater/stage",
          .to = "~/Documents/stage",
-         .filledAfterwards = "~/Documents/stage/New.app/Contents/Resources"},
+         .filledAfterwards = "~/Documents/stage/New.app/Contents"},
         {.removed = "~/.cache/updater",
          .filled = "~/.cache/updater",
          .from = "~/.cache",
          .to = "~/Documents/cache",
          .filledAfterwards = "~/Documents/cache/updater"},
+        {.removed = "~/.cache/updater",
+         .filled = "~/.cache/updater/stage",
+         .from = "~/.cache/updater/stage",
+         .to = "~/.cache/updater/kept",
+         .filledAfterwards = "~/.cache/updater/kept"},
     };
     return all;
 }
 
 TEST(Removal, StopsInAFolderThatIsMovedAwayMeanwhile) {
-    for (const auto& move : moves()) losesNothingTo(move, [](const SampleMachine&) {});
+    for (const auto& move : moves()) losesNothingTo(move);
+}
+
+TEST(Removal, StopsThereAlsoWhereTheSystemTellsNoPaths) {
+    expectInSeparateProcess([] {
+        const bool isHidden =
+            enterOwnMountSpace() && ::mount("none", "/proc", "tmpfs", 0, nullptr) == 0;
+        if (!isHidden) skipSeparateProcess();
+        for (const auto& move : moves()) losesNothingTo(move);
+        const SampleMachine machine;
+        makeFlat(machine, "~/.cache/tree", 20, 50);
+        EXPECT_EQ(removeAt(machine, "~/.cache/tree"), Removal::complete);
+    });
 }
 
 TEST(Removal, ReachesAnyDepthWithFewDescriptors) {
@@ -353,6 +371,19 @@ TEST(Removal, GoesOnAfterAFailureAndChangesNoPermissions) {
         EXPECT_TRUE(machine.has("~/Library/tree/7/unlisted/file"));
         EXPECT_EQ(fs::status(machine.path("~/Library/tree/7/locked")).permissions(),
                   fs::perms(0500));
+    });
+}
+
+TEST(Removal, NeedsNoThreadsButItsOwn) {
+    expectInSeparateProcess([] {
+        becomeOrdinaryUser();
+        const SampleMachine machine;
+        makeFlat(machine, "~/Library/tree", 20, 100);
+        const rlimit none{.rlim_cur = 0, .rlim_max = 0};
+        ASSERT_EQ(::setrlimit(RLIMIT_NPROC, &none), 0);
+        EXPECT_EQ(allocatedSize(machine.path("~/Library/tree")), 0);
+        EXPECT_EQ(removeAt(machine, "~/Library/tree"), Removal::complete);
+        EXPECT_FALSE(machine.has("~/Library/tree"));
     });
 }
 
