@@ -44,7 +44,8 @@ void CleaningSession::beginScan() {
     mayBeginItems_ = true;
 }
 
-Task<CleanupItems> CleaningSession::measured(std::vector<CleanupTarget> targets) {
+Task<CleanupItems> CleaningSession::measured(std::vector<CleanupTarget> targets,
+                                             std::shared_ptr<MeasuredFolders> known) {
     auto searching = background([host = scanner_.host()] {
         auto silent = findSilentMounts();
         return Search{.silentMounts = std::move(silent), .artifacts = findProjectArtifacts(host)};
@@ -55,8 +56,10 @@ Task<CleanupItems> CleaningSession::measured(std::vector<CleanupTarget> targets)
 
     BackgroundGroup<std::optional<CleanupItem>> measuring;
     auto next = targets.cbegin();
-    const auto startNext = [this, &measuring, &next] {
-        measuring.start([scanner = scanner_, target = *next] { return scanner.measure(target); });
+    const auto startNext = [this, &measuring, &next, &known] {
+        measuring.start([scanner = scanner_, target = *next, known] {
+            return scanner.measure(target, known.get());
+        });
         ++next;
     };
     while (next != targets.cend() && measuring.running() < measuringWidth) startNext();

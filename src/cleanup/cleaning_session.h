@@ -95,7 +95,8 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     /// Searches project artifacts, and measures them behind `targets`, measuringWidth at a time.
     /// The items come largest first; those of equal size in the order in which their measures
     /// ended.
-    Task<CleanupItems> measured(std::vector<CleanupTarget> targets);
+    Task<CleanupItems> measured(std::vector<CleanupTarget> targets,
+                                std::shared_ptr<MeasuredFolders> known);
 
     bool canClean() const;
     /// Publishes what was freed and what failed. The phase is left at `cleaning`, for what is to be

@@ -71,12 +71,12 @@ void CleanupViewModel::selectSafeOnlyIn(CleanupCategory category) {
     tickSafeOnly(items.mutate(), isIn(category));
 }
 
-Task<> CleanupViewModel::startScan() {
+Task<> CleanupViewModel::startScanWith(std::shared_ptr<MeasuredFolders> known) {
     if (isBusy()) co_return;
     beginScan();
     freeSpaceBefore = scanner().availableCapacity();
     try {
-        auto found = co_await measured(cleanupCatalogue(host_));
+        auto found = co_await measured(cleanupCatalogue(host_), std::move(known));
         items = std::move(found);
         phase = Phase::review;
     } catch (...) {

@@ -31,11 +31,15 @@ class CleanupViewModel : public CleaningSession {
     void selectSafeOnlyIn(CleanupCategory category);
 
     /// Does nothing during a scan or a clean. Ends when the scan has ended.
-    Task<> startScan();
+    Task<> startScan() { return startScanWith(nullptr); }
+    /// The same as a part of a scan with several tools, which tell each other what they measured.
+    Task<> startScanWith(std::shared_ptr<MeasuredFolders> known);
     /// Does nothing during a clean, or when nothing is selected. Ends when the clean has ended.
     Task<> cleanSelected();
     /// Back to the start.
     void reset();
+
+    System system() const { return host_.system; }
 
  private:
     Host host_;

@@ -29,8 +29,8 @@ struct Found {
     std::vector<DiskUsage> measures;
     ByteCount size = 0;
 
-    void add(std::string path) {
-        auto usage = diskUsage(path);
+    void add(std::string path, MeasuredFolders* known) {
+        auto usage = known ? diskUsage(path, *known) : diskUsage(path);
         if (usage.bytes < 1) return;
         size = addSaturating(size, usage.bytes);
         paths.push_back(std::move(path));
@@ -61,17 +61,18 @@ ByteCount mayBeLeft(const DiskUsage& now, const DiskUsage& atScan) {
 
 DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 
-std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target) const {
+std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target,
+                                                MeasuredFolders* known) const {
     Found found;
     for (const auto& stored : target.paths) {
         const auto path = host_.expand(stored);
         if (!fileExists(path)) continue;
         switch (target.kind) {
             case TargetKind::plain:
-                found.add(path);
+                found.add(path, known);
                 break;
             case TargetKind::sweep:
-                for (auto& child : sweptChildren(path)) found.add(std::move(child));
+                for (auto& child : sweptChildren(path)) found.add(std::move(child), known);
                 break;
         }
     }

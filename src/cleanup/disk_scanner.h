@@ -9,6 +9,7 @@
 #include "cleanup/cleanup_model.h"
 #include "cleanup/deletion_guard.h"
 #include "platform/host.h"
+#include "platform/measured_folders.h"
 
 namespace tidewell {
 
@@ -25,8 +26,9 @@ class DiskScanner {
 
     explicit DiskScanner(Host host);
 
-    /// Absent for a target that holds nothing on this machine.
-    std::optional<CleanupItem> measure(const CleanupTarget& target) const;
+    /// Absent for a target that holds nothing on this machine. What `known` knows is taken over.
+    std::optional<CleanupItem> measure(const CleanupTarget& target,
+                                       MeasuredFolders* known = nullptr) const;
 
     /// Empties the folders and removes the files at the item's resolved paths, for good. Folders at
     /// a resolved path stay, empty. A path of which something could be read at the scan and cannot

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "cleanup/cleanup_model.h"
-#include "platform/disk_usage.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
@@ -115,13 +114,13 @@ BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
     return item;
 }
 
-std::vector<BigItem> BigItemScanner::scan(const Progress& progress) const {
+std::vector<BigItem> BigItemScanner::scan(const Progress& progress, MeasuredFolders* known) const {
     const auto paths = candidates();
     const KeptPlaces kept(host_);
     std::vector<BigItem> items;
     std::size_t measured = 0;
     for (const auto& path : paths) {
-        const auto size = allocatedSize(path);
+        const auto size = (known ? diskUsage(path, *known) : diskUsage(path)).bytes;
         ++measured;
         if (progress) progress(static_cast<double>(measured) / static_cast<double>(paths.size()));
         if (isBigItem(size)) items.push_back(describe(path, size, kept));

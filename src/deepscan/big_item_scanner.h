@@ -11,6 +11,7 @@
 #include "deepscan/big_item_trash_guard.h"
 #include "deepscan/folder_knowledge.h"
 #include "platform/host.h"
+#include "platform/measured_folders.h"
 
 namespace tidewell {
 
@@ -55,8 +56,9 @@ class BigItemScanner {
     /// The entries that occupy enough, of five folders of the user's Library and of every visible
     /// folder of the home folder but Library and Applications. Largest first; of equal size in the
     /// order of the walk. An entry is one item however deep it goes. `progress` is called on the
-    /// caller's thread after each measure.
-    std::vector<BigItem> scan(const Progress& progress = {}) const;
+    /// caller's thread after each measure. What `known` knows is taken over.
+    std::vector<BigItem> scan(const Progress& progress = {},
+                              MeasuredFolders* known = nullptr) const;
 
     /// Refuses what the guard refuses. Nothing is measured again: a moved item frees its size as it
     /// was found.

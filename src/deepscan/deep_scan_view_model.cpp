@@ -41,7 +41,7 @@ std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigI
 DeepScanViewModel::DeepScanViewModel(const Host& host)
     : scanner_(host), installerScanner_(host), containerScanner_(host) {}
 
-Task<> DeepScanViewModel::scan() {
+Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
     if (phase() == Phase::scanning) co_return;
     const auto before = phase();
     phase = Phase::scanning;
@@ -50,17 +50,18 @@ Task<> DeepScanViewModel::scan() {
     lastPutBack = std::nullopt;
 
     try {
-        auto scanning = background([walk = scanner_, installers = installerScanner_,
-                                    containers = containerScanner_, progress = progressHop()] {
-            auto silent = findSilentMounts();
-            auto walked = walk.scan(progress);
-            auto foundInstallers = installers.scan();
-            auto foundContainers = containers.scan();
-            auto merged =
-                mergeDeepScan(std::move(walked), std::move(foundInstallers),
-                              std::move(foundContainers), containers.walkExclusionPaths());
-            return Found{.silentMounts = std::move(silent), .items = std::move(merged)};
-        });
+        auto scanning =
+            background([walk = scanner_, installers = installerScanner_,
+                        containers = containerScanner_, progress = progressHop(), known] {
+                auto silent = findSilentMounts();
+                auto walked = walk.scan(progress, known.get());
+                auto foundInstallers = installers.scan();
+                auto foundContainers = containers.scan();
+                auto merged =
+                    mergeDeepScan(std::move(walked), std::move(foundInstallers),
+                                  std::move(foundContainers), containers.walkExclusionPaths());
+                return Found{.silentMounts = std::move(silent), .items = std::move(merged)};
+            });
         auto found = co_await scanning;
         silentMounts = std::move(found.silentMounts);
         items = std::move(found.items);

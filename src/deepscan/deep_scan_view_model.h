@@ -56,7 +56,9 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     ByteCount totalBytes() const { return tidewell::totalBytes(items()); }
 
     /// Does nothing during a scan. Ends when the scan has ended.
-    Task<> scan();
+    Task<> scan() { return scanWith(nullptr); }
+    /// The same as a part of a scan with several tools, which tell each other what they measured.
+    Task<> scanWith(std::shared_ptr<MeasuredFolders> known);
     /// Ends when the Trash has answered. An item that could not be moved stays in the list.
     Task<> trash(BigItem item);
     /// Undoes that very move; does nothing without one, or while it is being undone. Ends when the

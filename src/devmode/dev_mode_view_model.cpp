@@ -35,7 +35,7 @@ Task<> DevModeViewModel::scan() {
     beginScan();
     models = std::vector<AIModelStore>{};
     try {
-        auto found = co_await measured(devTargets(host_));
+        auto found = co_await measured(devTargets(host_), nullptr);
         auto searchingModels = background([scanner = aiScanner_] { return scanner.scan(); });
         auto stores = co_await searchingModels;
         items = std::move(found);

@@ -8,6 +8,22 @@
 
 namespace tidewell {
 
+namespace {
+
+/// On macOS machines each tool measures by itself, so that two of them can be told apart by what
+/// changed between them.
+std::shared_ptr<MeasuredFolders> measuresToShare(System system) {
+    switch (system) {
+        case System::macOS:
+            return nullptr;
+        case System::linux:
+            return std::make_shared<MeasuredFolders>();
+    }
+    return nullptr;
+}
+
+}  // namespace
+
 SmartScanController::SmartScanController(std::shared_ptr<CleanupViewModel> cleanupModel,
                                          std::shared_ptr<AppsViewModel> appsModel,
                                          std::shared_ptr<DeepScanViewModel> deepScanModel,
@@ -95,14 +111,15 @@ Task<> SmartScanController::run(std::int64_t generation) {
 }
 
 Task<> SmartScanController::runTools(std::int64_t generation) {
+    const auto known = measuresToShare(cleanup->system());
     phase = Phase::clean;
-    co_await cleanup->startScan();
+    co_await cleanup->startScanWith(known);
     if (isStale(generation)) co_return;
     phase = Phase::apps;
     co_await apps->scan();
     if (isStale(generation)) co_return;
     phase = Phase::deepScan;
-    co_await deepScan->scan();
+    co_await deepScan->scanWith(known);
     if (isStale(generation)) co_return;
     phase = Phase::advisor;
     co_await advisor->scan();

@@ -209,4 +209,30 @@ TEST_F(SmartScanControllerTest, TheDetailFollowsThePhaseAndTheTargetInHand) {
 }
 
 }  // namespace
+/// What comes in between shows whether the deep scan has looked for itself.
+TEST(SmartScanMeasures, AreTakenOverWithinOneScanOnLinuxMachinesAlone) {
+    using Phase = SmartScanController::Phase;
+    for (const auto system : {System::macOS, System::linux}) {
+        const SampleMachine machine;
+        auto host = machine.host();
+        host.system = system;
+        TestLoop loop;
+        const auto deepScan = std::make_shared<DeepScanViewModel>(host);
+        const auto controller = std::make_shared<SmartScanController>(
+            std::make_shared<CleanupViewModel>(host), std::make_shared<AppsViewModel>(host),
+            deepScan, std::make_shared<AdvisorViewModel>(host));
+        machine.file("~/Library/Caches/com.example/below/first", 90 * test::megabyte);
+        controller->start();
+        loop.runTurns();
+        while (controller->phase() != Phase::apps) loop.finish();
+        machine.file("~/Library/Caches/com.example/below/second", 10 * test::megabyte);
+        loop.runAll();
+        const auto taken = (system == System::linux ? 90 : 100) * test::megabyte;
+        EXPECT_EQ(deepScan->totalBytes(), taken);
+        controller->start();
+        loop.runAll();
+        EXPECT_EQ(deepScan->totalBytes(), 100 * test::megabyte) << "nothing outlives its scan";
+    }
+}
+
 }  // namespace tidewell::test

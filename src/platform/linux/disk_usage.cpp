@@ -24,12 +24,10 @@ int poolWidth() {
     return static_cast<int>(std::clamp<std::size_t>(affordable, 1, wanted));
 }
 
-}  // namespace
-
-DiskUsage diskUsage(const std::string& path) {
+DiskUsage measured(const std::string& path, MeasuredFolders* known) {
     static auto& pool = WorkPool::make(poolWidth());
     const auto folder = posix::openFolder(path);
-    if (folder) return linux_system::usageBelow(pool, folder);
+    if (folder) return linux_system::usageBelow(pool, folder, known);
     const bool isNoFolder = linux_system::isGone();
     DiskUsage usage;
     if (posix::isOutOfReach(path, posix::LastLink::keep)) {
@@ -42,6 +40,16 @@ DiskUsage diskUsage(const std::string& path) {
     const bool isMeasured = size && isNoFolder;
     if (!isMissing && !isMeasured) usage.unread.add(0, path);
     return usage;
+}
+
+}  // namespace
+
+DiskUsage diskUsage(const std::string& path) {
+    return measured(path, nullptr);
+}
+
+DiskUsage diskUsage(const std::string& path, MeasuredFolders& known) {
+    return measured(path, &known);
 }
 
 }  // namespace tidewell

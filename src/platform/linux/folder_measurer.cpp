@@ -41,6 +41,14 @@ std::size_t foldersHeld(int threads) {
     return ofThread > descriptorsInUse ? ofThread - descriptorsInUse : 1;
 }
 
+MeasuredFolders::Identity identityOf(const MountedFolder& which) {
+    return {.device = which.folder.device, .inode = which.folder.inode, .mount = which.mount};
+}
+
+std::optional<DiskUsage> knownUsage(const MeasuredFolders* known, const MountedFolder& which) {
+    return known ? known->find(identityOf(which)) : std::nullopt;
+}
+
 }  // namespace
 
 std::optional<ByteCount> sizeOfRegularFile(int folder, const char* name) {
@@ -53,10 +61,11 @@ bool isGone() {
     return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
 }
 
-DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder) {
+DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, MeasuredFolders* known) {
     return withHelpersOrWithout([&](Helpers helpers) {
         Measure measure{.job = Job(pool, helpers),
-                        .foldersHeldByThread = foldersHeld(pool.width())};
+                        .foldersHeldByThread = foldersHeld(pool.width()),
+                        .known = known};
         // With a file position of its own: a second attempt begins anew.
         posix::Descriptor own(::openat(folder.get(), ".", posix::openFolderFlags));
         const auto which = own ? mountedFolder(own.get()) : std::nullopt;
@@ -64,10 +73,12 @@ DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder) {
             measure.found.unread.addUnknown();
             return std::move(measure.found);
         }
+        if (auto usage = knownUsage(known, *which)) return std::move(*usage);
         const auto top = FolderPointer<TreeFolder>::top(*which);
         const auto open = top->hold(std::move(own));
         measure.job.run(std::make_unique<FolderMeasurer>(
             measure, FolderWork{.folder = top, .descriptor = open, .isUnread = true}));
+        if (known) known->add(identityOf(*which), measure.found);
         return std::move(measure.found);
     });
 }
@@ -161,6 +172,14 @@ void FolderMeasurer::enterSubfolder() {
     if (subfolder) works_.enter(std::move(*subfolder));
 }
 
+bool FolderMeasurer::takeOver(const MountedFolder& folder) {
+    const auto usage = knownUsage(measure_.known, folder);
+    if (!usage) return false;
+    found_.bytes += usage->bytes;
+    found_.unread.add(usage->unread);
+    return true;
+}
+
 std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent, std::string name) {
     const int place = parent.descriptor->get();
     auto opened = posix::openSubfolder(place, name);
@@ -169,7 +188,7 @@ std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent, std:
         missed(place, name);
         return std::nullopt;
     }
-    if (parent.folder->isLoop(*which)) return std::nullopt;
+    if (parent.folder->isLoop(*which) || takeOver(*which)) return std::nullopt;
     const auto folder = parent.folder.below(std::move(name), *which);
     return FolderWork{
         .folder = folder, .descriptor = folder->hold(std::move(opened)), .isUnread = true};

@@ -12,6 +12,7 @@
 #include "platform/linux/folder_work.h"
 #include "platform/linux/way_down.h"
 #include "platform/linux/work_pool.h"
+#include "platform/measured_folders.h"
 
 namespace tidewell::linux_system {
 
@@ -23,13 +24,14 @@ std::optional<ByteCount> sizeOfRegularFile(int folder, const char* name);
 bool isGone();
 
 /// Measures all regular files below an open folder. Blocks until the end. Throws only if the memory
-/// does not even suffice for one thread.
-DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder);
+/// does not even suffice for one thread. With `known`, that is asked and filled.
+DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, MeasuredFolders* known);
 
 /// What the threads that work on one measure have in common.
 struct Measure {
     Job job;
     std::size_t foldersHeldByThread;
+    MeasuredFolders* known;
     std::mutex mutex = {};
     DiskUsage found = {};
 };
@@ -53,6 +55,7 @@ class FolderMeasurer : public Share {
     void missed(int folder, std::string_view name);
     void measureFilesOf(FolderWork& work);
     void enterSubfolder();
+    bool takeOver(const MountedFolder& folder);
     std::optional<FolderWork> entered(const FolderWork& parent, std::string name);
     void read(FolderWork& work);
     void sortPortion(FolderWork& work);
