@@ -25,6 +25,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   target_compile_options(tidewell_compile_options INTERFACE -Wno-deprecated-declarations)
 endif()
 target_link_libraries(tidewell_compile_options INTERFACE Threads::Threads)
+# A library that a program does not use would be loaded at its start all the same.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  target_link_options(tidewell_compile_options INTERFACE LINKER:--as-needed)
+endif()
 # What the sanitizers add to the code makes g++ see values that are never set where there are none.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND TIDEWELL_SANITIZE)
   target_compile_options(tidewell_compile_options INTERFACE -Wno-maybe-uninitialized)
