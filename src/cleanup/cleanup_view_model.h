@@ -39,7 +39,7 @@ class CleanupViewModel : public CleaningSession {
     /// Back to the start.
     void reset();
 
-    System system() const { return host_.system; }
+    const Host& host() const { return host_; }
 
  private:
     Host host_;

@@ -111,7 +111,7 @@ Task<> SmartScanController::run(std::int64_t generation) {
 }
 
 Task<> SmartScanController::runTools(std::int64_t generation) {
-    const auto known = measuresToShare(cleanup->system());
+    const auto known = measuresToShare(cleanup->host().system);
     phase = Phase::clean;
     co_await cleanup->startScanWith(known);
     if (isStale(generation)) co_return;
