@@ -1,7 +1,9 @@
 #include "shell/content_view.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "async/executor.h"
 #include "shell/opened_url.h"
 
 namespace tidewell {
@@ -78,7 +80,12 @@ void ContentView::endIntro() {
 
 void ContentView::scanEverything() {
     mode = Mode::home;
+    // A start shows only in the next turn; until then another would be let in.
+    if (std::exchange(isStarting_, true)) return;
     smartScan->start();
+    Executor::main().post([weak = weak_from_this()] {
+        if (const auto self = weak.lock()) self->isStarting_ = false;
+    });
 }
 
 void ContentView::openSection(const std::optional<std::string>& name) {

@@ -64,6 +64,9 @@ class ContentView : public std::enable_shared_from_this<ContentView> {
 
     /// To be called each time the window comes into sight: takes what the bridge has noted.
     void appear();
+    /// Home comes into sight, and a smart scan begins where none is under way. Wishes of one turn
+    /// start one.
+    void scanEverything();
     /// A URL from outside; one that is not known is ignored.
     void openUrl(std::string_view url);
 
@@ -74,12 +77,12 @@ class ContentView : public std::enable_shared_from_this<ContentView> {
     void endIntro();
 
  private:
-    void scanEverything();
     void openSection(const std::optional<std::string>& name);
     void refreshWhenCleaned();
 
     Application& application_;
     UserDefaults defaults_;
+    bool isStarting_ = false;  ///< a smart scan has been started in this very turn
     CleanupViewModel::Phase lastCleanupPhase_ = CleanupViewModel::Phase::idle;
     Subscription cleanupObserver_;
     std::array<NotificationCenter::Registration, 3> registrations_;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -68,6 +69,31 @@ TEST_F(ContentViewTest, AWishIsHeardAtOnceAndActedOnAgainWhenTheWindowAppearsLat
     root->mode = Mode::advisor;
     root->appear();
     EXPECT_EQ(root->mode(), Mode::advisor);
+}
+
+TEST_F(ContentViewTest, WishesThatComeTogetherStartOneScan) {
+    using Phase = SmartScanController::Phase;
+    const auto root = makeRoot();
+    application.bridge.openWindow = [&] { root->appear(); };  // it was closed
+    const std::function<void()> ways[] = {
+        [&] { application.bridge.requestScan(); },
+        [&] {
+            application.bridge.autoStartScan = true;
+            application.bridge.showWindow();
+            root->openUrl("tidewell://scan");
+        },
+        [&] {
+            root->scanEverything();
+            root->scanEverything();
+        },
+    };
+    for (const auto& wish : ways) {
+        wish();
+        loop.runTurns();
+        EXPECT_EQ(root->smartScan->phase(), Phase::clean) << "a second one would be further";
+        loop.runAll();
+        EXPECT_EQ(root->smartScan->phase(), Phase::done);
+    }
 }
 
 TEST_F(ContentViewTest, TheWishesOfATimeWithoutAWindowComeTrueWhenItAppears) {

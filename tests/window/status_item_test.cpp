@@ -109,15 +109,22 @@ TEST_F(StatusItemTest, ACardOpensTheClosedWindowAtItsSection) {
     }
 }
 
-TEST_F(StatusItemTest, ScanMyMacScansInTheWindow) {
+TEST_F(StatusItemTest, ScanMyMacScansOnceInTheWindow) {
     startWithStatusItem();
     openWithTheWindowClosed();
+    auto& scan = *view->smartScan;
+    bool hasOvertakenItself = false;
+    const auto observer = onChanged(scan.willChange, [&] {
+        const bool isBeyondClean = scan.phase() > SmartScanController::Phase::clean;
+        hasOvertakenItself |=
+            isBeyondClean && scan.cleanup->phase() == CleanupViewModel::Phase::scanning;
+    });
     EXPECT_EQ(focusedInPopover(), "Scan My Mac");
     keyInPopover(Qt::Key_Return);
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(window->window().isVisible());
-    EXPECT_TRUE(comesTo([&] { return view->smartScan->isRunning(); }));
-    view->smartScan->stop();
+    ASSERT_TRUE(comesTo([&] { return scan.phase() == SmartScanController::Phase::done; }));
+    EXPECT_FALSE(hasOvertakenItself);
 }
 
 TEST_F(StatusItemTest, TheFullAppOpensWhereItWasLeft) {

@@ -79,7 +79,7 @@ class HomeScreen final : public Screen {
     /// To be called when the screen comes into sight, for its dates are told from now. Has its
     /// effect in a later turn.
     Q_INVOKABLE void open();
-    Q_INVOKABLE void startScan() { view_->smartScan->start(); }
+    Q_INVOKABLE void startScan() { view_->scanEverything(); }
     Q_INVOKABLE void openSettings() { view_->permissions->openSettings(); }
     Q_INVOKABLE void revealApp() { view_->permissions->revealApp(); }
     /// For a row of `tools`.
