@@ -35,6 +35,7 @@ Task<> AppsViewModel::scan() {
         auto scanning = background([scanner = scanner, report] { return scanner.scan(report); });
         auto found = co_await scanning;
         apps = std::move(found);
+        leaving_.clear();
         scanProgress = 1.0;
         phase = Phase::list;
     } catch (...) {
@@ -50,7 +51,8 @@ Task<> AppsViewModel::prepareUninstall(InstalledApp app) {
             background([scanner = scanner, app] { return scanner.findLeftovers(app); });
         auto leftovers = co_await searching;
         isBuildingPlan = false;
-        pendingPlan = UninstallPlan{.app = std::move(app), .leftovers = std::move(leftovers)};
+        if (!leaving_.contains(app.id))
+            pendingPlan = UninstallPlan{.app = std::move(app), .leftovers = std::move(leftovers)};
     } catch (...) {
         isBuildingPlan = false;
         throw;
@@ -62,6 +64,7 @@ Task<> AppsViewModel::confirmUninstall() {
     const auto plan = *pendingPlan();
     // The sheet closes before the work starts.
     pendingPlan = std::nullopt;
+    leaving_.insert(plan.app.id);
     auto uninstalling = background([scanner = scanner, plan] { return scanner.uninstall(plan); });
     UninstallResult failed;
     failed.appName = plan.app.name;
@@ -70,6 +73,8 @@ Task<> AppsViewModel::confirmUninstall() {
     if (result.appBundleMoved)
         std::erase_if(apps.mutate(),
                       [&](const InstalledApp& app) { return app.id == plan.app.id; });
+    else
+        leaving_.erase(plan.app.id);
     lastUninstalled_ = plan.app;
     lastPutBack = std::nullopt;
     lastResult = std::move(result);
@@ -87,7 +92,10 @@ Task<> AppsViewModel::putBack() {
     failed.failed.push_back(result.appName);
     auto undone = co_await valueOr(puttingBack, failed);
     const bool isBack = app && std::ranges::find(undone.places, app->url) != undone.places.end();
-    if (isBack && result.appBundleMoved) apps.mutate().push_back(*app);
+    if (isBack && result.appBundleMoved) {
+        apps.mutate().push_back(*app);
+        leaving_.erase(app->id);
+    }
     // What stays in the Trash may be tried again.
     auto left = result.moved;
     std::erase_if(left, [&undone](const TrashedItem& item) {

@@ -2,6 +2,8 @@
 
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "apps/app_order.h"
@@ -46,7 +48,8 @@ class AppsViewModel : public std::enable_shared_from_this<AppsViewModel> {
 
     /// Does nothing during a scan. Ends when the scan has ended.
     Task<> scan();
-    /// Searches the application's leftovers and makes a plan of them.
+    /// Searches the application's leftovers and makes a plan of them, unless the application is on
+    /// its way to the Trash by then.
     Task<> prepareUninstall(InstalledApp app);
     /// Carries out the pending plan, if there is one.
     Task<> confirmUninstall();
@@ -58,6 +61,8 @@ class AppsViewModel : public std::enable_shared_from_this<AppsViewModel> {
 
  private:
     std::optional<InstalledApp> lastUninstalled_;
+    /// The ids of those that an uninstall is moving, or has moved since the last scan.
+    std::set<std::string> leaving_;
 };
 
 }  // namespace tidewell

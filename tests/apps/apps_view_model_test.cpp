@@ -123,6 +123,22 @@ TEST_F(AppsViewModelTest, UninstallsWhatWasPreparedAndKeepsTheRest) {
     EXPECT_EQ(model->phase(), Phase::list);
 }
 
+TEST_F(AppsViewModelTest, OffersNoApplicationThatIsGoingOrGone) {
+    install("Notes", megabyte);
+    scan();
+    for (int press = 0; press < 3; ++press) prepare(0);
+    loop.runTurns();
+    loop.finish();
+    spawn(model, &AppsViewModel::confirmUninstall);
+    loop.runTurns();
+    loop.finish();  // the second search
+    EXPECT_FALSE(model->pendingPlan()) << "it is on its way";
+    loop.finish(1);
+    ASSERT_FALSE(machine.has("/Applications/Notes.app"));
+    loop.finish();  // the third
+    EXPECT_FALSE(model->pendingPlan()) << "it is gone";
+}
+
 TEST_F(AppsViewModelTest, DoesNothingWithoutAPlan) {
     install("Notes", megabyte);
     scan();
