@@ -10,8 +10,6 @@ Modal {
     property string confirmLabel
     property string cancelLabel
 
-    signal confirmed()
-
     firstFocus: cancelButton
 
     Column {
@@ -56,7 +54,7 @@ Modal {
                     verticalPadding: 10
                     tint: Theme.destructive
                     text: root.confirmLabel
-                    onClicked: root.confirmed()
+                    onClicked: root.confirm()
                 }
             }
         }

@@ -1,8 +1,9 @@
 import QtQuick
 import Tidewell
 
-/// A strip that tells how something ended.
-Rectangle {
+/// A strip that tells how something ended. It lies over the lower end of a list, so that no row moves
+/// when it comes or goes; the list leaves `room` behind its last row.
+Item {
     id: root
 
     property string symbol
@@ -16,17 +17,29 @@ Rectangle {
     property string dismissLabel
     property string dismissSymbol: "xmark"
 
-    signal dismissed()
+    readonly property real room: visible ? height + 12 : 0
+
+    /// The user takes it away, by the means that the focus reason tells.
+    signal dismissed(int reason)
 
     implicitHeight: words.implicitHeight + 24
-    radius: 15
-    color: Theme.withOpacity(tint, 0.10)
-    border.width: 1
-    border.color: Theme.withOpacity(tint, 0.28)
+    z: 1
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title
     Accessible.description: line
 
+    GlowBox {
+        anchors.fill: parent
+        cornerRadius: 15
+        shade: 0.6
+        fillTop: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.20))
+        fillBottom: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.13))
+        rim: Theme.withOpacity(root.tint, 0.34)
+    }
+    MouseArea {
+        anchors.fill: parent  // what lies below is not to be pressed through it
+        hoverEnabled: true
+    }
     Symbol {
         id: icon
         x: 16
@@ -81,6 +94,6 @@ Rectangle {
         isFilled: false
         symbol: root.dismissSymbol
         text: root.dismissLabel
-        onClicked: root.dismissed()
+        onClicked: root.dismissed(focusReason)
     }
 }

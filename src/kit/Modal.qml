@@ -16,9 +16,17 @@ T.Popup {
     property Item firstFocus
     property Item lastFocus
 
+    signal confirmed()
     signal cancelled()
 
+    /// For what cannot be taken back: not as soon as the card has come under the pointer.
+    function confirm() {
+        if (!settling.running)
+            confirmed()
+    }
+
     onAboutToShow: {
+        settling.restart()
         if (!lastFocus)  // it may be on its way out
             lastFocus = parent.Window.activeFocusItem
         if (firstFocus)
@@ -67,5 +75,10 @@ T.Popup {
         Accessible.role: Accessible.Dialog
         Accessible.name: root.title
         Keys.onEscapePressed: root.cancelled()
+
+        Timer {
+            id: settling
+            interval: Kit.settlingTime
+        }
     }
 }

@@ -34,6 +34,7 @@ class AdvisorTest : public WindowTest {
 
 TEST_F(AdvisorTest, ARuntimeGoesOnlyOnceTheUserHasSaidSo) {
     scan();
+    ASSERT_TRUE(comesTo([&] { return deleteButton("iOS 17.5"); })) << told();
     EXPECT_FALSE(isEnabled(deleteButton("iOS 17.5")));
     press(deleteButton("iOS 16.4"), "Delete…");
     ASSERT_TRUE(comesTo([&] { return focused() == "Cancel"; }));
@@ -42,6 +43,8 @@ TEST_F(AdvisorTest, ARuntimeGoesOnlyOnceTheUserHasSaidSo) {
     EXPECT_TRUE(machine.has("/state/runtimes/A")) << "Enter destroys nothing";
 
     press(deleteButton("iOS 16.4"), "Delete…");
+    ASSERT_TRUE(comesTo([&] { return focused() == "Cancel"; }));
+    settle();
     click("Delete Runtime");
     ASSERT_TRUE(comesTo([&] {
         return shows("Deleted iOS 16.4. If the space doesn't show up, a restart releases it.");
@@ -55,6 +58,7 @@ TEST_F(AdvisorTest, AnActionThatCostsNothingIsDoneAtOnceAndItsCardGoes) {
     const QString outcome =
         "macOS is purging snapshots now. Space shows up over the next few minutes.";
     scan();
+    settle();
     click("Thin Snapshots");
     ASSERT_TRUE(comesTo([&] { return shows(outcome); })) << told();
     EXPECT_EQ(machine.contentOf("/state/snapshots"), "");
@@ -62,6 +66,29 @@ TEST_F(AdvisorTest, AnActionThatCostsNothingIsDoneAtOnceAndItsCardGoes) {
     click("Rescan");
     EXPECT_TRUE(comesTo([&] { return shows("12 GB of easy wins found.") && !shows(outcome); }));
     EXPECT_FALSE(shows("Thin Snapshots"));
+}
+
+TEST_F(AdvisorTest, APressThatComesTooSoonMeetsNoCardThatHasMovedUp) {
+    tools.devices(R"({"devices":{"x":[{"isAvailable":false}]}})");
+    machine.remove("/state/runtimes/A");
+    machine.remove("/state/runtimes/B");
+    start();
+    view->mode = Mode::advisor;
+    click("Check My Mac");
+    ASSERT_TRUE(comesTo([&] { return shows("Remove All"); })) << told();
+    settle();
+    for (int step = 0; step < 20 && focused() != "Remove All"; ++step) key(Qt::Key_Tab);
+    key(Qt::Key_Space);
+    ASSERT_TRUE(comesTo([&] { return !shows("Remove All"); })) << told();
+    EXPECT_TRUE(comesTo([&] { return focused() == "Thin Snapshots"; })) << focused().toStdString();
+    key(Qt::Key_Space);
+    press("Thin Snapshots");
+    settle();
+    EXPECT_TRUE(shows("Thin Snapshots"));
+    key(Qt::Key_Space);
+    ASSERT_TRUE(comesTo([&] { return shows("You're all good"); })) << told();
+    EXPECT_TRUE(comesTo([&] { return focused() == "Rescan"; })) << focused().toStdString();
+    EXPECT_TRUE(showsFocus());
 }
 
 }  // namespace

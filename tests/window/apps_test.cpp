@@ -47,6 +47,9 @@ TEST_F(AppsTest, AnAppGoesWithItsLeftoversOnceTheSheetIsConfirmed) {
     EXPECT_TRUE(comesTo([&] { return findDescribed("com.example.postcards", "Cache. 1 MB"); }));
     EXPECT_TRUE(machine.has("/Applications/Postcards.app"));
     click("Move to Trash");
+    EXPECT_TRUE(shows("Uninstall Postcards?")) << "the sheet has only just come under the pointer";
+    settle();
+    click("Move to Trash");
     ASSERT_TRUE(comesTo([&] { return shows("Moved Postcards to the Trash"); })) << told();
     EXPECT_FALSE(machine.has("/Applications/Postcards.app"));
     EXPECT_FALSE(machine.has("~/Library/Caches/com.example.postcards"));
@@ -72,6 +75,30 @@ TEST_F(AppsTest, EscapeLeavesTheAppWhereItIsAndGivesTheKeyboardBack) {
         << focused().toStdString();
     EXPECT_TRUE(machine.has("/Applications/Postcards.app"));
     EXPECT_FALSE(model().lastResult());
+}
+
+TEST_F(AppsTest, TheKeyboardGoesOnToTheNextCardAndFromTheLastToTheMenu) {
+    scan();
+    ASSERT_TRUE(comesToRest());
+    const auto top = find("Atlas", QAccessible::ListItem)->rect().top();
+    const auto uninstall = [&](const QString& app) {
+        for (int step = 0; step < 20 && focused() != "Uninstall " + app; ++step) key(Qt::Key_Tab);
+        key(Qt::Key_Return);
+        ASSERT_TRUE(comesTo([&] { return focused() == "Cancel"; })) << told();
+        settle();
+        key(Qt::Key_Tab);
+        key(Qt::Key_Return);
+        ASSERT_TRUE(comesTo([&] { return !find(app, QAccessible::ListItem); })) << told();
+    };
+    uninstall("Postcards");
+    EXPECT_TRUE(comesTo([&] { return focused() == "Uninstall Atlas"; })) << focused().toStdString();
+    ASSERT_TRUE(comesTo([&] { return shows("Moved Postcards to the Trash"); }));
+    ASSERT_TRUE(comesToRest());
+    EXPECT_EQ(find("Atlas", QAccessible::ListItem)->rect().top(), top)
+        << "the banner moves no card";
+    uninstall("Atlas");
+    EXPECT_TRUE(comesTo([&] { return focused() == "Least used"; })) << focused().toStdString();
+    EXPECT_TRUE(showsFocus());
 }
 
 TEST_F(AppsTest, TheMenuSortsTheCards) {

@@ -36,6 +36,7 @@ class DeepScanTest : public WindowTest {
 TEST_F(DeepScanTest, TrashesWhatIsSafeAtOnceAndMovesOnToTheNextBucket) {
     scan();
     EXPECT_TRUE(shows("3 big items • 335.5 MB"));
+    settle();
     click("Move com.example.Browser to Trash");
     EXPECT_TRUE(comesTo([&] {
         return tells(
@@ -48,9 +49,39 @@ TEST_F(DeepScanTest, TrashesWhatIsSafeAtOnceAndMovesOnToTheNextBucket) {
     EXPECT_FALSE(shows("Move Colima data to Trash"));
 }
 
+TEST_F(DeepScanTest, ADoubleClickTrashesOneItemAlthoughTheNextMovesUnderThePointer) {
+    machine.file("~/Library/Caches/com.example.Other/data", 80 * megabyte);
+    scan();
+    settle();
+    const auto place = placeOf(find("Move com.example.Browser to Trash"));
+    clickAt(place);
+    ASSERT_TRUE(comesTo([&] { return placeOf(find("Move com.example.Other to Trash")) == place; }))
+        << "neither the banner nor anything else moves the rows, only the one that goes";
+    clickAt(place);
+    settle();
+    EXPECT_TRUE(find("com.example.Other", QAccessible::ListItem));
+    EXPECT_TRUE(machine.has("~/Library/Caches/com.example.Other/data"));
+    clickAt(place);
+    EXPECT_TRUE(comesTo([&] { return machine.has("~/.Trash/com.example.Other/data"); }));
+}
+
+TEST_F(DeepScanTest, TheKeyboardGoesOnWhereTheLastItemHasGone) {
+    machine.remove("~/Movies/Holiday");
+    machine.remove("~/.colima");
+    scan();
+    settle();
+    for (int step = 0; step < 20 && focused() != "Move com.example.Browser to Trash"; ++step)
+        key(Qt::Key_Tab);
+    key(Qt::Key_Space);
+    ASSERT_TRUE(comesTo([&] { return !shows("com.example.Browser"); })) << told();
+    EXPECT_TRUE(comesTo([&] { return focused() == "Rescan"; })) << focused().toStdString();
+    EXPECT_TRUE(showsFocus());
+}
+
 TEST_F(DeepScanTest, AsksBeforeThePersonalAndEnterLeavesItWhereItIs) {
     scan();
     viewBucket("Your stuff", "Holiday");
+    settle();
     click("Move Holiday to Trash");
     ASSERT_TRUE(comesTo([&] { return focused() == "Cancel"; })) << told();
     key(Qt::Key_Return);
@@ -59,6 +90,9 @@ TEST_F(DeepScanTest, AsksBeforeThePersonalAndEnterLeavesItWhereItIs) {
 
     press("Move Holiday to Trash");
     ASSERT_TRUE(comesTo([&] { return shows("Move to Trash"); }));
+    click("Move to Trash");
+    EXPECT_TRUE(shows("Move to Trash?")) << "the question has only just come under the pointer";
+    settle();
     click("Move to Trash");
     EXPECT_TRUE(comesTo([&] { return machine.has("~/.Trash/Holiday/one.mov"); }));
     EXPECT_TRUE(comesTo([&] { return !shows("Your stuff"); }));

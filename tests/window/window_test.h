@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "kit/settling.h"
 #include "platform/user_defaults.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
@@ -79,6 +80,10 @@ class WindowTest : public testing::Test {
     }
     bool shows(const QString& name) const { return find(name) != nullptr; }
 
+    /// Lets the time go by in which a list or a question that has just changed takes no press that
+    /// cannot be taken back.
+    static void settle() { QTest::qWait(static_cast<int>(settlingTime.count()) + 20); }
+
     void press(const QString& name) const { press(find(name), name); }
     void press(QAccessibleInterface* control, const QString& name) const {
         ASSERT_NE(control, nullptr) << name.toStdString() << " is not among" << told();
@@ -89,8 +94,14 @@ class WindowTest : public testing::Test {
         ASSERT_TRUE(comesTo([&] { return (control = find(name, role)) != nullptr; }))
             << name.toStdString() << " is not among" << told();
         ASSERT_TRUE(comesToRest());
-        QTest::mouseClick(&window->window(), Qt::LeftButton, {},
-                          window->window().mapFromGlobal(control->rect().center()));
+        clickAt(placeOf(control));
+    }
+    /// Where it is on the window; (0, 0) if it is not there.
+    QPoint placeOf(const QAccessibleInterface* control) const {
+        return control ? window->window().mapFromGlobal(control->rect().center()) : QPoint();
+    }
+    void clickAt(const QPoint& place) const {
+        QTest::mouseClick(&window->window(), Qt::LeftButton, {}, place);
     }
     void key(int key, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(&window->window(), static_cast<Qt::Key>(key), modifiers);

@@ -56,13 +56,17 @@ FocusScope {
         anchors.right: parent.right
         anchors.leftMargin: root.margin
         anchors.rightMargin: root.margin
-        y: 108
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 20
         visible: root.isList && root.screen.message !== ""
         symbol: root.screen.messageSymbol
         title: root.screen.message
         dismissSymbol: root.screen.dismissSymbol
         dismissLabel: root.screen.dismissLabel
-        onDismissed: root.screen.dismissMessage()
+        onDismissed: reason => {
+            root.screen.dismissMessage()
+            rescan.forceActiveFocus(reason)
+        }
     }
 
     StartNote {
@@ -73,59 +77,51 @@ FocusScope {
         line: root.screen.noticeLine
     }
 
-    ScrollArea {
+    CardList {
+        id: cards
         anchors.fill: parent
-        anchors.leftMargin: root.margin - 8
-        anchors.rightMargin: root.margin - 18
-        anchors.topMargin: message.visible ? message.y + message.height + 8 : 104
+        anchors.leftMargin: root.margin - leftMargin
+        anchors.rightMargin: root.margin - rightMargin
+        anchors.topMargin: 104
         visible: root.isList && !root.screen.isAllClear
-        contentHeight: cards.height + 40
+        topMargin: 8
+        spacing: 14
+        roomBelow: message.room
+        model: root.screen.cards
+        Accessible.name: root.screen.headline
+        onDeserted: reason => rescan.forceActiveFocus(reason)
 
-        Column {
-            id: cards
-            x: 8
-            y: 8
-            width: parent.width - 26
-            spacing: 14
-            Accessible.role: Accessible.List
-            Accessible.name: root.screen.headline
+        delegate: AdvisorCard {
+            id: card
 
-            Repeater {
-                model: root.screen.cards
+            required property int index
+            required symbol
+            required title
+            required body
+            required size
+            required buttonLabel
+            required isBusy
+            required property bool hasRuntimes
 
-                AdvisorCard {
-                    id: card
+            width: cards.cardWidth
+            onActed: root.screen.act(index)
 
+            rows: Repeater {
+                model: card.hasRuntimes ? root.screen.runtimes : null
+
+                RuntimeRow {
                     required property int index
-                    required symbol
                     required title
-                    required body
+                    required build
                     required size
-                    required buttonLabel
+                    required lastUsed
+                    required usedBy
                     required isBusy
-                    required property bool hasRuntimes
+                    required isDeletable
 
-                    width: cards.width
-                    onActed: root.screen.act(index)
-
-                    rows: Repeater {
-                        model: card.hasRuntimes ? root.screen.runtimes : null
-
-                        RuntimeRow {
-                            required property int index
-                            required title
-                            required build
-                            required size
-                            required lastUsed
-                            required usedBy
-                            required isBusy
-                            required isDeletable
-
-                            width: parent ? (parent as Item).width : 0
-                            deleteLabel: root.screen.deleteLabel
-                            onDeletePressed: root.screen.askToDelete(index)
-                        }
-                    }
+                    width: parent ? (parent as Item).width : 0
+                    deleteLabel: root.screen.deleteLabel
+                    onDeletePressed: root.screen.askToDelete(index)
                 }
             }
         }

@@ -83,9 +83,10 @@ void AdvisorScreen::scan() {
 }
 
 void AdvisorScreen::act(int row) {
-    const auto& button = cards_.values().at(static_cast<std::size_t>(row)).button;
-    if (!button) return;
-    switch (button->action) {
+    const auto* card = cards_.atRest(row);
+    // A runtime's row is a part of the list, too.
+    if (!card || !card->button || !runtimes_.isAtRest()) return;
+    switch (card->button->action) {
         case AdvisorAction::removeUnavailableSims:
             return spawn(model_, &AdvisorViewModel::removeUnavailableSims);
         case AdvisorAction::thinSnapshots:
@@ -94,9 +95,10 @@ void AdvisorScreen::act(int row) {
 }
 
 void AdvisorScreen::askToDelete(int row) {
-    const auto& id = runtimes_.values().at(static_cast<std::size_t>(row)).id;
+    const auto* chosen = runtimes_.at(row);
+    if (!chosen) return;
     const auto& runtimes = model_->findings().runtimes;
-    const auto runtime = std::ranges::find(runtimes, id, &SimRuntime::id);
+    const auto runtime = std::ranges::find(runtimes, chosen->id, &SimRuntime::id);
     if (runtime == runtimes.end()) return;
     pendingRuntimeDelete_ = *runtime;
     refresh();

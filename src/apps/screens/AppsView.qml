@@ -70,7 +70,8 @@ FocusScope {
             anchors.right: parent.right
             anchors.leftMargin: root.margin
             anchors.rightMargin: root.margin
-            y: 4
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 20
             visible: root.screen.hasBanner
             symbol: root.screen.bannerSymbol
             tint: root.screen.isBannerWarning ? Theme.caution : Theme.success
@@ -80,7 +81,10 @@ FocusScope {
             onUndone: root.screen.putBack()
             dismissSymbol: root.screen.dismissSymbol
             dismissLabel: root.screen.dismissLabel
-            onDismissed: root.screen.dismissResult()
+            onDismissed: reason => {
+                root.screen.dismissResult()
+                sort.forceActiveFocus(reason)
+            }
         }
 
         GridView {
@@ -93,9 +97,9 @@ FocusScope {
             anchors.leftMargin: root.margin
             anchors.right: parent.right
             anchors.rightMargin: root.margin - gap
-            y: banner.visible ? banner.height + 20 : 8
+            y: 8
             height: parent.height - y
-            bottomMargin: 24
+            bottomMargin: 24 + banner.room
             cellWidth: Math.floor(width / columns)
             cellHeight: 152 + gap
             clip: true
@@ -103,13 +107,17 @@ FocusScope {
             boundsBehavior: Flickable.StopAtBounds
             activeFocusOnTab: false
             keyNavigationEnabled: false
+            currentIndex: -1  // or the current card takes the keyboard itself
             model: root.screen.cards
             Accessible.role: Accessible.List
             Accessible.name: root.screen.title
 
             T.ScrollBar.vertical: ScrollHandle {}
 
-            FocusFollower { area: grid }
+            RowKeeper {
+                rows: grid
+                onDeserted: reason => sort.forceActiveFocus(reason)
+            }
 
             delegate: AppCard {
                 required property int index
@@ -131,7 +139,7 @@ FocusScope {
         InfoPill {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 24
+            anchors.bottomMargin: 24 + banner.room
             visible: root.screen.isHuntingLeftovers
             color: "#1c2421"
 

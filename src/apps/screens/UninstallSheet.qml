@@ -15,6 +15,7 @@ Modal {
     width: 480
     height: 560
     firstFocus: cancelButton
+    onConfirmed: screen.confirmUninstall()
     onCancelled: screen.cancelUninstall()
 
     Item {
@@ -95,7 +96,7 @@ Modal {
                 verticalPadding: 10
                 tint: Theme.destructive
                 text: root.screen.confirmLabel
-                onClicked: root.screen.confirmUninstall()
+                onClicked: root.confirm()
             }
         }
     }

@@ -92,12 +92,12 @@ void AppsScreen::scan() {
 }
 
 void AppsScreen::sortBy(int row) {
-    model_->sortOrder = sortChoices_.values().at(static_cast<std::size_t>(row)).order;
+    if (const auto* choice = sortChoices_.at(row)) model_->sortOrder = choice->order;
 }
 
 void AppsScreen::prepareUninstall(int row) {
-    auto app = cards_.values().at(static_cast<std::size_t>(row)).app;
-    spawn(model_, &AppsViewModel::prepareUninstall, std::move(app));
+    if (const auto* card = cards_.at(row))
+        spawn(model_, &AppsViewModel::prepareUninstall, card->app);
 }
 
 void AppsScreen::confirmUninstall() {

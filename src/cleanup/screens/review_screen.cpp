@@ -70,18 +70,20 @@ void ReviewScreen::selectNoneInView() {
 }
 
 void ReviewScreen::toggleCategory(int row) {
-    const auto category = categories_.values().at(static_cast<std::size_t>(row)).category;
+    const auto* chosen = categories_.at(row);
+    if (!chosen) return;
+    const auto category = chosen->category;
     model_->setCategory(
         category, toggledCategory(model_->selectedCountIn(category), model_->countIn(category)));
 }
 
 void ReviewScreen::viewCategory(int row) {
-    setViewing(categories_.values().at(static_cast<std::size_t>(row)).category);
+    if (const auto* chosen = categories_.at(row)) setViewing(chosen->category);
 }
 
 void ReviewScreen::toggleChip(int row) {
-    const auto* item =
-        findItem(model_->items(), chips_.values().at(static_cast<std::size_t>(row)).id);
+    const auto* chip = chips_.at(row);
+    const auto* item = chip ? findItem(model_->items(), chip->id) : nullptr;
     if (item) model_->selectionBinding(*item).set(tickOf(!item->isSelected));
 }
 

@@ -74,7 +74,8 @@ FocusScope {
             anchors.right: parent.right
             anchors.leftMargin: root.margin
             anchors.rightMargin: root.margin
-            y: 4
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 20
             visible: root.screen.hasBanner
             symbol: root.screen.bannerSymbol
             tint: root.screen.bannerColor
@@ -87,7 +88,7 @@ FocusScope {
             id: rail
             anchors.left: parent.left
             anchors.leftMargin: root.margin - 12
-            y: banner.visible ? banner.height + 20 : 8
+            y: 8
             width: 240
             spacing: 6
 
@@ -143,8 +144,10 @@ FocusScope {
             anchors.top: advice.bottom
             anchors.topMargin: 6
             anchors.bottom: parent.bottom
+            roomBelow: banner.room
             model: root.screen.cards
             Accessible.name: root.screen.bucketTitle
+            onDeserted: reason => rescan.forceActiveFocus(reason)
 
             delegate: BigItemCard {
                 required property int index

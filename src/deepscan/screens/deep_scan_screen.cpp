@@ -92,22 +92,19 @@ void DeepScanScreen::scan() {
 }
 
 void DeepScanScreen::viewBucket(int row) {
-    state_.viewingBucket = rail_.values().at(static_cast<std::size_t>(row)).bucket;
+    if (const auto* chosen = rail_.at(row)) state_.viewingBucket = chosen->bucket;
     refresh();
 }
 
-const BigItemCard& DeepScanScreen::card(int row) const {
-    return cards_.values().at(static_cast<std::size_t>(row));
-}
-
 void DeepScanScreen::reveal(int row) {
-    workspace_.reveal(card(row).item.path());
+    if (const auto* card = cards_.at(row)) workspace_.reveal(card->item.path());
 }
 
 void DeepScanScreen::copyCommand(int row) {
-    const auto& [command, label, help] = card(row).copyCommand.value();
-    QGuiApplication::clipboard()->setText(toText(command));
-    const auto id = card(row).item.id;
+    const auto* card = cards_.at(row);
+    if (!card || !card->copyCommand) return;
+    QGuiApplication::clipboard()->setText(toText(card->copyCommand->command));
+    const auto id = card->item.id;
     state_.copiedItems.insert(id);
     QTimer::singleShot(copiedDuration, this, [this, id] {
         state_.copiedItems.erase(id);
@@ -117,7 +114,9 @@ void DeepScanScreen::copyCommand(int row) {
 }
 
 void DeepScanScreen::trash(int row) {
-    const auto item = card(row).item;
+    const auto* card = cards_.atRest(row);
+    if (!card) return;
+    const auto item = card->item;
     if (!asksBeforeTrashing(item.kind)) return move(item);
     state_.pendingTrash = item;
     refresh();

@@ -93,7 +93,6 @@ class DeepScanScreen final : public Screen {
 
  private:
     void update() override;
-    const BigItemCard& card(int row) const;
     void move(BigItem item);
 
     const std::shared_ptr<DeepScanViewModel> model_;

@@ -94,18 +94,18 @@ void DevModeScreen::scan() {
 }
 
 void DevModeScreen::viewGroup(int row) {
-    viewing_ = rail_.values().at(static_cast<std::size_t>(row)).id;
+    if (const auto* chosen = rail_.at(row)) viewing_ = chosen->id;
     refresh();
 }
 
 void DevModeScreen::toggleChip(int row) {
-    const auto* item =
-        findItem(model_->items(), chips_.values().at(static_cast<std::size_t>(row)).id);
+    const auto* chip = chips_.at(row);
+    const auto* item = chip ? findItem(model_->items(), chip->id) : nullptr;
     if (item) model_->binding(*item).set(tickOf(!item->isSelected));
 }
 
 void DevModeScreen::reveal(int row) {
-    workspace_.reveal(models_.values().at(static_cast<std::size_t>(row)).path());
+    if (const auto* store = models_.at(row)) workspace_.reveal(store->path());
 }
 
 void DevModeScreen::cleanUp() {

@@ -5,6 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "kit/qt/palette_value.h"
+#include "kit/settling.h"
 
 namespace tidewell {
 
@@ -21,6 +22,7 @@ class Kit : public QObject {
     Q_PROPERTY(tidewell::PaletteValue teal READ teal CONSTANT)
     Q_PROPERTY(QColor destructive READ destructive CONSTANT)
     Q_PROPERTY(QColor secondary READ secondary CONSTANT)
+    Q_PROPERTY(int settlingTime READ settlingMilliseconds CONSTANT)
     Q_PROPERTY(QString symbolFamily READ symbolFamilyName CONSTANT)
 
  public:
@@ -33,6 +35,8 @@ class Kit : public QObject {
     static PaletteValue teal() { return palette(SectionAccent::teal); }
     static QColor destructive();
     static QColor secondary();
+    /// In milliseconds.
+    static int settlingMilliseconds() { return static_cast<int>(settlingTime.count()); }
     static QString symbolFamilyName();
 
     /// A figure that is on its way to a byte count: its fraction is cut off.

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "kit/list_difference.h"
+#include "kit/settling.h"
 
 namespace tidewell {
 
@@ -33,6 +34,17 @@ class ListModel final : public QAbstractListModel {
         : QAbstractListModel(parent), key_(std::move(key)), roles_(std::move(roles)) {}
 
     const std::vector<Value>& values() const { return values_; }
+    /// The value of a row; null if there is none.
+    const Value* at(int row) const {
+        const auto index = static_cast<std::size_t>(row);
+        return row >= 0 && index < values_.size() ? &values_[index] : nullptr;
+    }
+
+    /// Whether the rows have stood still for long enough that a press is meant for the one it
+    /// meets.
+    bool isAtRest() const { return settling_.isOver(); }
+    /// For a press that cannot be taken back: null also as long as the rows are not at rest.
+    const Value* atRest(int row) const { return isAtRest() ? at(row) : nullptr; }
 
     void set(std::vector<Value> values) {
         for (const auto& step : listDifference(keysOf(values_), keysOf(values))) take(step, values);
@@ -70,6 +82,7 @@ class ListModel final : public QAbstractListModel {
     }
 
     void take(const ListStep& step, const std::vector<Value>& wanted) {
+        settling_.moved();
         const auto from = static_cast<int>(step.from);
         const auto to = static_cast<int>(step.to);
         switch (step.kind) {
@@ -95,6 +108,7 @@ class ListModel final : public QAbstractListModel {
     const Key key_;
     const std::vector<Role> roles_;
     std::vector<Value> values_;
+    Settling settling_;
 };
 
 }  // namespace tidewell

@@ -20,19 +20,6 @@ Item {
         width: parent.width - 2 * root.margin
         spacing: 14
 
-        Banner {
-            width: parent.width
-            visible: root.screen.message !== ""
-            symbol: root.screen.messageSymbol
-            title: root.screen.message
-            dismissSymbol: root.screen.dismissSymbol
-            dismissLabel: root.screen.dismissLabel
-            onDismissed: {
-                const control = Window.activeFocusItem as Pressable
-                root.screen.dismissMessage()
-                root.deserted(control ? control.focusReason : Qt.OtherFocusReason)
-            }
-        }
         MemoryCard {
             width: parent.width
             screen: root.screen
@@ -46,6 +33,22 @@ Item {
             Accessible.role: Accessible.Heading
         }
     }
+    Banner {
+        id: banner
+        x: root.margin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 20
+        width: parent.width - 2 * root.margin
+        visible: root.screen.message !== ""
+        symbol: root.screen.messageSymbol
+        title: root.screen.message
+        dismissSymbol: root.screen.dismissSymbol
+        dismissLabel: root.screen.dismissLabel
+        onDismissed: reason => {
+            root.screen.dismissMessage()
+            root.deserted(reason)
+        }
+    }
     CardList {
         id: list
         anchors.left: parent.left
@@ -56,6 +59,7 @@ Item {
         anchors.topMargin: 6
         anchors.bottom: parent.bottom
         spacing: 4
+        roomBelow: banner.room
         model: root.screen.apps
         Accessible.name: root.screen.appsHeading
         onDeserted: reason => root.deserted(reason)

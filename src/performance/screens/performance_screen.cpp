@@ -1,8 +1,5 @@
 #include "performance/screens/performance_screen.h"
 
-#include <QtGui/qguiapplication.h>
-#include <QtGui/qstylehints.h>
-
 #include <string>
 #include <utility>
 #include <vector>
@@ -95,17 +92,12 @@ void PerformanceScreen::scan() {
 }
 
 void PerformanceScreen::choosePanel(int row) {
-    setPanel(panels_.values().at(static_cast<std::size_t>(row)).panel);
+    if (const auto* choice = panels_.at(row)) setPanel(choice->panel);
 }
 
 void PerformanceScreen::quit(int row) {
-    const auto& chosen = apps_.values().at(static_cast<std::size_t>(row));
-    const auto longestDoubleClick = QGuiApplication::styleHints()->mouseDoubleClickInterval();
-    const bool isSecondClick =
-        sinceRequest_.isValid() && !sinceRequest_.hasExpired(longestDoubleClick);
-    if (chosen.isBusy || isSecondClick) return;
-    sinceRequest_.start();
-    model_->quit(chosen.app);
+    const auto* chosen = apps_.atRest(row);
+    if (chosen && !chosen->isBusy) model_->quit(chosen->app);
 }
 
 void PerformanceScreen::openLoginSettings() const {
@@ -113,7 +105,7 @@ void PerformanceScreen::openLoginSettings() const {
 }
 
 void PerformanceScreen::reveal(int row) const {
-    workspace_.reveal(loginItems_.values().at(static_cast<std::size_t>(row)).plistURL);
+    if (const auto* item = loginItems_.at(row)) workspace_.reveal(item->plistURL);
 }
 
 }  // namespace tidewell

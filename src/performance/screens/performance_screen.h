@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtCore/qelapsedtimer.h>
 #include <QtCore/qstring.h>
 
 #include <memory>
@@ -89,8 +88,7 @@ class PerformanceScreen final : public Screen {
     /// For a row of `panels`.
     Q_INVOKABLE void choosePanel(int row);
     Q_INVOKABLE void dismissMessage() { model_->lastMessage = std::nullopt; }
-    /// Asks the application of a row of `apps` to quit, unless its answer is awaited. The second of
-    /// two clicks in a row asks nobody: the first has moved all rows, so that it may meet another.
+    /// Asks the application of a row of `apps` to quit, unless its answer is awaited.
     Q_INVOKABLE void quit(int row);
     Q_INVOKABLE void openLoginSettings() const;
     /// For a row of `loginItems`.
@@ -103,7 +101,6 @@ class PerformanceScreen final : public Screen {
     const std::shared_ptr<PerformanceViewModel> model_;
     const Workspace workspace_;
     PerformancePanel panel_ = PerformancePanel::memory;
-    QElapsedTimer sinceRequest_;
     PerformanceContent content_;
     ListModel<PanelChoice> panels_;
     ListModel<AppMemoryRowContent> apps_;

@@ -17,9 +17,7 @@ AboutScreen::AboutScreen(std::shared_ptr<ContentView> view, QObject* parent)
 }
 
 void AboutScreen::openLink(int row) {
-    const auto& links = links_.values();
-    if (row >= 0 && static_cast<std::size_t>(row) < links.size())
-        view_->workspace().openUrl(std::string(links[static_cast<std::size_t>(row)].target));
+    if (const auto* link = links_.at(row)) view_->workspace().openUrl(std::string(link->target));
 }
 
 }  // namespace tidewell

@@ -60,9 +60,7 @@ void HomeScreen::open() {
 }
 
 void HomeScreen::openTool(int row) {
-    const auto& tools = tools_.values();
-    if (row >= 0 && static_cast<std::size_t>(row) < tools.size())
-        view_->mode = tools[static_cast<std::size_t>(row)].section;
+    if (const auto* tool = tools_.at(row)) view_->mode = tool->section;
 }
 
 void HomeScreen::update() {

@@ -82,10 +82,7 @@ void SmartScanScreen::back() {
 }
 
 void SmartScanScreen::openCard(int row) {
-    const auto& cards = cards_.values();
-    if (row < 0 || static_cast<std::size_t>(row) >= cards.size()) return;
-    if (const auto& card = cards[static_cast<std::size_t>(row)]; card.opens)
-        view_->mode = card.section;
+    if (const auto* card = cards_.at(row); card && card->opens) view_->mode = card->section;
 }
 
 void SmartScanScreen::openPrimary() {

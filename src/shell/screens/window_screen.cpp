@@ -54,9 +54,7 @@ QString WindowScreen::accessSymbol() const {
 }
 
 void WindowScreen::openRow(int row) {
-    const auto& rows = rows_.values();
-    if (row >= 0 && static_cast<std::size_t>(row) < rows.size())
-        view_->mode = rows[static_cast<std::size_t>(row)].mode;
+    if (const auto* chosen = rows_.at(row)) view_->mode = chosen->mode;
 }
 
 void WindowScreen::update() {
