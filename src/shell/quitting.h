@@ -9,9 +9,9 @@
 
 namespace tidewell {
 
-/// How the program ends while something is being cleaned: the item in hand is brought to its end, no
-/// other begins, and by then what has gone is in the sums. Whoever asks a second time is not kept
-/// waiting. Main thread only.
+/// How the program ends while something is being cleaned: the item in hand is brought to its end,
+/// no other begins, and by then what has gone is in the sums. Whoever asks a second time is not
+/// kept waiting. Main thread only.
 class Quitting {
  public:
     /// `end` ends the program, at once.

@@ -1,3 +1,6 @@
+#include <csignal>
+
+#include "shell/qt/quit_watch.h"
 #include "window_test.h"
 
 namespace tidewell::test {
@@ -49,6 +52,20 @@ TEST_F(WindowTest, ClosingKeepsTheProgramAndItsResultsAndOpeningAppearsAnew) {
     EXPECT_EQ(view->mode(), Mode::clean);
     EXPECT_EQ(application->bridge.pendingSection, std::nullopt);
     EXPECT_TRUE(comesTo([&] { return shows("Nothing to clean"); }));
+}
+
+TEST_F(WindowTest, AnEndFromOutsideIsHeardLikeQuitAndTheSecondDoesNotWait) {
+    start();
+    int ends = 0;
+    Quitting quitting({view->cleanupModel}, [&] { ++ends; });
+    const QuitWatch watch(quitting);
+    view->cleanupModel->phase = Phase::cleaning;
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    EXPECT_EQ(ends, 0);
+    EXPECT_TRUE(window->window().isVisible());
+    std::raise(SIGTERM);
+    EXPECT_TRUE(comesTo([&] { return ends == 1; }));
 }
 
 TEST_F(WindowTest, TheAccessCardLeadsToTheSettingsUntilAccessIsGranted) {

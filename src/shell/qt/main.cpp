@@ -13,6 +13,7 @@
 #include "shell/qt/film_player.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
+#include "shell/qt/quit_watch.h"
 #include "shell/qt/status_item.h"
 #include "shell/qt/timed_application.h"
 #include "shell/start_words.h"
@@ -51,7 +52,7 @@ void quitWhenOutOfReach() {
 }
 
 /// Closing the window ends nothing: the program is left with Quit. What is stored is on the disk
-/// already; threads and tools under way are not waited for.
+/// already; threads and tools under way are not waited for, but for an item that is being cleaned.
 [[noreturn]] void runToQuit(const Host& host, SingleInstance& instance, const StartWish& wish,
                             TimedApplication* timed) {
     const QtMainLoop loop;
@@ -62,6 +63,8 @@ void quitWhenOutOfReach() {
     const auto view = std::make_shared<ContentView>(application);
     MainWindow window(application, view);
     opened = &window;
+    Quitting quitting({view->cleanupModel, view->devModeModel}, [] { QCoreApplication::exit(); });
+    const QuitWatch quitWatch(quitting);
     const auto statusItem = std::make_unique<StatusItem>(application);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, qGuiApp,
                      [&application](Qt::ApplicationState state) {

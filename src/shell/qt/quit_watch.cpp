@@ -31,8 +31,7 @@ bool QuitWatch::eventFilter(QObject* receiver, QEvent* event) {
 
 void QuitWatch::awaitItemInHand() {
     quitting_.stopCleaning();
-    while (quitting_.isCleaning())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    while (quitting_.isCleaning()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 }  // namespace tidewell
