@@ -80,24 +80,8 @@ std::string_view nameOf(RiskBucket bucket) {
     return {};
 }
 
-std::string_view nameOf(Mode section) {
-    switch (section) {
-        case Mode::home:
-            return "home";
-        case Mode::clean:
-            return "clean";
-        case Mode::devMode:
-            return "devMode";
-        case Mode::apps:
-            return "apps";
-        case Mode::performance:
-            return "performance";
-        case Mode::deepScan:
-            return "deepScan";
-        case Mode::advisor:
-            return "advisor";
-    }
-    return {};
+std::string_view nameOf(Mode mode) {
+    return section(mode).jsonName;
 }
 
 Value itemShape(const CleanupItem& item) {

@@ -33,27 +33,6 @@ void scanEverything(const Context& context, const Controller& controller) {
     context.loop.run();
 }
 
-/// The command that goes on where a section of the window would.
-std::string_view commandFor(Mode section) {
-    switch (section) {
-        case Mode::clean:
-            return "clean";
-        case Mode::devMode:
-            return "dev";
-        case Mode::apps:
-            return "apps";
-        case Mode::performance:
-            return "performance";
-        case Mode::deepScan:
-            return "deep-scan";
-        case Mode::advisor:
-            return "advisor";
-        case Mode::home:
-            return "status";
-    }
-    return {};
-}
-
 void printResult(const SmartScanController& controller) {
     const auto content = smartScanContent(controller, now());
     const auto found = content.centre.figure.empty()
@@ -64,15 +43,16 @@ void printResult(const SmartScanController& controller) {
     for (const auto& card : content.cards)
         printLine("  " + leftAligned(card.title, toolColumns) +
                   leftAligned(card.line, toolColumns) +
-                  inked("tidewell-cli " + std::string(commandFor(card.section)), Ink::faint));
+                  inked("tidewell-cli " + std::string(section(card.section).command), Ink::faint));
     if (!content.insights.empty()) printLine();
     for (const auto& insight : content.insights) printLine("  • " + terminalText(insight.text));
     printLine();
     printLine("Nothing deleted yet.");
     if (content.primaryAction)
-        printLine("Next: " + content.primaryAction->label + " with " +
-                  inked("tidewell-cli " + std::string(commandFor(content.primaryAction->opens)),
-                        Ink::strong));
+        printLine(
+            "Next: " + content.primaryAction->label + " with " +
+            inked("tidewell-cli " + std::string(section(content.primaryAction->opens).command),
+                  Ink::strong));
 }
 
 Value document(const SmartScanController& controller) {

@@ -19,23 +19,8 @@ std::string_view cleanView(CleanupViewModel::Phase phase) {
 }
 
 std::string_view detailView(const ContentView& view) {
-    switch (view.mode()) {
-        case Mode::home:
-            return "HomeView";
-        case Mode::clean:
-            return cleanView(view.cleanupModel->phase());
-        case Mode::devMode:
-            return "DevModeView";
-        case Mode::apps:
-            return "AppsView";
-        case Mode::performance:
-            return "PerformanceView";
-        case Mode::deepScan:
-            return "DeepScanView";
-        case Mode::advisor:
-            return "AdvisorView";
-    }
-    return {};
+    const auto fixed = section(view.mode()).view;
+    return fixed.empty() ? cleanView(view.cleanupModel->phase()) : fixed;
 }
 
 }  // namespace
