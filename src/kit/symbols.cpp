@@ -63,6 +63,7 @@ constexpr std::array symbolRows = std::to_array<SymbolRow>({
      {0xe835, 0xe54f, Inner::drawn}},        // check_box_outline_blank with local_parking
     {"person.crop.circle", {0xe853}},        // account_circle
     {"play.rectangle.fill", {0xf06a}},       // smart_display
+    {"power", {0xe8ac}},                     // power_settings_new
     {"questionmark.circle.fill", {0xe887}},  // help
     {"scope", {0xe55c}},                     // my_location
     {"shippingbox", {0xe149}},               // archive

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "async/observable.h"
+#include "cleanup/live_sums.h"
 #include "devmode/developer_machine.h"
 #include "platform/host.h"
 #include "platform/workspace.h"
@@ -21,7 +23,8 @@ class Application {
         : host(std::move(where)),
           workspace(std::move(desktop)),
           isDeveloperMachine(tidewell::isDeveloperMachine(host)),
-          bridge(notifications, std::move(activate)) {}
+          bridge(notifications, std::move(activate)),
+          sums(std::make_shared<LiveSums>(UserDefaults(host.configurationDirectory))) {}
 
     const Host host;
     const Workspace workspace;
@@ -31,6 +34,8 @@ class Application {
     /// Fired whenever the program has come to the front.
     Signal didBecomeActive;
     AppBridge bridge;
+    /// Read anew whenever the stored ones change.
+    const std::shared_ptr<LiveSums> sums;
 };
 
 }  // namespace tidewell

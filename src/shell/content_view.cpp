@@ -26,7 +26,7 @@ ContentView::ContentView(Application& application)
       permissions(std::make_shared<PermissionsModel>(application.host, application.workspace,
                                                      application.didBecomeActive)),
       theme(std::make_shared<ThemeEngine>(application.host, application.didBecomeActive)),
-      sums(std::make_shared<LiveSums>(UserDefaults(application.host.configurationDirectory))),
+      sums(application.sums),
       application_(application),
       defaults_(application.host.configurationDirectory) {
     hasOnboarded = defaults_.boolean(onboardedKey);

@@ -127,6 +127,18 @@ TEST_F(StatusItemTest, ScanMyMacScansOnceInTheWindow) {
     EXPECT_FALSE(hasOvertakenItself);
 }
 
+TEST_F(StatusItemTest, TheMenuOpensTheWindowAndScansInIt) {
+    startWithStatusItem();
+    window->window().close();
+    const auto actions = item->menu().actions();
+    actions.at(0)->trigger();
+    EXPECT_TRUE(window->window().isVisible());
+    EXPECT_FALSE(view->smartScan->isRunning());
+    actions.at(1)->trigger();
+    EXPECT_TRUE(comesTo([&] { return view->smartScan->isRunning(); }));
+    view->smartScan->stop();
+}
+
 TEST_F(StatusItemTest, TheFullAppOpensWhereItWasLeft) {
     startWithStatusItem();
     view->mode = Mode::apps;

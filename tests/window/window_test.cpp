@@ -20,6 +20,10 @@ TEST_F(WindowTest, EverySectionIsReachedBySidebarKeyboardBridgeAndUrl) {
             return row && row->state().selected;
         }));
     }
+    click("Home", QAccessible::Button);
+    key(Qt::Key_5, Qt::ControlModifier);
+    EXPECT_TRUE(comesTo([&] { return focused() == "Check Performance"; }))
+        << focused().toStdString();
     for (int number = 0; number < 7; ++number) {
         key(Qt::Key_1 + number, Qt::ControlModifier);
         EXPECT_EQ(view->mode(), allModes[static_cast<std::size_t>(number)]);

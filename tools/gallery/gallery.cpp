@@ -113,9 +113,8 @@ void drawPopover(const Order& order) {
     const auto* name = "menu-bar";
     if (!order.wants(name)) return;
     const Sample sample;
-    UserDefaults defaults(sample.machine.host().configurationDirectory);
-    defaults.add(totalFreedBytesKey, 23'481'700'000);
-    Popover popover(*sample.application, std::make_shared<LiveSums>(defaults));
+    sample.application->sums->totalFreedBytes = 23'481'700'000;
+    Popover popover(*sample.application);
     popover.open({700, 0, 20, 24});
     order.save(*popover.window(), name);
 }

@@ -14,6 +14,7 @@
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
 #include "shell/qt/quit_watch.h"
+#include "shell/qt/status_image.h"
 #include "shell/qt/status_item.h"
 #include "shell/qt/timed_application.h"
 #include "shell/start_words.h"
@@ -99,11 +100,17 @@ int start(int& count, char** words, const StartWish& wish) {
     QApplication::setApplicationName("tidewell");
     QApplication::setDesktopFileName("io.tidewell.Tidewell");
     QApplication::setQuitOnLastWindowClosed(false);
+    const auto setIcon = [] {
+        QApplication::setWindowIcon(
+            QIcon::fromTheme("io.tidewell.Tidewell", QIcon(QString(logoMarkFile))));
+    };
     if (wish.showsTimings) {
         TimedApplication toolkit(count, words);
+        setIcon();
         runToQuit(*found.host, instance, wish, &toolkit);
     }
     const QApplication toolkit(count, words);
+    setIcon();
     runToQuit(*found.host, instance, wish, nullptr);
 }
 

@@ -12,7 +12,7 @@ MainWindow::MainWindow(Application& application, std::shared_ptr<ContentView> vi
                        const QString& filmFolder)
     : application_(application),
       view_(std::move(view)),
-      storedSums_(application.host.configurationDirectory, [this] { view_->sums->read(); }),
+      storedSums_(application.host.configurationDirectory, [this] { application_.sums->read(); }),
       screen_(view_, filmFolder) {
     importTidewellModule(engine_);
     engine_.setInitialProperties({{"windowScreen", QVariant::fromValue(&screen_)}});

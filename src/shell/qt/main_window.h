@@ -30,7 +30,7 @@ class MainWindow {
  private:
     Application& application_;
     const std::shared_ptr<ContentView> view_;
-    /// The command line may clean beside the window.
+    /// A command line may clean beside the window, which has it also while it is closed.
     FolderWatch storedSums_;
     WindowScreen screen_;
     QQmlApplicationEngine engine_;

@@ -29,8 +29,7 @@ const QScreen& screenAt(const QRect& item) {
 
 }  // namespace
 
-Popover::Popover(Application& application, std::shared_ptr<LiveSums> sums)
-    : application_(application), sums_(std::move(sums)) {}
+Popover::Popover(Application& application) : application_(application) {}
 
 Popover::~Popover() {
     // Both before the engine.
@@ -70,7 +69,7 @@ QQuickWindow* Popover::makeWindow() {
         importTidewellModule(*engine_);
     }
     QQmlComponent component(engine_.get(), QUrl("qrc:/Tidewell/shell/screens/PopoverWindow.qml"));
-    auto* screen = new MenuBarScreen(application_, sums_, [this] { close(); });
+    auto* screen = new MenuBarScreen(application_, [this] { close(); });
     auto* window = qobject_cast<QQuickWindow*>(
         component.createWithInitialProperties({{"screen", QVariant::fromValue(screen)}}));
     if (!window) qFatal("the popover's own files cannot be loaded");

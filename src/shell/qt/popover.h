@@ -8,7 +8,6 @@
 
 #include <memory>
 
-#include "cleanup/live_sums.h"
 #include "shell/application.h"
 
 namespace tidewell {
@@ -18,7 +17,7 @@ namespace tidewell {
 class Popover {
  public:
     /// The application outlives it.
-    Popover(Application& application, std::shared_ptr<LiveSums> sums);
+    explicit Popover(Application& application);
     Popover(const Popover&) = delete;
     Popover& operator=(const Popover&) = delete;
     ~Popover();
@@ -38,7 +37,6 @@ class Popover {
     void leaveWhenInactive(QQuickWindow& window);
 
     Application& application_;
-    const std::shared_ptr<LiveSums> sums_;
     std::unique_ptr<QQmlEngine> engine_;  ///< from the first opening on
     QPointer<QQuickWindow> window_;
     QPointer<QQuickWindow> leaving_;  ///< closed, and gone in a later turn

@@ -1,5 +1,6 @@
 #include "shell/qt/status_item.h"
 
+#include <QtCore/qcoreapplication.h>
 #include <QtGui/qcursor.h>
 
 #include "kit/qt/text.h"
@@ -8,17 +9,16 @@
 
 namespace tidewell {
 
-StatusItem::StatusItem(Application& application)
-    : sums_(std::make_shared<LiveSums>(UserDefaults(application.host.configurationDirectory))),
-      storedSums_(application.host.configurationDirectory, [this] { sums_->read(); }),
-      popover_(application, sums_),
-      icon_(statusImage()) {
+StatusItem::StatusItem(Application& application) : popover_(application), icon_(statusImage()) {
+    menu_.addAction(toText(openFullAppLabel), [&application] { application.bridge.showWindow(); });
+    menu_.addAction(toText(quickScanLabel), [&application] { application.bridge.requestScan(); });
+    menu_.addSeparator();
+    menu_.addAction(toText(quitProgramLabel), [] { QCoreApplication::quit(); });
+    icon_.setContextMenu(&menu_);
     icon_.setToolTip(toText(statusItemTitle));
     QObject::connect(&icon_, &QSystemTrayIcon::activated, &icon_,
                      [this](QSystemTrayIcon::ActivationReason reason) {
-                         const bool isClick = reason == QSystemTrayIcon::Trigger ||
-                                              reason == QSystemTrayIcon::Context;
-                         if (isClick) togglePopover();
+                         if (reason == QSystemTrayIcon::Trigger) togglePopover();
                      });
     icon_.show();
 }

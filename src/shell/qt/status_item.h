@@ -1,12 +1,9 @@
 #pragma once
 
+#include <QtWidgets/qmenu.h>
 #include <QtWidgets/qsystemtrayicon.h>
 
-#include <memory>
-
-#include "cleanup/live_sums.h"
 #include "shell/application.h"
-#include "shell/qt/folder_watch.h"
 #include "shell/qt/popover.h"
 
 namespace tidewell {
@@ -23,14 +20,13 @@ class StatusItem {
 
     void togglePopover();
     Popover& popover() { return popover_; }
+    QMenu& menu() { return menu_; }
 
  private:
     QRect place() const;
 
-    const std::shared_ptr<LiveSums> sums_;
-    /// The window's tools, and a command line beside them, store what they freed.
-    FolderWatch storedSums_;
     Popover popover_;
+    QMenu menu_;  ///< for the other button, and for bars that know menus alone
     QSystemTrayIcon icon_;
 };
 

@@ -10,6 +10,11 @@ Item {
 
     Ambient.palette: screen.palette
 
+    /// The keyboard goes into the section in sight.
+    function enterDetail() {
+        detail.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
     Item {
         id: below
         anchors.fill: parent
@@ -67,6 +72,7 @@ Item {
             }
 
             DetailArea {
+                id: detail
                 anchors.left: divider.right
                 anchors.right: parent.right
                 anchors.top: parent.top

@@ -62,7 +62,7 @@ Item {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: 14
-        spacing: 10
+        spacing: 6
 
         AccessCard {
             width: parent.width
@@ -78,6 +78,12 @@ Item {
             symbol: root.screen.aboutSymbol
             text: root.screen.aboutLabel
             onClicked: root.screen.showAbout()
+        }
+        SidebarLink {
+            width: parent.width
+            symbol: "power"
+            text: root.screen.quitLabel
+            onClicked: Qt.quit()
         }
     }
 }

@@ -17,6 +17,7 @@ Window {
     color: Theme.base
 
     ContentView {
+        id: content
         anchors.fill: parent
         screen: root.windowScreen
     }
@@ -37,7 +38,10 @@ Window {
             required property int index
             enabled: root.windowScreen.hasOnboarded
             sequence: "Ctrl+" + (index + 1)
-            onActivated: root.windowScreen.openRow(index)
+            onActivated: {
+                root.windowScreen.openRow(index)
+                content.enterDetail()
+            }
         }
     }
 }

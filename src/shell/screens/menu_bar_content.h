@@ -19,6 +19,7 @@ inline constexpr std::string_view statusItemSymbol = "sparkles";
 inline constexpr std::string_view reclaimedSymbol = "arrow.up.right";
 inline constexpr std::string_view quickScanLabel = "Scan My Mac";
 inline constexpr std::string_view openFullAppLabel = "Open full app";
+inline constexpr std::string_view quitProgramLabel = "Quit Tidewell";
 
 /// The sections that the popover leads to. A card shows its section's title, which is also the name
 /// that the section is opened by, its symbol and its accent.

@@ -33,21 +33,19 @@ MenuBarReadings readDisk(const std::string& home) {
 
 }  // namespace
 
-MenuBarScreen::MenuBarScreen(Application& application, std::shared_ptr<LiveSums> sums,
-                             std::function<void()> close, QObject* parent)
+MenuBarScreen::MenuBarScreen(Application& application, std::function<void()> close, QObject* parent)
     : Screen(parent),
       application_(application),
-      sums_(std::move(sums)),
       close_(std::move(close)),
       readings_(readDisk(application.host.home)),
       cards_(cardKey, cardRoles(), this) {
     cards_.set({quickCards.begin(), quickCards.end()});
-    observe(sums_->willChange);
+    observe(application_.sums->willChange);
     update();
 }
 
 void MenuBarScreen::update() {
-    readings_.totalFreed = sums_->totalFreedBytes();
+    readings_.totalFreed = application_.sums->totalFreedBytes();
     content_ = menuBarContent(readings_);
 }
 

@@ -4,9 +4,7 @@
 #include <QtGui/qcolor.h>
 
 #include <functional>
-#include <memory>
 
-#include "cleanup/live_sums.h"
 #include "kit/qt/list_model.h"
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
@@ -40,8 +38,7 @@ class MenuBarScreen final : public Screen {
  public:
     /// The application outlives it. `close` closes the popover and leaves this alive until the
     /// present turn has ended.
-    MenuBarScreen(Application& application, std::shared_ptr<LiveSums> sums,
-                  std::function<void()> close, QObject* parent = nullptr);
+    MenuBarScreen(Application& application, std::function<void()> close, QObject* parent = nullptr);
 
     QString healthLabel() const { return toText(content_.health.label); }
     QString healthMessage() const { return toText(content_.health.message); }
@@ -68,7 +65,6 @@ class MenuBarScreen final : public Screen {
     void update() override;
 
     Application& application_;
-    const std::shared_ptr<LiveSums> sums_;
     const std::function<void()> close_;
     MenuBarReadings readings_;
     MenuBarContent content_;

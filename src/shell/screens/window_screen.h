@@ -19,6 +19,7 @@
 #include "shell/screens/about_screen.h"
 #include "shell/screens/home_screen.h"
 #include "shell/screens/intro_screen.h"
+#include "shell/screens/menu_bar_content.h"
 #include "shell/screens/onboarding_screen.h"
 #include "shell/screens/smart_scan_screen.h"
 #include "shell/screens/window_content.h"
@@ -53,6 +54,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::AdvisorScreen* advisor READ advisor CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
+    Q_PROPERTY(QString quitLabel READ quitLabel CONSTANT)
     Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
     Q_PROPERTY(QString accessSymbol READ accessSymbol NOTIFY changed)
     Q_PROPERTY(QString enableAccessLabel READ enableAccessLabel CONSTANT)
@@ -83,6 +85,7 @@ class WindowScreen final : public Screen {
     DeepScanScreen* deepScan() { return &deepScan_; }
     AdvisorScreen* advisor() { return &advisor_; }
     static QString title() { return toText(windowTitle); }
+    static QString quitLabel() { return toText(quitProgramLabel); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
     static QString accessLine() { return toText(tidewell::accessLine); }
     QString accessSymbol() const;
