@@ -1,25 +1,46 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
-/// The place of a view that another one follows. A new one fades in, and has the keyboard if the
-/// last one had it.
-Loader {
+/// The place of a view that another one follows. The old one fades out while the new one fades in
+/// and rises a little, and takes no press any more; the new one has the keyboard if the old one had
+/// it.
+FocusScope {
     id: root
 
     property int fadeTime: 180
     property int fadeCurve: Easing.OutCubic
+    /// How far a new view comes up, in points.
+    property real rise: 8
+
+    readonly property Item item: current.item as Item
+    readonly property int leaveTime: Math.min(120, fadeTime)
 
     /// Whether the user is on the way by keyboard, so that a new view shows where it is.
     property bool showsFocus: false
 
+    // The two take turns.
+    property Place current: first
+    property Place other: second
+
+    implicitWidth: item ? item.implicitWidth : 0
+    implicitHeight: item ? item.implicitHeight : 0
     focus: true
-    onLoaded: {
-        if (Motion.hasPassages)
-            fade.restart()
-        const view = item as Item
-        view.focus = true
-        if (activeFocus)
-            view.forceActiveFocus(showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+
+    /// Shows the view of a file, made with the given properties.
+    function show(view: url, given: var) {
+        const hadKeyboard = activeFocus  // which goes with the old one
+        const old = current
+        current = other
+        other = old
+        old.leave()
+        current.come(view, given)
+        if (hadKeyboard)
+            (current.item as Item).forceActiveFocus(showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+    }
+
+    function clear() {
+        current.leave()
     }
 
     Window.onActiveFocusItemChanged: {
@@ -28,13 +49,52 @@ Loader {
             showsFocus = control.visualFocus
     }
 
-    NumberAnimation {
-        id: fade
-        target: root.item
-        property: "opacity"
-        from: 0
-        to: 1
-        duration: root.fadeTime
-        easing.type: root.fadeCurve
+    component Place: Loader {
+        id: place
+
+        property real lift: 0
+
+        anchors.fill: parent
+        transform: Translate { y: place.lift }
+
+        function come(view: url, given: var) {
+            leaving.stop()
+            enabled = true
+            focus = true
+            setSource(view, given)
+            (item as Item).focus = true
+            opacity = 1
+            lift = 0
+            if (root.Motion.hasPassages)
+                coming.restart()
+        }
+
+        function leave() {
+            coming.stop()
+            if (root.Motion.hasPassages && item) {
+                enabled = false
+                leaving.restart()
+            } else {
+                source = ""
+            }
+        }
+
+        ParallelAnimation {
+            id: coming
+            NumberAnimation { target: place; property: "opacity"; from: 0; to: 1; duration: root.fadeTime; easing.type: root.fadeCurve }
+            NumberAnimation { target: place; property: "lift"; from: root.rise; to: 0; duration: root.fadeTime; easing.type: root.fadeCurve }
+        }
+        NumberAnimation {
+            id: leaving
+            target: place
+            property: "opacity"
+            to: 0
+            duration: root.leaveTime
+            easing.type: root.fadeCurve
+            onFinished: place.source = ""
+        }
     }
+
+    Place { id: first }
+    Place { id: second }
 }

@@ -10,9 +10,6 @@ FocusScope {
     /// Runs to its end whatever was freed: it measures nothing.
     property real ringProgress: Motion.hasPassages ? 0 : 1
 
-    implicitWidth: 480
-    implicitHeight: column.implicitHeight
-
     NumberAnimation on ringProgress {
         running: root.Motion.hasPassages
         from: 0
@@ -24,7 +21,8 @@ FocusScope {
     Column {
         id: column
         anchors.horizontalCenter: parent.horizontalCenter
-        width: parent.width
+        y: Math.min(Theme.ringCentre(parent.height) - 95, Math.max(20, parent.height - height - 20))
+        width: 480
         spacing: 0
 
         RingGauge {

@@ -8,7 +8,8 @@ FocusScope {
     required property CleanedScreen screen
 
     Column {
-        anchors.centerIn: parent
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Theme.ringCentre(parent.height) - 95
         visible: root.screen.isCleaning
         spacing: 28
 
@@ -34,15 +35,16 @@ FocusScope {
     ViewLoader {
         readonly property bool isWanted: !root.screen.isCleaning
 
-        anchors.centerIn: parent
-        onIsWantedChanged: show()
-        Component.onCompleted: show()
+        anchors.fill: parent
+        rise: 0  // the ring stays where it is
+        onIsWantedChanged: follow()
+        Component.onCompleted: follow()
 
-        function show() {
+        function follow() {
             if (isWanted)
-                setSource("CleanedResult.qml", {screen: root.screen})
+                show(Qt.resolvedUrl("CleanedResult.qml"), {screen: root.screen})
             else
-                source = ""
+                clear()
         }
     }
 }

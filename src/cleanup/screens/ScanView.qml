@@ -8,8 +8,8 @@ FocusScope {
     required property ScanScreen screen
 
     Column {
-        anchors.centerIn: parent
-        anchors.verticalCenterOffset: -8
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Theme.ringCentre(parent.height) - 100
         spacing: 0
 
         Item {

@@ -7,7 +7,7 @@ FocusScope {
 
     required property PerformanceScreen screen
 
-    readonly property real margin: 34
+    readonly property real margin: Theme.pageMargin(width)
 
     Component.onCompleted: screen.open()
 
@@ -24,16 +24,16 @@ FocusScope {
         readonly property int phase: root.screen.phase
 
         anchors.fill: parent
-        onPhaseChanged: show()
-        Component.onCompleted: show()
+        onPhaseChanged: follow()
+        Component.onCompleted: follow()
 
-        function show() {
+        function follow() {
             if (phase === PerformanceScreen.Idle)
-                setSource("PerformanceStart.qml", {screen: root.screen})
+                show(Qt.resolvedUrl("PerformanceStart.qml"), {screen: root.screen})
             else if (phase === PerformanceScreen.Scanning)
-                setSource("PerformanceScanning.qml", {screen: root.screen})
+                show(Qt.resolvedUrl("PerformanceScanning.qml"), {screen: root.screen})
             else
-                setSource("PerformanceList.qml", {screen: root.screen, margin: root.margin})
+                show(Qt.resolvedUrl("PerformanceList.qml"), {screen: root.screen, margin: root.margin})
         }
     }
 }

@@ -21,14 +21,11 @@ ViewLoader {
     })
     readonly property string wanted: screen.detailView
 
-    onWantedChanged: show()
-    Component.onCompleted: show()
+    onWantedChanged: follow()
+    Component.onCompleted: follow()
 
-    function show() {
-        const view = views[wanted]
-        if (view)
-            setSource(view[0], view[1])
-        else
-            source = ""
+    function follow() {
+        const [view, given] = views[wanted]
+        show(Qt.resolvedUrl(view), given)
     }
 }

@@ -14,14 +14,14 @@ FocusScope {
         anchors.fill: parent
         fadeTime: 350
         fadeCurve: Easing.InOutQuad
-        onShowsSmartScanChanged: show()
-        Component.onCompleted: show()
+        onShowsSmartScanChanged: follow()
+        Component.onCompleted: follow()
 
-        function show() {
+        function follow() {
             if (showsSmartScan)
-                setSource("SmartScanView.qml", {screen: root.smartScan})
+                show(Qt.resolvedUrl("SmartScanView.qml"), {screen: root.smartScan})
             else
-                setSource("HomeOverview.qml", {screen: root.home})
+                show(Qt.resolvedUrl("HomeOverview.qml"), {screen: root.home})
         }
     }
 }

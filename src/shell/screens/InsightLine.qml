@@ -1,16 +1,24 @@
 import QtQuick
 import Tidewell
 
-/// Something worth knowing that a scan found.
+/// Something worth knowing that a scan found. It fades in behind those above it.
 Item {
     id: root
 
     property string symbol
     property string text
-    property real maximumWidth: 600
+    /// How many stand above it.
+    property int order: 0
 
-    implicitWidth: words.x + words.width
+    implicitWidth: words.x + words.implicitWidth
     implicitHeight: 22
+
+    SequentialAnimation on opacity {
+        running: root.Motion.hasPassages
+        PropertyAction { value: 0 }
+        PauseAnimation { duration: 140 * root.order }
+        NumberAnimation { to: 1; duration: 220; easing.type: Easing.OutCubic }
+    }
 
     Symbol {
         id: icon
@@ -21,9 +29,9 @@ Item {
     }
     Label {
         id: words
-        x: icon.width + 9
+        x: 24
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, root.maximumWidth - x)
+        width: root.width - x
         text: root.text
         size: 12.5
         elide: Text.ElideRight

@@ -61,6 +61,7 @@ FocusScope {
                         anchors.horizontalCenter: parent.horizontalCenter
                         visible: text !== ""
                         text: root.screen.centreFigure
+                        moves: root.isRunning
                         size: 30
                         weight: Font.Bold
                         Accessible.ignored: true
@@ -131,23 +132,27 @@ FocusScope {
 
             Item { width: 1; height: 18 }
 
+            // As high as it can get, so that nothing moves when a scan has ended.
             Column {
                 id: insights
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: parent.width
+                height: 3 * 22 + 2 * spacing
                 spacing: 7
 
                 Repeater {
                     model: root.screen.insights
 
                     InsightLine {
+                        required property int index
                         required symbol
                         required text
                         required property sectionPalette accent
 
                         // A row that goes has no parent any more.
                         anchors.horizontalCenter: insights.horizontalCenter
-                        maximumWidth: insights.width
+                        width: Math.min(insights.width, 440)
+                        order: index
                         Ambient.palette: accent
                     }
                 }
@@ -157,10 +162,12 @@ FocusScope {
 
             Row {
                 anchors.horizontalCenter: parent.horizontalCenter
+                height: 44
                 spacing: 12
 
                 GhostPillButton {
                     id: stopButton
+                    anchors.verticalCenter: parent.verticalCenter
                     visible: root.isRunning
                     text: root.screen.stopLabel
                     onClicked: root.screen.stop()
