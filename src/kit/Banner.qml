@@ -32,8 +32,8 @@ Item {
         anchors.fill: parent
         cornerRadius: 15
         shade: 0.6
-        fillTop: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.20))
-        fillBottom: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.13))
+        fillTop: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.18))
+        fillBottom: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.12))
         rim: Theme.withOpacity(root.tint, 0.34)
     }
     MouseArea {

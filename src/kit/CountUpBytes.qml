@@ -41,6 +41,7 @@ Row {
         size: root.size
         weight: root.weight
         color: root.color
+        moves: !root.finished
         Accessible.ignored: true
     }
     Label {

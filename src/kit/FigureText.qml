@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
-/// Text whose digits all take the same width, so that a figure that changes does not shake.
+/// A figure. While it moves its digits all take the same width, so that it does not shake.
 Row {
     id: root
 
@@ -11,6 +11,7 @@ Row {
     property int weight: Font.Normal
     property bool isRounded: false
     property color color: Theme.text
+    property bool moves: false
 
     /// From the top to the line that the figures stand on.
     readonly property real ascent: metrics.ascent
@@ -36,13 +37,13 @@ Row {
     }
 
     Repeater {
-        model: root.text.length
+        model: root.moves ? root.text.length : 1
 
         Item {
             id: cell
 
             required property int index
-            readonly property bool isDigit: glyph.text >= "0" && glyph.text <= "9"
+            readonly property bool isDigit: root.moves && glyph.text >= "0" && glyph.text <= "9"
 
             width: isDigit ? root.digitWidth : glyph.implicitWidth
             height: glyph.height
@@ -50,11 +51,12 @@ Row {
             Label {
                 id: glyph
                 anchors.horizontalCenter: parent.horizontalCenter
-                text: root.text.charAt(cell.index)
+                text: root.moves ? root.text.charAt(cell.index) : root.text
                 size: root.size
                 weight: root.weight
                 isRounded: root.isRounded
                 color: root.color
+                font.letterSpacing: root.moves || root.size < 20 ? 0 : -0.02 * root.size
                 Accessible.ignored: true
             }
         }

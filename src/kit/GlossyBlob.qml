@@ -41,6 +41,7 @@ Item {
         readonly property color deep: root.sectionPalette.deep
         readonly property color primary: root.sectionPalette.primary
         readonly property color soft: root.sectionPalette.soft
+        readonly property color core: Theme.discCore(root.sectionPalette)
         readonly property real extent: width
         readonly property real diameter: root.size
         readonly property real spread: 0.28 * root.size
@@ -61,7 +62,7 @@ Item {
         visible: root.GraphicsInfo.api === GraphicsInfo.Software
         radius: root.size / 2
         gradient: Gradient {
-            GradientStop { position: 0; color: root.sectionPalette.primary }
+            GradientStop { position: 0; color: Theme.discCore(root.sectionPalette) }
             GradientStop { position: 1; color: root.sectionPalette.deep }
         }
     }

@@ -22,8 +22,8 @@ Item {
         cornerRadius: root.cornerRadius
         reach: 44
         glow: Theme.withOpacity(root.glow, (root.featured ? 0.16 : 0.06) + 0.10 * root.lift)
-        fillTop: Qt.rgba(0.098, 0.114, 0.108, root.vivid ? 0.90 : 0.82)
-        fillBottom: Qt.rgba(0.052, 0.062, 0.058, root.vivid ? 0.92 : 0.86)
+        fillTop: Theme.withOpacity(Theme.panelTop(root.glow), root.vivid ? 0.90 : 0.82)
+        fillBottom: Theme.withOpacity(Theme.panelBottom(root.glow), root.vivid ? 0.92 : 0.86)
         rim: Qt.rgba(1, 1, 1, (root.featured ? 0.16 : 0.07) + 0.06 * root.lift)
         cornerLight: (root.vivid ? 1 : 0.45) + 0.25 * root.lift
     }

@@ -8,6 +8,8 @@ InfoPill {
     property string label
     property color tint
 
+    color: Theme.withOpacity(tint, 0.14)
+    border.color: Theme.withOpacity(tint, 0.34)
     Accessible.role: Accessible.StaticText
     Accessible.name: label
 

@@ -23,7 +23,7 @@ Pressable {
             anchors.centerIn: parent
             symbol: root.symbol
             size: Math.round(root.size * 0.54)
-            tint: Theme.withOpacity(root.tint, 0.80 + 0.20 * root.lift)
+            tint: Theme.withOpacity(root.tint, 0.90 + 0.10 * root.lift)
         }
     }
 

@@ -30,7 +30,7 @@ GhostPillButton {
 
         background: Rectangle {
             radius: 13
-            color: "#171c1a"
+            color: Theme.panelTop(root.Ambient.palette.primary)
             border.width: 1
             border.color: Qt.rgba(1, 1, 1, 0.13)
         }

@@ -15,18 +15,19 @@ T.Popup {
     /// What has the keyboard as soon as the card is there.
     property Item firstFocus
     property Item lastFocus
+    property double shownAt: 0
 
     signal confirmed()
     signal cancelled()
 
     /// For what cannot be taken back: not as soon as the card has come under the pointer.
     function confirm() {
-        if (!settling.running)
+        if (Math.abs(Date.now() - shownAt) >= Kit.settlingTime)
             confirmed()
     }
 
     onAboutToShow: {
-        settling.restart()
+        shownAt = Date.now()
         if (!lastFocus)  // it may be on its way out
             lastFocus = parent.Window.activeFocusItem
         if (firstFocus)
@@ -63,8 +64,8 @@ T.Popup {
         cornerRadius: 22
         reach: 60
         shade: 0.7
-        fillTop: "#1a201e"
-        fillBottom: "#101413"
+        fillTop: Theme.panelTop(root.sectionPalette.primary)
+        fillBottom: Theme.panelBottom(root.sectionPalette.primary)
         rim: Qt.rgba(1, 1, 1, 0.13)
         glow: Theme.withOpacity(root.sectionPalette.primary, 0.10)
         cornerLight: 0.5
@@ -75,10 +76,5 @@ T.Popup {
         Accessible.role: Accessible.Dialog
         Accessible.name: root.title
         Keys.onEscapePressed: root.cancelled()
-
-        Timer {
-            id: settling
-            interval: Kit.settlingTime
-        }
     }
 }

@@ -17,7 +17,7 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : Theme.disabledOpacity
     scale: pressed ? pressedScale : 1
 
     Accessible.name: text

@@ -10,6 +10,8 @@ FocusScope {
     property string line
     property string buttonLabel
     property string buttonSymbol
+    /// Between the words and the button.
+    property alias between: slot.data
 
     signal started()
 
@@ -50,6 +52,11 @@ FocusScope {
             lineHeight: 1.25
             color: Theme.secondary
             wrapMode: Text.Wrap
+        }
+        Column {
+            id: slot
+            anchors.horizontalCenter: parent.horizontalCenter
+            topPadding: childrenRect.height > 0 ? 24 : 0
         }
         Item { width: 1; height: 30 }
         PillButton {

@@ -7,7 +7,7 @@ Rectangle {
 
     property string text
     property color tint: Ambient.palette.primary
-    property color textColor: tint
+    property color textColor: Theme.ink(tint)
     property real strength: 0.18
 
     implicitWidth: label.implicitWidth + 14

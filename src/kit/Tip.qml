@@ -22,7 +22,7 @@ T.ToolTip {
     }
     background: Rectangle {
         radius: 9
-        color: Qt.rgba(0.11, 0.13, 0.125, 0.97)
+        color: Theme.panelTop(root.parent ? root.parent.Ambient.palette.primary : Theme.base)
         border.width: 1
         border.color: Qt.rgba(1, 1, 1, 0.14)
     }

@@ -62,7 +62,7 @@ GlowCard {
             }
         }
         Label {
-            width: parent.width
+            width: Math.min(Theme.longestLine, parent.width)
             text: root.body
             size: 12.5
             lineHeight: 1.25

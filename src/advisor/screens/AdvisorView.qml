@@ -8,7 +8,7 @@ FocusScope {
 
     required property AdvisorScreen screen
 
-    readonly property real margin: 34
+    readonly property real margin: Theme.pageMargin(width)
     readonly property bool isList: screen.phase === AdvisorScreen.List
 
     Component.onCompleted: screen.open()

@@ -116,7 +116,7 @@ Rectangle {
             visible: root.mark !== ""
             text: root.mark
             tint: root.isUnused ? Theme.caution : Theme.text
-            textColor: root.isUnused ? Theme.caution : Qt.rgba(1, 1, 1, 0.55)
+            textColor: root.isUnused ? Theme.caution : Theme.secondary
             strength: root.isUnused ? 0.16 : 0.10
         }
     }

@@ -10,7 +10,7 @@ FocusScope {
 
     required property AppsScreen screen
 
-    readonly property real margin: 34
+    readonly property real margin: Theme.pageMargin(width)
     readonly property bool isList: screen.phase === AppsScreen.List
 
     Component.onCompleted: screen.open()
@@ -141,7 +141,7 @@ FocusScope {
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24 + banner.room
             visible: root.screen.isHuntingLeftovers
-            color: "#1c2421"
+            color: Theme.panelTop(root.Ambient.palette.primary)
 
             Spinner {
                 anchors.verticalCenter: parent.verticalCenter

@@ -27,17 +27,17 @@ Pressable {
     background: Rectangle {
         radius: root.cornerRadius
         border.width: 1
-        border.color: root.isOn ? Theme.withOpacity(root.accent, 0.42 + 0.20 * root.lift)
+        border.color: root.isOn ? Theme.withOpacity(root.accent, 0.22 + 0.20 * root.lift)
                                 : Qt.rgba(1, 1, 1, 0.05 + 0.08 * root.lift)
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: root.isOn ? Theme.withOpacity(root.accent, 0.125 + 0.04 * root.lift)
+                color: root.isOn ? Theme.withOpacity(root.accent, 0.070 + 0.04 * root.lift)
                                  : Qt.rgba(1, 1, 1, 0.050 + 0.03 * root.lift)
             }
             GradientStop {
                 position: 1
-                color: root.isOn ? Theme.withOpacity(root.accent, 0.065 + 0.03 * root.lift)
+                color: root.isOn ? Theme.withOpacity(root.accent, 0.038 + 0.03 * root.lift)
                                  : Qt.rgba(1, 1, 1, 0.030 + 0.02 * root.lift)
             }
         }
@@ -45,6 +45,17 @@ Pressable {
 
     contentItem: Item {
         implicitHeight: column.implicitHeight
+
+        // An edge for what is not to be ticked without a look.
+        Rectangle {
+            x: -root.leftPadding + 1
+            anchors.verticalCenter: parent.verticalCenter
+            width: 3
+            height: parent.height
+            radius: 1.5
+            visible: root.badge !== ""
+            color: Theme.caution
+        }
 
         CheckControl {
             id: check

@@ -44,6 +44,7 @@ RingGauge {
         FigureText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.percent
+            moves: true
             size: 38
             weight: Font.Bold
             Accessible.ignored: true

@@ -8,7 +8,7 @@ FocusScope {
 
     required property ReviewScreen screen
 
-    readonly property real margin: 34
+    readonly property real margin: Theme.pageMargin(width)
 
     Component.onCompleted: screen.open()
 

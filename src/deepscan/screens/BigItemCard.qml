@@ -26,7 +26,7 @@ Rectangle {
 
     readonly property real lift: hover.hovered ? 1 : 0
 
-    implicitHeight: words.implicitHeight + 28
+    implicitHeight: Math.max(88, words.implicitHeight + 28)
     radius: 15
     border.width: 1
     border.color: Qt.rgba(1, 1, 1, 0.06 + 0.08 * lift)
@@ -51,34 +51,29 @@ Rectangle {
         id: words
         anchors.left: icon.right
         anchors.leftMargin: 14
-        anchors.right: parent.right
-        anchors.rightMargin: 16
-        y: 14
-        spacing: 4
+        anchors.right: side.left
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 3
 
-        Item {
+        Row {
             width: parent.width
-            height: name.height
+            spacing: 8
 
             Label {
-                id: name
-                anchors.left: parent.left
-                anchors.right: figure.left
-                anchors.rightMargin: 14
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, parent.width - mark.width - parent.spacing)
                 text: root.title
                 size: 14
                 weight: Font.DemiBold
                 elide: Text.ElideMiddle
                 Accessible.ignored: true
             }
-            FigureText {
-                id: figure
-                anchors.right: parent.right
-                anchors.verticalCenter: name.verticalCenter
-                text: root.size
-                size: 14
-                weight: Font.Bold
-                Accessible.ignored: true
+            Tag {
+                id: mark
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.badge
+                tint: root.badgeColor
             }
         }
         Label {
@@ -91,8 +86,7 @@ Rectangle {
             Accessible.ignored: true
         }
         Label {
-            width: parent.width
-            topPadding: 3
+            width: Math.min(Theme.longestLine, parent.width)
             text: root.note
             size: 12
             lineHeight: 1.15
@@ -100,49 +94,56 @@ Rectangle {
             wrapMode: Text.Wrap
             Accessible.ignored: true
         }
-        Item {
-            width: parent.width
-            height: buttons.height + 6
+    }
+    Item {
+        id: side
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        y: 14
+        width: Math.max(figure.width, buttons.width)
+        height: parent.height - 28
 
-            Tag {
-                anchors.verticalCenter: buttons.verticalCenter
-                text: root.badge
-                tint: root.badgeColor
+        FigureText {
+            id: figure
+            anchors.right: parent.right
+            text: root.size
+            size: 14
+            weight: Font.Bold
+            Accessible.ignored: true
+        }
+        Row {
+            id: buttons
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            spacing: 8
+
+            SmallButton {
+                id: command
+                anchors.verticalCenter: parent.verticalCenter
+                visible: text !== ""
+                text: root.commandLabel
+                description: root.commandHelp
+                onClicked: root.copied()
+
+                Tip {
+                    text: root.commandHelp
+                    visible: command.hovered
+                }
             }
-            Row {
-                id: buttons
-                anchors.right: parent.right
-                anchors.bottom: parent.bottom
-                spacing: 8
-
-                SmallButton {
-                    id: command
-                    anchors.verticalCenter: parent.verticalCenter
-                    visible: text !== ""
-                    text: root.commandLabel
-                    description: root.commandHelp
-                    onClicked: root.copied()
-
-                    Tip {
-                        text: root.commandHelp
-                        visible: command.hovered
-                    }
-                }
-                IconButton {
-                    anchors.verticalCenter: parent.verticalCenter
-                    symbol: root.revealSymbol
-                    text: root.revealHelp
-                    description: root.title
-                    onClicked: root.revealed()
-                }
-                IconButton {
-                    anchors.verticalCenter: parent.verticalCenter
-                    visible: root.trashHelp !== ""
-                    symbol: root.trashSymbol
-                    tint: Theme.destructive
-                    text: root.trashHelp
-                    onClicked: root.trashed()
-                }
+            IconButton {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: root.revealSymbol
+                text: root.revealHelp
+                description: root.title
+                onClicked: root.revealed()
+            }
+            IconButton {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.trashHelp !== ""
+                symbol: root.trashSymbol
+                tint: Theme.destructive
+                text: root.trashHelp
+                onClicked: root.trashed()
             }
         }
     }

@@ -8,7 +8,7 @@ FocusScope {
 
     required property DevModeScreen screen
 
-    readonly property real margin: 34
+    readonly property real margin: Theme.pageMargin(width)
 
     ScreenHeader {
         anchors.left: parent.left

@@ -55,15 +55,12 @@ FocusScope {
         title: root.screen.doneTitle
         buttonLabel: root.screen.doneLabel
         onStarted: root.screen.finish()
-    }
-    FailureNote {
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.top: done.bottom
-        anchors.topMargin: 26
-        width: 440
-        visible: done.visible && text !== ""
-        symbol: root.screen.failureSymbol
-        title: root.screen.failureTitle
-        text: root.screen.failureNote
+        between: FailureNote {
+            width: 440
+            visible: text !== ""
+            symbol: root.screen.failureSymbol
+            title: root.screen.failureTitle
+            text: root.screen.failureNote
+        }
     }
 }

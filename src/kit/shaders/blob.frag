@@ -12,6 +12,7 @@ layout(std140, binding = 0) uniform buf {
     vec4 deep;
     vec4 primary;
     vec4 soft;
+    vec4 core;       // behind the symbol
     float extent;    // of the item, in points
     float diameter;  // of the sphere, in points
     float spread;    // of the light around it, in points
@@ -25,8 +26,10 @@ vec3 sphere(vec2 u, float r) {
     vec3 rgb = light < 0.55 ? mix(deep.rgb * 0.85, primary.rgb, light / 0.55)
                             : mix(primary.rgb, soft.rgb, (light - 0.55) / 0.45);
 
+    rgb = mix(rgb, core.rgb, 0.92 * (1.0 - smoothstep(0.42, 0.98, r)));
+
     float cap = 1.0 - smoothstep(0.55, 0.80, length((u - vec2(0.0, -0.42)) / vec2(1.02, 0.72)));
-    rgb += cap * smoothstep(0.12, -0.95, u.y) * 0.26;
+    rgb += cap * smoothstep(-0.30, -1.0, u.y) * 0.26;
     rgb += soft.rgb * smoothstep(0.72, 1.0, r) * smoothstep(-0.1, 0.9, u.y) * 0.42;
     vec2 fromSpot = u - vec2(-0.36, -0.56);
     rgb += exp(-dot(fromSpot, fromSpot) * 26.0) * 0.34;

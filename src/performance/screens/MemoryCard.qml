@@ -62,7 +62,7 @@ GlowCard {
             Accessible.ignored: true
         }
         Label {
-            width: parent.width
+            width: Math.min(Theme.longestLine, parent.width)
             topPadding: 8
             text: root.screen.memoryFootnote
             size: 12

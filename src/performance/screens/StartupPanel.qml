@@ -13,7 +13,7 @@ Item {
         id: explanation
         x: root.margin
         y: 24
-        width: parent.width - 2 * root.margin
+        width: Math.min(Theme.longestLine, parent.width - 2 * root.margin)
         text: root.screen.startupExplanation
         size: 13
         lineHeight: 1.25

@@ -8,11 +8,15 @@ GlowCard {
 
     required property HomeScreen screen
 
+    /// With room for more, the gauge is larger.
+    readonly property bool isLarge: width > 1000
+
+    Ambient.palette: screen.healthShades
     padding: 26
     vivid: true
     featured: true
     cornerRadius: 24
-    implicitHeight: 218
+    implicitHeight: isLarge ? 276 : 236
 
     Label {
         id: caption
@@ -31,8 +35,17 @@ GlowCard {
         target: root.screen.freeBytes
         size: 54
     }
-    Row {
+    Label {
+        id: health
         anchors.top: figure.bottom
+        anchors.topMargin: 1
+        text: root.screen.healthMessage
+        size: 12.5
+        weight: Font.Medium
+        color: Ambient.palette.soft
+    }
+    Row {
+        anchors.top: health.bottom
         anchors.topMargin: 4
         spacing: 7
 
@@ -87,7 +100,7 @@ GlowCard {
         anchors.right: parent.right
         anchors.rightMargin: 4
         anchors.verticalCenter: parent.verticalCenter
-        diameter: 182
+        diameter: root.isLarge ? 224 : 190
         used: root.screen.usedFraction
         Accessible.ignored: false
         Accessible.role: Accessible.ProgressBar

@@ -8,7 +8,7 @@ FocusScope {
 
     required property HomeScreen screen
 
-    readonly property real margin: 34
+    readonly property real margin: Theme.pageMargin(width)
 
     Component.onCompleted: screen.open()
 
@@ -36,12 +36,6 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 label: root.screen.healthLabel
                 tint: root.screen.healthColor
-
-                Tip {
-                    text: root.screen.healthMessage
-                    visible: healthHover.hovered
-                }
-                HoverHandler { id: healthHover }
             }
             PillButton {
                 focus: true

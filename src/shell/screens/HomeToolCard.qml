@@ -9,7 +9,7 @@ Pressable {
     property string lines
     property string value
 
-    implicitHeight: 112
+    implicitHeight: 108
     padding: 20
     cornerRadius: 20
     pressedScale: 0.985

@@ -41,6 +41,19 @@ std::vector<ListModel<Tool>::Role> toolRoles() {
     };
 }
 
+Color between(const Color& from, const Color& to, double share) {
+    return {.red = from.red + (to.red - from.red) * share,
+            .green = from.green + (to.green - from.green) * share,
+            .blue = from.blue + (to.blue - from.blue) * share};
+}
+
+/// A colour with the shades that go with it.
+SectionPalette shadesOf(const Color& color) {
+    return {.primary = color,
+            .soft = between(color, whiteAt(1), 0.42),
+            .deep = between(color, Color{}, 0.48)};
+}
+
 }  // namespace
 
 HomeScreen::HomeScreen(std::shared_ptr<ContentView> view, QObject* parent)
@@ -53,6 +66,10 @@ HomeScreen::HomeScreen(std::shared_ptr<ContentView> view, QObject* parent)
     observe(view_->permissions->willChange);
     observe(view_->sums->willChange);
     update();
+}
+
+PaletteValue HomeScreen::healthShades() const {
+    return PaletteValue(shadesOf(view_->theme->palette().healthRGB));
 }
 
 void HomeScreen::open() {

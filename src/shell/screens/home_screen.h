@@ -24,6 +24,7 @@ class HomeScreen final : public Screen {
     Q_PROPERTY(QString healthLabel READ healthLabel NOTIFY changed)
     Q_PROPERTY(QString healthMessage READ healthMessage NOTIFY changed)
     Q_PROPERTY(QColor healthColor READ healthColor NOTIFY changed)
+    Q_PROPERTY(tidewell::PaletteValue healthShades READ healthShades NOTIFY changed)
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed)
     Q_PROPERTY(double usedFraction READ usedFraction NOTIFY changed)
     Q_PROPERTY(QString usedPercent READ usedPercent NOTIFY changed)
@@ -54,6 +55,7 @@ class HomeScreen final : public Screen {
     QString healthLabel() const { return toText(view_->theme->palette().label); }
     QString healthMessage() const { return toText(view_->theme->palette().message); }
     QColor healthColor() const { return toQColor(view_->theme->palette().healthRGB); }
+    PaletteValue healthShades() const;
     double freeBytes() const { return static_cast<double>(content_.freeBytes); }
     double usedFraction() const { return content_.usedFraction; }
     QString usedPercent() const { return toText(content_.usedPercent); }
