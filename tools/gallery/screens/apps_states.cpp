@@ -50,7 +50,8 @@ const std::vector<ScreenState> states = {
                                                               .movedCount = 4,
                                                               .freedBytes = 812 * megabyte,
                                                               .failed = {},
-                                                              .appBundleMoved = true};
+                                                              .appBundleMoved = true,
+                                                              .moved = {}};
      }},
     {"apps-not-moved",
      [](Sample& sample) {
@@ -60,7 +61,8 @@ const std::vector<ScreenState> states = {
                              .movedCount = 0,
                              .freedBytes = 0,
                              .failed = {"Film Cutter is still running. Quit it and try again"},
-                             .appBundleMoved = false};
+                             .appBundleMoved = false,
+                             .moved = {}};
      }},
     {"apps-uninstall",
      [](Sample& sample) {
