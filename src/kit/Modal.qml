@@ -15,6 +15,7 @@ T.Popup {
     /// What has the keyboard as soon as the card is there.
     property Item firstFocus
     property Item lastFocus
+    property int lastReason: Qt.OtherFocusReason
     property double shownAt: 0
 
     signal confirmed()
@@ -28,14 +29,16 @@ T.Popup {
 
     onAboutToShow: {
         shownAt = Date.now()
-        if (!lastFocus)  // it may be on its way out
+        if (!lastFocus) {  // it may be on its way out
             lastFocus = parent.Window.activeFocusItem
+            lastReason = (lastFocus as Pressable)?.focusReason ?? Qt.OtherFocusReason
+        }
         if (firstFocus)
             firstFocus.forceActiveFocus()
     }
     onClosed: {
         if (lastFocus)
-            lastFocus.forceActiveFocus()
+            lastFocus.forceActiveFocus(lastReason)
         lastFocus = null
     }
 

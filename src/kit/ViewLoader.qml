@@ -34,9 +34,8 @@ FocusScope {
         current = other
         other = old
         old.leave()
+        current.hasKeyboard = hadKeyboard
         current.come(view, given)
-        if (hadKeyboard)
-            (current.item as Item).forceActiveFocus(showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
     }
 
     function clear() {
@@ -53,16 +52,22 @@ FocusScope {
         id: place
 
         property real lift: 0
+        property bool hasKeyboard: false
 
         anchors.fill: parent
         transform: Translate { y: place.lift }
+        onLoaded: {
+            const view = item as Item
+            view.focus = true
+            if (hasKeyboard || root.activeFocus)
+                view.forceActiveFocus(root.showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
+        }
 
         function come(view: url, given: var) {
             leaving.stop()
             enabled = true
             focus = true
             setSource(view, given)
-            (item as Item).focus = true
             opacity = 1
             lift = 0
             if (root.Motion.hasPassages)
