@@ -326,7 +326,8 @@ TEST(CountUpBytes, EasesOutAndFollowsItsTarget) {
 TEST(FigureText, GivesEveryDigitTheSameWidthWhileItMoves) {
     Stage stage;
     const auto width = [&stage](const char* text) {
-        return stage.put(QString("FigureText { moves: true; size: 30; text: '%1' }").arg(text))->implicitWidth();
+        return stage.put(QString("FigureText { moves: true; size: 30; text: '%1' }").arg(text))
+            ->implicitWidth();
     };
     EXPECT_DOUBLE_EQ(width("1111"), width("0847"));
     EXPECT_LT(width("111."), width("1111"));
