@@ -9,6 +9,7 @@
 #include "cleanup/kept_places.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
+#include "platform/trash.h"
 
 namespace tidewell {
 
@@ -39,6 +40,17 @@ std::vector<std::string> realScratchFolders(const std::vector<std::string>& root
             found.push_back(std::move(*real));
     }
     return found;
+}
+
+/// Where everything may go: scratch folders, and those of the user's own Trashes that no other rule
+/// opens, since they lie on other disks.
+std::vector<std::string> openRoots(const Host& host) {
+    auto roots = deletableRoots(host);
+    const auto kept = keptEntries(host);
+    for (auto& folder : trashFolders(host))
+        if (!allows(deletionRule(folder, host.home, roots, kept)))
+            roots.push_back(std::move(folder));
+    return roots;
 }
 
 }  // namespace
@@ -100,7 +112,7 @@ struct DeletionGuard::View {
 
 DeletionGuard::DeletionGuard(const Host& host)
     : host_(host),
-      roots_(deletableRoots(host)),
+      roots_(openRoots(host)),
       realRoots_(realScratchFolders(roots_, keptEntries(host))) {}
 
 DeletionRule DeletionGuard::verdict(const std::string& path) const {

@@ -19,7 +19,7 @@ struct KeptEntries;
 /// The rule of the deletion guard that decided about a path.
 enum class DeletionRule {
     protectedPath,   ///< keys and credentials: never
-    deletableRoot,   ///< scratch space: yes
+    deletableRoot,   ///< scratch space, and what lies in the Trash: yes
     outsideHome,     ///< outside the home folder, or that folder itself: never
     openFolder,      ///< in the home folder, outside the personal folders: yes
     buildFolder,     ///< in a personal folder, inside build output: yes

@@ -492,6 +492,9 @@ TEST(DesktopTrash, OfAnotherVolumeIsTheSharedOneWhereThatIsSafe) {
             ASSERT_NE(foreign, items.end());
             desktop.expectStaysInTrash(*foreign, "The Trash does not say where it came from.");
         }
+        EXPECT_FALSE(empty(desktop, own + "/files").failedTitle);
+        EXPECT_TRUE(fs::is_empty(desktop.path(own + "/files")));
+        EXPECT_TRUE(fs::is_empty(desktop.path(own + "/info")));
         auto elsewhere = *desktop.trash(top + "elsewhere").moved;
         elsewhere.origin = desktop.machine.root() + "/outside";
         desktop.expectStaysInTrash(elsewhere,
