@@ -128,7 +128,7 @@ TEST_F(SingleInstanceTest, WithoutDescriptorsTheFirstRestsAndHearsTheMessageLate
     ::setrlimit(RLIMIT_NOFILE, &usual);
     EXPECT_EQ(heard.get_future().get(), "x");
     EXPECT_TRUE(later.succeeded());
-    EXPECT_LT(spent, CLOCKS_PER_SEC / 5) << "it went round and round";
+    EXPECT_LT(spent, CLOCKS_PER_SEC / 100) << "it went round and round";
 }
 
 TEST_F(SingleInstanceTest, AMessageThatIsTooLongIsNotTaken) {
