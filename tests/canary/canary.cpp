@@ -21,9 +21,16 @@ using namespace tidewell::test;
 
 namespace fs = std::filesystem;
 
-constexpr Verb verbs[] = {
-    Verb::clean, Verb::cleanAmongOthers, Verb::cleanAmongOthers, Verb::cleanKilled, Verb::dev,
-    Verb::trash, Verb::uninstall,        Verb::uninstallKilled};
+constexpr Verb verbs[] = {Verb::clean,
+                          Verb::cleanAmongOthers,
+                          Verb::cleanStolenFrom,
+                          Verb::cleanStolenFrom,
+                          Verb::cleanKilled,
+                          Verb::cleanAtHome,
+                          Verb::dev,
+                          Verb::trash,
+                          Verb::uninstall,
+                          Verb::uninstallKilled};
 
 struct Call {
     std::string program;
@@ -73,8 +80,9 @@ Findings tryMachine(Trial& trial, unsigned seed, bool mounts) {
 }
 
 bool hasProvenSomething(const Trial::Tally& tally, unsigned machines) {
-    return machines < 50 || (tally.removedEntries > 0 && tally.trashed > 0 &&
-                             tally.uninstalled > 0 && tally.swaps > 0 && tally.kills > 0);
+    return machines < 50 ||
+           (tally.removedEntries > 0 && tally.trashed > 0 && tally.uninstalled > 0 &&
+            tally.swaps > 0 && tally.thefts > 0 && tally.kills > 0);
 }
 
 }  // namespace
@@ -100,7 +108,8 @@ int main(int count, char** words) {
     const auto& tally = trial.tally();
     std::cout << "canary: removed " << tally.removedEntries << " entries with " << tally.freedBytes
               << " bytes, moved " << tally.trashed << " items and " << tally.uninstalled
-              << " applications to the Trash, met " << tally.swaps << " swaps, was killed "
-              << tally.kills << " times; " << bad << " machines with losses\n";
+              << " applications to the Trash, met " << tally.swaps << " swaps and " << tally.thefts
+              << " thefts, was killed " << tally.kills << " times; " << bad
+              << " machines with losses\n";
     return bad == 0 && hasProvenSomething(tally, call.machines) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

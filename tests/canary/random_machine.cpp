@@ -39,9 +39,10 @@ constexpr std::array<const char*, 10> oddNames = {
 };
 
 /// The user's own, at places and under names that resemble what is cleaned.
-constexpr std::array<const char*, 15> treasurePaths = {
+constexpr std::array<const char*, 16> treasurePaths = {
     "~/Documents/Thesis/thesis.tex",
     "~/Documents/Thesis/figures/one.pdf",
+    "~/Documents/Thesis/caches/results.csv",
     "~/Documents/build/my only novel.txt",
     "~/Documents/target/goals 2027.txt",
     "~/Documents/caches/list of caches.txt",
@@ -86,6 +87,7 @@ constexpr std::array<const char*, 3> projectMarkers = {"package.json", "Makefile
 RandomMachine::RandomMachine(unsigned seed, User wantedUser,
                              const std::vector<std::string>& cataloguePaths)
     : user(wantedUser), chance(seed) {
+    if (chance.percent(25)) keepDocumentsElsewhere();
     layOutTreasures();
     layOutKeys();
     layOutProjects();
@@ -104,6 +106,12 @@ RandomMachine::~RandomMachine() {
     for (const auto& place : mounts) ::umount2(place.c_str(), MNT_DETACH);
 }
 
+/// As people do whose folders are kept in step with another machine's.
+void RandomMachine::keepDocumentsElsewhere() {
+    machine.folder("~/Sync/Documents");
+    machine.link("~/Documents", "Sync/Documents");
+}
+
 void RandomMachine::layOutTreasures() {
     for (const char* path : treasurePaths) keep(path, std::string("only copy of ") + path);
 }
@@ -114,6 +122,15 @@ void RandomMachine::layOutKeys() {
                                                    "~/.npm/vault/", "~/.gradle/caches/vault/"};
     for (const auto& [path, file] : keys) {
         if (chance.percent(30)) continue;
+        const bool isFolder = *file != '\0';
+        if (isFolder && chance.percent(20)) {
+            // The folder stays, and what it holds is a link to a place among the caches.
+            const auto place = chance.oneOf(places) + std::to_string(chance.below(1000)) + file;
+            keep(place, std::string("secret of ") + path);
+            machine.link(path + std::string(file), machine.path(place));
+            treasures.push_back(machine.path(path + std::string(file)));
+            continue;
+        }
         if (chance.percent(60)) {
             keep(path + std::string(file), std::string("secret of ") + path);
             continue;
@@ -129,11 +146,19 @@ void RandomMachine::layOutCaches(const std::vector<std::string>& cataloguePaths)
     // A cache that is there on every machine, so that each has something to clean.
     machine.file("~/.npm/_cacache/one", 64 * kilobyte);
     fill(machine.path("~/.npm/_cacache"), 3);
+    if (chance.percent(40)) layOutPrey();
     for (std::size_t i = 0; i < 14; ++i) layOutCache(chance.oneOf(cataloguePaths));
     for (const char* swept : {"~/.cache", "~/Library/Caches"})
         for (std::size_t i = chance.below(4); i > 0; --i)
             layOutCache(swept + std::string("/com.example.") + std::to_string(chance.below(99)));
     fill(machine.path("/var/folders/zz/ada/T"), 2);
+}
+
+/// Large enough that somebody can take it away while it is emptied.
+void RandomMachine::layOutPrey() {
+    prey = machine.path("~/.npm/_cacache/prey");
+    fs::create_directories(prey);
+    for (std::size_t i = 0; i < preySize; ++i) std::ofstream(prey + "/" + std::to_string(i));
 }
 
 void RandomMachine::layOutCache(const std::string& place) {
@@ -143,6 +168,11 @@ void RandomMachine::layOutCache(const std::string& place) {
     const auto parent = fs::path(path).parent_path();
     // The disk was full, and somebody moved the folder away and left a link.
     if (chance.percent(12) && !fs::exists(fs::symlink_status(parent, ignored))) {
+        if (chance.percent(30)) {
+            fs::create_directories(parent.parent_path(), ignored);
+            fs::create_symlink(machine.path("~/Documents"), parent, ignored);
+            return;
+        }
         const bool isPersonal = chance.percent(60);
         const auto moved =
             (isPersonal ? "~/Documents/Moved/" : "~/Moved/") + std::to_string(chance.below(1000));
@@ -208,21 +238,34 @@ void RandomMachine::layOutApplications() {
     fill(machine.path("~/Library/Application Support/com.example.notes"), 2);
 }
 
-/// What is mounted inside a cache is another disk, or another place of this one.
+/// What is mounted inside a cache, or where one is expected, is another disk, or another place of
+/// this one.
 void RandomMachine::mountSome() {
-    for (const char* place : {"~/.npm/_cacache/disk", "~/Library/Caches/com.example.disk/files"}) {
+    constexpr std::array<const char*, 4> places = {"~/.npm/_cacache/disk",
+                                                   "~/Library/Caches/com.example.disk/files",
+                                                   "~/.gradle", "~/.bundle"};
+    for (const char* place : places) {
         if (chance.percent(50)) continue;
         machine.folder(place);
         const auto where = machine.path(place);
-        const bool isMounted = chance.percent(50)
-                                   ? ::mount(machine.path("~/Documents/Thesis").c_str(),
-                                             where.c_str(), nullptr, MS_BIND, nullptr) == 0
-                                   : ::mount("none", where.c_str(), "tmpfs", 0, "size=1m") == 0;
-        if (!isMounted) continue;
+        if (chance.percent(60) ? !mountDocuments(where)
+                               : ::mount("none", where.c_str(), "tmpfs", 0, "size=1m") != 0)
+            continue;
         mounts.push_back(where);
         std::ofstream(where + "/on the other disk") << "kept there";
-        treasures.push_back(where);
+        treasures.push_back(where + "/on the other disk");
     }
+}
+
+/// All of them, or a part that no other name tells apart from what is expected there. The projects
+/// among them may lose what they have built, by whatever name.
+bool RandomMachine::mountDocuments(const std::string& where) {
+    const std::string source = chance.percent(50) ? "~/Documents/Thesis" : "~/Documents";
+    const auto real = machine.path(source);
+    if (::mount(real.c_str(), where.c_str(), nullptr, MS_BIND, nullptr) != 0) return false;
+    for (const std::string path : treasurePaths)
+        if (path.starts_with(source + "/")) treasures.push_back(where + path.substr(source.size()));
+    return true;
 }
 
 void RandomMachine::fillDiskOfSettings() {

@@ -50,10 +50,14 @@ struct RandomMachine {
     /// stay as they are.
     std::vector<std::string> treasures;
     std::vector<std::string> mounts;
+    /// A folder in a cache with so many files and nothing else; empty if there is none.
+    std::string prey;
+    static constexpr std::size_t preySize = 3000;
     /// How many descriptors the program may have open.
     int descriptors = 1024;
 
  private:
+    void keepDocumentsElsewhere();
     void layOutTreasures();
     void layOutKeys();
     void layOutCaches(const std::vector<std::string>& cataloguePaths);
@@ -61,10 +65,12 @@ struct RandomMachine {
     void layOutBigItems();
     void layOutApplications();
     void mountSome();
+    bool mountDocuments(const std::string& where);
     void fillDiskOfSettings();
     void giveToUser() const;
 
     void keep(std::string_view machinePath, std::string_view content);
+    void layOutPrey();
     void layOutCache(const std::string& place);
     /// Fills a folder of the disk with so many levels of what folders hold, and worse.
     void fill(const std::string& folder, int levels);

@@ -48,6 +48,15 @@ bool isIn(const std::string& path, const std::string& folder) {
     return path.starts_with(folder + "/");
 }
 
+/// Whether the entry lies at or below build output in one of the user's own folders.
+bool isBuildOutput(const std::string& path, const std::string& folder) {
+    std::istringstream pieces(path.substr(folder.size() + 1));
+    std::string piece;
+    while (std::getline(pieces, piece, '/'))
+        if (buildNames.contains(piece)) return true;
+    return false;
+}
+
 /// The folder's links followed, the entry's own not.
 std::string realPathOf(const std::string& path) {
     std::error_code missing;
@@ -68,6 +77,13 @@ Rules::Rules(const Snapshot& machine, const std::string& root, std::string home,
         if (missing) continue;
         keys_.insert(target.string());
         keys_.insert(realPathOf(path));
+        addLinksBelow(target);
+    }
+    for (const auto& name : ownFolders) {
+        std::error_code missing;
+        const auto real = fs::canonical(home_ + "/" + name, missing);
+        if (!missing) own_.push_back(real.string());
+        own_.push_back(home_ + "/" + name);
     }
     // What is no UTF-8 is shown with replacement characters.
     std::map<std::string, std::string> pathsByText;
@@ -94,16 +110,23 @@ bool Rules::mayGo(const std::string& path) const {
     return isReviewed && isOpen(path) && !isKey(path) && !holdsKey(path);
 }
 
+/// What a link in a folder of keys leads to is a key as well.
+void Rules::addLinksBelow(const std::string& folder) {
+    std::error_code unreadable;
+    for (const auto& entry : fs::recursive_directory_iterator(folder, unreadable)) {
+        std::error_code missing;
+        if (!entry.is_symlink(missing)) continue;
+        const auto target = fs::canonical(entry.path(), missing);
+        if (!missing) keys_.insert(target.string());
+    }
+}
+
 bool Rules::isOpen(const std::string& path) const {
     if (isIn(path, root_ + "/var/folders")) return true;
     if (!isIn(path, home_)) return false;
-    std::istringstream pieces(path.substr(home_.size() + 1));
-    std::string piece;
-    std::getline(pieces, piece, '/');
-    if (!ownFolders.contains(piece)) return true;
-    while (std::getline(pieces, piece, '/'))
-        if (buildNames.contains(piece)) return true;
-    return false;
+    return std::ranges::all_of(own_, [&](const auto& folder) {
+        return path != folder && (!isIn(path, folder) || isBuildOutput(path, folder));
+    });
 }
 
 bool Rules::isKey(const std::string& path) const {

@@ -28,6 +28,7 @@ class Rules {
     const Items& items() const { return items_; }
 
  private:
+    void addLinksBelow(const std::string& folder);
     bool isOpen(const std::string& path) const;
     bool isKey(const std::string& path) const;
     bool holdsKey(const std::string& path) const;
@@ -35,6 +36,7 @@ class Rules {
     std::string root_;
     std::string home_;
     std::set<std::string> keys_;
+    std::vector<std::string> own_;
     Items items_;
     std::vector<std::string> areas_;
 };

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "adversary.h"
+#include "kidnapper.h"
 #include "platform/json.h"
 #include "platform/path_text.h"
 #include "rules.h"
@@ -45,14 +46,46 @@ Words startWords(const std::string& program, const RandomMachine& random) {
 
 constexpr int killed = 128 + 9;
 
-/// `orders` are the words for the program; it is killed after so many milliseconds, if that is
-/// said.
+/// What is said before and behind the orders about where the machine lies.
+struct Place {
+    Words before;
+    Words after;
+};
+
+Place inFolder(const RandomMachine& random) {
+    return {{}, {"--root", random.machine.root(), "--home", random.machine.home()}};
+}
+
+/// As the user's own machine, started in a folder of his work, with a scratch folder that may be
+/// set to anything.
+Place atHome(RandomMachine& random) {
+    const std::vector<std::string> scratch = {".",
+                                              "..",
+                                              "",
+                                              "Documents",
+                                              random.machine.path("~/Documents/Thesis"),
+                                              random.machine.home(),
+                                              random.machine.path("/var/folders/zz/ada/T")};
+    const auto work = random.machine.path("~/Documents/Thesis");
+    return {{"env", "--chdir=" + work, "HOME=" + random.machine.home(),
+             "TMPDIR=" + random.chance.oneOf(scratch)},
+            {}};
+}
+
+/// Only somebody who may not touch this machine's own files works without a root.
+bool canBeAtHome(const RandomMachine& random) {
+    return random.user == User::ordinary && ::geteuid() == 0;
+}
+
+/// `orders` are the words for the program, `place` those that say where the machine lies; it is
+/// killed after so many milliseconds, if that is said.
 Answer ask(const std::string& program, const RandomMachine& random, const Words& orders,
-           std::optional<std::size_t> killAfter = {}) {
+           const Place& place, std::optional<std::size_t> killAfter = {}) {
     auto words = startWords(program, random);
+    words.insert(words.end() - 1, place.before.begin(), place.before.end());
     words.insert(words.end(), orders.begin(), orders.end());
-    words.insert(words.end(),
-                 {"--json", "--root", random.machine.root(), "--home", random.machine.home()});
+    words.push_back("--json");
+    words.insert(words.end(), place.after.begin(), place.after.end());
     if (killAfter) {
         const auto seconds = std::to_string(static_cast<double>(*killAfter) / 1000);
         words.insert(words.begin(), {"/usr/bin/timeout", "--signal=KILL", seconds});
@@ -185,6 +218,11 @@ bool isInTrash(const Snapshot& before, const Snapshot& after, const std::string&
     });
 }
 
+/// Whether others work on the machine at the same time, so that figures cannot be foretold.
+bool hasCompany(Verb verb) {
+    return verb == Verb::cleanAmongOthers || verb == Verb::cleanStolenFrom;
+}
+
 /// Milliseconds; a whole run takes some tens of them.
 std::optional<std::size_t> momentOfKill(RandomMachine& random, Verb verb) {
     if (verb != Verb::cleanKilled && verb != Verb::uninstallKilled) return std::nullopt;
@@ -227,7 +265,7 @@ Findings Trial::look(const RandomMachine& random) const {
     for (const Words& words :
          {Words{"scan"}, Words{"clean", "--select", "all"}, Words{"dev"}, Words{"deep-scan"},
           Words{"uninstall", "com.example.notes"}, Words{"status"}}) {
-        const auto answer = ask(program_, random, words);
+        const auto answer = ask(program_, random, words, inFolder(random));
         findings.insert(findings.end(), answer.findings.begin(), answer.findings.end());
     }
     const auto changes = losses(before, takeSnapshot(random.machine.root()),
@@ -240,7 +278,9 @@ Findings Trial::run(Verb verb, RandomMachine& random) {
     switch (verb) {
         case Verb::clean:
         case Verb::cleanAmongOthers:
+        case Verb::cleanStolenFrom:
         case Verb::cleanKilled:
+        case Verb::cleanAtHome:
         case Verb::dev:
             return clean(random, verb);
         case Verb::trash:
@@ -255,7 +295,9 @@ Findings Trial::run(Verb verb, RandomMachine& random) {
 Findings Trial::clean(RandomMachine& random, Verb verb) {
     const auto& root = random.machine.root();
     const Words words = {verb == Verb::dev ? "dev" : "clean", "--select", "all"};
-    const auto shown = ask(program_, random, words);
+    const bool isAtHome = verb == Verb::cleanAtHome && canBeAtHome(random);
+    const auto place = isAtHome ? atHome(random) : inFolder(random);
+    const auto shown = ask(program_, random, words, place);
     if (!shown.findings.empty()) return shown.findings;
     const auto before = takeSnapshot(root);
     const Rules rules(before, root, random.machine.home(), itemsOf(shown.document));
@@ -263,25 +305,34 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     auto orders = words;
     orders.push_back("--yes");
     std::unique_ptr<Adversary> others;
+    std::unique_ptr<Kidnapper> kidnapper;
+    if (verb == Verb::cleanStolenFrom)
+        kidnapper = std::make_unique<Kidnapper>(random.prey, RandomMachine::preySize,
+                                                random.machine.path("~/Documents"));
     if (verb == Verb::cleanAmongOthers)
         others = std::make_unique<Adversary>(static_cast<unsigned>(random.chance.below(1 << 30)),
                                              openGround(random, before, rules),
                                              random.machine.path("~/Documents"));
-    const auto done = ask(program_, random, orders, momentOfKill(random, verb));
+    const auto done = ask(program_, random, orders, place, momentOfKill(random, verb));
     tally_.kills += done.wasKilled;
     if (others) tally_.swaps += others->swaps();
     others.reset();
+    if (kidnapper) kidnapper->stop();
     if (!done.findings.empty()) return done.findings;
 
     const auto after = takeSnapshot(root);
     auto findings = losses(before, after, [&](const std::string& path) {
-        return !isTreasure(random, path) &&
-               (rules.mayGo(path) || isOwnSettings(random, path) ||
-                (verb == Verb::cleanAmongOthers && rules.isInArea(path)));
+        if (kidnapper && path.find(Kidnapper::takenName) != std::string::npos) return true;
+        return !isTreasure(random, path) && (rules.mayGo(path) || isOwnSettings(random, path) ||
+                                             (hasCompany(verb) && rules.isInArea(path)));
     });
+    if (kidnapper && kidnapper->losses() > 0)
+        findings.push_back(
+            "emptied after it was taken away: " + std::to_string(kidnapper->losses()) + " files");
+    if (kidnapper) tally_.thefts += kidnapper->hasStruck();
     const auto said = integerAt(done.document, "freedBytes");
     const auto freed = freedBytes(before, after, rules);
-    if (!done.wasKilled && verb != Verb::cleanAmongOthers && said != freed)
+    if (!done.wasKilled && !hasCompany(verb) && said != freed)
         findings.push_back("said to be freed: " + std::to_string(said) + ", but measured are " +
                            std::to_string(freed));
     tally_.freedBytes += freed;
@@ -290,7 +341,7 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
 }
 
 Findings Trial::trash(RandomMachine& random) {
-    const auto listed = ask(program_, random, {"deep-scan"});
+    const auto listed = ask(program_, random, {"deep-scan"}, inFolder(random));
     if (!listed.findings.empty()) return listed.findings;
     Words ids;
     for (const auto& item : listAt(listed.document, "items"))
@@ -298,7 +349,7 @@ Findings Trial::trash(RandomMachine& random) {
     if (ids.empty()) return {"the deep scan found nothing"};
     const auto id = random.chance.oneOf(ids);
     const auto before = takeSnapshot(random.machine.root());
-    const auto done = ask(program_, random, {"trash", id, "--yes"});
+    const auto done = ask(program_, random, {"trash", id, "--yes"}, inFolder(random));
     if (!done.findings.empty()) return done.findings;
     const auto after = takeSnapshot(random.machine.root());
     tally_.trashed += before.contains(id) && !after.contains(id);
@@ -308,14 +359,14 @@ Findings Trial::trash(RandomMachine& random) {
 Findings Trial::uninstall(RandomMachine& random, Verb verb) {
     const Words words = {"uninstall", "com.example.notes"};
     if (!random.machine.has("/Applications/Notes.app")) return {};
-    const auto plan = ask(program_, random, words);
+    const auto plan = ask(program_, random, words, inFolder(random));
     if (!plan.findings.empty()) return plan.findings;
     std::vector<std::string> wanted = {random.machine.path("/Applications/Notes.app")};
     for (const auto& leftover : listAt(plan.document, "leftovers"))
         if (auto path = leftover.textAt("path")) wanted.push_back(*path);
     const auto before = takeSnapshot(random.machine.root());
-    const auto done =
-        ask(program_, random, {words[0], words[1], "--yes"}, momentOfKill(random, verb));
+    const auto done = ask(program_, random, {words[0], words[1], "--yes"}, inFolder(random),
+                          momentOfKill(random, verb));
     tally_.kills += done.wasKilled;
     if (!done.findings.empty()) return done.findings;
     const auto after = takeSnapshot(random.machine.root());

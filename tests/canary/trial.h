@@ -11,7 +11,9 @@ namespace tidewell::test {
 enum class Verb {
     clean,
     cleanAmongOthers,  ///< while other programs work in the same folders
+    cleanStolenFrom,   ///< while a folder that is emptied is taken away
     cleanKilled,       ///< killed on the way, and then once more
+    cleanAtHome,       ///< without a root, in an odd environment
     dev,
     trash,
     uninstall,
@@ -40,6 +42,7 @@ class Trial {
         int trashed = 0;
         int uninstalled = 0;
         int swaps = 0;
+        int thefts = 0;
         int kills = 0;
     };
     const Tally& tally() const { return tally_; }
