@@ -29,14 +29,16 @@ bool isBuildOutput(std::string_view path, std::string_view personalFolder) {
 }
 
 /// Where the scratch folders really lie. One that holds personal folders, such as the home folder
-/// itself, opens nothing.
+/// itself, or lies in one of them opens nothing.
 std::vector<std::string> realScratchFolders(const std::vector<std::string>& roots,
                                             const KeptEntries& kept) {
     std::vector<std::string> found;
     for (const auto& root : roots) {
         auto real = realLocation(root);
-        const auto isInRoot = [&real](const auto& folder) { return isAtOrBelow(folder, *real); };
-        if (real && std::ranges::none_of(kept.personalFolders, isInRoot))
+        const auto overlaps = [&real](const auto& folder) {
+            return isAtOrBelow(folder, *real) || isAtOrBelow(*real, folder);
+        };
+        if (real && std::ranges::none_of(kept.personalFolders, overlaps))
             found.push_back(std::move(*real));
     }
     return found;

@@ -263,6 +263,7 @@ bool RandomMachine::mountDocuments(const std::string& where) {
     const std::string source = chance.percent(50) ? "~/Documents/Thesis" : "~/Documents";
     const auto real = machine.path(source);
     if (::mount(real.c_str(), where.c_str(), nullptr, MS_BIND, nullptr) != 0) return false;
+    otherNames.emplace_back(where, fs::canonical(real).string());
     for (const std::string path : treasurePaths)
         if (path.starts_with(source + "/")) treasures.push_back(where + path.substr(source.size()));
     return true;

@@ -2,6 +2,7 @@
 
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/sample_machine.h"
@@ -50,6 +51,8 @@ struct RandomMachine {
     /// stay as they are.
     std::vector<std::string> treasures;
     std::vector<std::string> mounts;
+    /// Places at which a folder is mounted that has another name on this disk as well.
+    std::vector<std::pair<std::string, std::string>> otherNames;
     /// A folder in a cache with so many files and nothing else; empty if there is none.
     std::string prey;
     static constexpr std::size_t preySize = 3000;

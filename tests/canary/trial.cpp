@@ -165,6 +165,13 @@ bool isOwnSettings(const RandomMachine& random, const std::string& path) {
     return isAtOrBelow(path, folder) || isAtOrBelow(folder, path);
 }
 
+/// What an entry is called where its folder is not mounted a second time.
+std::string otherNameOf(const RandomMachine& random, const std::string& path) {
+    for (const auto& [place, name] : random.otherNames)
+        if (isBelow(path, place)) return name + path.substr(place.size());
+    return path;
+}
+
 bool isTreasure(const RandomMachine& random, const std::string& path) {
     return std::ranges::any_of(random.treasures,
                                [&](const auto& treasure) { return isAtOrBelow(path, treasure); });
@@ -323,8 +330,9 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     const auto after = takeSnapshot(root);
     auto findings = losses(before, after, [&](const std::string& path) {
         if (kidnapper && path.find(Kidnapper::takenName) != std::string::npos) return true;
-        return !isTreasure(random, path) && (rules.mayGo(path) || isOwnSettings(random, path) ||
-                                             (hasCompany(verb) && rules.isInArea(path)));
+        return !isTreasure(random, path) &&
+               (rules.mayGo(path) || rules.mayGo(otherNameOf(random, path)) ||
+                isOwnSettings(random, path) || (hasCompany(verb) && rules.isInArea(path)));
     });
     if (kidnapper && kidnapper->losses() > 0)
         findings.push_back(

@@ -204,14 +204,14 @@ TEST(DeletionGuard, OpensNoOtherMountWhereTheSystemHidesThem) {
     });
 }
 
-TEST(DeletionGuard, OpensNothingByAScratchFolderThatHoldsPersonalFolders) {
+TEST(DeletionGuard, OpensNothingByAScratchFolderAroundOrInPersonalFolders) {
     const SampleMachine machine;
-    machine.text("~/Documents/thesis", "x");
+    machine.text("~/Documents/thesis/text", "x");
     auto host = machine.host();
-    for (const auto* scratch : {"~", "/Users", "~/Documents"}) {
+    for (const auto* scratch : {"~", "/Users", "~/Documents", "~/Documents/thesis"}) {
         host.temporaryDirectory = machine.path(scratch);
         const DeletionGuard guard(host);
-        EXPECT_FALSE(guard.approve(machine.path("~/Documents/thesis"))) << scratch;
+        EXPECT_FALSE(guard.approve(machine.path("~/Documents/thesis/text"))) << scratch;
         EXPECT_FALSE(guard.approve(machine.home())) << scratch;
     }
 }
