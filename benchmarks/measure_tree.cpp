@@ -13,7 +13,8 @@ using namespace tidewell;
 /// Without the process's own pool, whose width follows from the machine.
 ByteCount measuredBy(int threads, const char* path) {
     auto& pool = linux_system::WorkPool::make(threads);
-    return linux_system::usageBelow(pool, posix::openFolder(path)).bytes;
+    const linux_system::Measuring how{.helpers = linux_system::Helpers::welcome};
+    return linux_system::usageBelow(pool, posix::openFolder(path), how).bytes;
 }
 
 }  // namespace

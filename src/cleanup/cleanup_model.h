@@ -51,8 +51,10 @@ struct CleanupItem {
     CleanupTarget target;
     std::vector<std::string> resolvedPaths;  ///< what cleaning works on; never empty after a scan
     std::vector<DiskUsage> measures = {};    ///< of each of them, as the scan saw it
-    ByteCount sizeBytes = 0;                 ///< their sizes together; at least 1 after a scan
-    bool isSelected = false;                 ///< the user's tick
+    ByteCount sizeBytes =
+        0;  ///< what removing them frees; at least 1 after a scan, with what is shared
+    ByteCount sharedBytes = 0;  ///< what would stay, since files in there have names elsewhere
+    bool isSelected = false;    ///< the user's tick
 };
 
 /// Names of folders that are an artifact wherever they stand.

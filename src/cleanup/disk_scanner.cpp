@@ -28,11 +28,13 @@ struct Found {
     std::vector<std::string> paths;
     std::vector<DiskUsage> measures;
     ByteCount size = 0;
+    ByteCount linked = 0;
 
     void add(std::string path, MeasuredFolders* known) {
         auto usage = known ? diskUsage(path, *known) : diskUsage(path);
         if (usage.bytes < 1) return;
         size = addSaturating(size, usage.bytes);
+        linked = addSaturating(linked, usage.linkedBytes);
         paths.push_back(std::move(path));
         measures.push_back(std::move(usage));
     }
@@ -50,6 +52,35 @@ bool isNeverSwept(std::string_view name) {
 DiskUsage measureAtScan(const CleanupItem& item, std::size_t path) {
     if (path < item.measures.size()) return item.measures[path];
     return {.bytes = item.sizeBytes, .unread = {}};
+}
+
+/// What several paths hold, and what would be freed with all of it: that is less where files have
+/// names elsewhere, too.
+struct Holding {
+    std::vector<DiskUsage> measures;
+    FreedUsage together;
+};
+
+Holding heldBy(const std::vector<std::string>& paths, System system) {
+    Holding holding;
+    ByteCount linked = 0;
+    for (const auto& path : paths) {
+        const auto& usage = holding.measures.emplace_back(diskUsage(path));
+        linked = addSaturating(linked, usage.linkedBytes);
+        holding.together.freedBytes = addSaturating(holding.together.freedBytes, usage.bytes);
+    }
+    if (system == System::linux && linked > 0) holding.together = freedByRemoving(paths);
+    return holding;
+}
+
+/// Where links count truly all is measured anew: what goes with one item may have become the last
+/// name of a file in another.
+Holding heldBefore(const CleanupItem& item, System system) {
+    if (system == System::linux) return heldBy(item.resolvedPaths, system);
+    Holding atScan{.measures = {}, .together = {.freedBytes = item.sizeBytes}};
+    for (std::size_t i = 0; i < item.resolvedPaths.size(); ++i)
+        atScan.measures.push_back(measureAtScan(item, i));
+    return atScan;
 }
 
 /// What could not be read at the scan either is in no figure.
@@ -77,10 +108,13 @@ std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target,
         }
     }
     if (found.paths.empty()) return std::nullopt;
+    FreedUsage together{.freedBytes = found.size};
+    if (host_.system == System::linux && found.linked > 0) together = freedByRemoving(found.paths);
     return CleanupItem{.target = target,
                        .resolvedPaths = std::move(found.paths),
                        .measures = std::move(found.measures),
-                       .sizeBytes = found.size,
+                       .sizeBytes = together.freedBytes,
+                       .sharedBytes = together.sharedBytes,
                        .isSelected = target.safety == SafetyLevel::safe};
 }
 
@@ -109,16 +143,18 @@ std::set<std::string, std::less<>> DiskScanner::sweepExclusions(
 }
 
 DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
+    const auto before = heldBefore(item, host_.system);
     auto outcome = Removal::complete;
-    ByteCount left = 0;
     for (const auto& path : item.resolvedPaths)
         if (attempt(path) == Removal::incomplete) outcome = Removal::incomplete;
+    const auto after = heldBy(item.resolvedPaths, host_.system);
+    auto left = after.together.freedBytes;
     for (std::size_t i = 0; i < item.resolvedPaths.size(); ++i) {
-        const auto now = diskUsage(item.resolvedPaths[i]);
-        left = addSaturating(left, mayBeLeft(now, measureAtScan(item, i)));
+        const auto& now = after.measures[i];
+        left = addSaturating(left, mayBeLeft(now, before.measures[i]) - now.bytes);
         if (!now.unread.isEmpty()) outcome = Removal::incomplete;
     }
-    CleanResult result{.freedBytes = std::max<ByteCount>(item.sizeBytes - left, 0),
+    CleanResult result{.freedBytes = std::max<ByteCount>(before.together.freedBytes - left, 0),
                        .failedTitle = std::nullopt};
     if (outcome == Removal::incomplete) result.failedTitle = item.target.title;
     return result;

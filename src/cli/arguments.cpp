@@ -165,6 +165,8 @@ void addKnowledgeCommands(CLI::App& app, Call& call) {
     auto& measure = addCommand<MeasureCall>(
         app, call, "measure", "Say how much room paths take on disk", runMeasure, command);
     command->add_option("paths", measure.paths, "Files or folders")->required()->type_name("PATH");
+    command->add_flag("--shared", measure.showsShared,
+                      "Say also what would stay, since it has names elsewhere");
 
     auto& explain = addCommand<ExplainCall>(
         app, call, "explain", "Say what is known of a path, and whether Clean may remove it",

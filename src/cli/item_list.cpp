@@ -25,7 +25,7 @@ void printItem(const CleanupItem& item) {
               rightAligned("", titleColumns - used) +
               rightAligned(byteText(item.sizeBytes), sizeColumns) + "  " +
               inked(terminalText(item.target.id), Ink::faint));
-    printLine("      " + inked(terminalText(item.target.detail), Ink::faint));
+    printLine("      " + inked(terminalText(itemDetail(item)), Ink::faint));
 }
 
 }  // namespace

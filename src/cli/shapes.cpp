@@ -85,7 +85,7 @@ std::string_view nameOf(Mode mode) {
 }
 
 Value itemShape(const CleanupItem& item) {
-    return Value::Object{
+    Value::Object shape = {
         {"id", item.target.id},
         {"title", item.target.title},
         {"detail", item.target.detail},
@@ -95,6 +95,8 @@ Value itemShape(const CleanupItem& item) {
         {"sizeBytes", item.sizeBytes},
         {"isSelected", item.isSelected},
     };
+    if (item.sharedBytes > 0) shape.emplace_back("sharedBytes", item.sharedBytes);
+    return shape;
 }
 
 Value bigItemShape(const BigItem& item) {

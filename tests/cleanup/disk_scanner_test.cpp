@@ -4,8 +4,10 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 
+#include "cleanup/screens/review_content.h"
 #include "cleanup/target_catalogue.h"
 #include "platform/path_text.h"
 #include "support/sample_machine.h"
@@ -128,6 +130,33 @@ TEST(DiskScanner, CountsAsFreedWhatASecondMeasureShowsToBeGone) {
     EXPECT_EQ(scanner.clean(itemOf({refused}, 4096)).freedBytes, 0);  // grew meanwhile
     EXPECT_EQ(scanner.clean(itemOf({machine.path("~/.gone")}, 10)).freedBytes, 10);
     EXPECT_EQ(scanner.clean(itemOf({}, 10)).freedBytes, 10);
+}
+
+TEST(DiskScanner, CountsWhatRemovingFreesWhereFilesHaveSeveralNames) {
+    for (const auto system : {System::macOS, System::linux}) {
+        const bool isTrue = system == System::linux;
+        const SampleMachine machine;
+        auto host = machine.host();
+        host.system = system;
+        const DiskScanner scanner(host);
+        machine.file("~/.npm/plain", 8192);
+        machine.file("~/.npm/inside", 4096);
+        machine.file("~/.npm/across", 16384);
+        machine.folder("~/.gradle");
+        for (const auto& [from, to] :
+             {std::pair{"~/.npm/inside", "~/.npm/again"}, {"~/.npm/across", "~/.gradle/across"}})
+            std::filesystem::create_hard_link(machine.path(from), machine.path(to));
+        const auto first = scanner.measure(targetAt({machine.path("~/.npm")}));
+        const auto second = scanner.measure(targetAt({machine.path("~/.gradle")}));
+        ASSERT_TRUE(first && second);
+        EXPECT_EQ(first->sizeBytes, isTrue ? 12288 : 32768);
+        EXPECT_EQ(first->sharedBytes, isTrue ? 16384 : 0);
+        EXPECT_EQ(second->sizeBytes, isTrue ? 0 : 16384);
+        EXPECT_EQ(itemDetail(*first),
+                  isTrue ? " 16 KB more is shared with other files and would stay." : "");
+        EXPECT_EQ(scanner.clean(*first).freedBytes, isTrue ? 12288 : 32768);
+        EXPECT_EQ(scanner.clean(*second).freedBytes, 16384) << "now its last name";
+    }
 }
 
 /// What cannot be seen any more may well be there.

@@ -12,6 +12,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/reach.h"
 #include "support/hostile_tree.h"
@@ -83,6 +84,46 @@ TEST(DiskUsage, CountsAllocatedBytesOfRegularFilesAlone) {
     };
     for (const auto& [path, size] : rows)
         EXPECT_EQ(allocatedSize(machine.path(path)), size) << path;
+}
+
+TEST(DiskUsage, OfSeveralPathsTogetherCountsAFileOnceAndOnlyWithAllItsNames) {
+    const SampleMachine machine;
+    const auto linked = [&](const char* from, const std::string& to) {
+        machine.folder(parentPath(to));
+        std::filesystem::create_hard_link(machine.path(from), machine.path(to));
+    };
+    machine.file("~/a/plain", block);
+    machine.file("~/a/inside", 2 * block);
+    machine.file("~/a/across", 4 * block);
+    machine.file("~/a/outside", 8 * block);
+    linked("~/a/inside", "~/a/deep/again");
+    linked("~/a/inside", "~/a/third");
+    linked("~/a/across", "~/b/across");
+    linked("~/a/outside", "~/elsewhere");
+    for (int name = 0; name < 5000; ++name) linked("~/a/inside", "~/b/" + std::to_string(name));
+    for (int file = 0; file < 3000; ++file) {
+        const auto name = "~/a/store/" + std::to_string(file);
+        machine.file(name, 0);
+        linked(name.c_str(), "~/b/store/" + std::to_string(file));
+    }
+    struct Row {
+        std::vector<std::string> paths;
+        ByteCount freed;
+        ByteCount shared;
+    };
+    const std::vector<Row> rows = {
+        {{"~/a"}, block, 14 * block},
+        {{"~/a", "~/b"}, 7 * block, 8 * block},
+        {{"~/b", "~/a", "~/elsewhere"}, 15 * block, 0},
+        {{"~/a/outside"}, 0, 8 * block},
+        {{"~/missing"}, 0, 0},
+    };
+    for (auto [paths, freed, shared] : rows) {
+        for (auto& path : paths) path = machine.path(path);
+        const auto usage = freedByRemoving(paths);
+        EXPECT_EQ(usage.freedBytes, freed) << paths.front() << " and so on: " << paths.size();
+        EXPECT_EQ(usage.sharedBytes, shared) << paths.front() << " and so on: " << paths.size();
+    }
 }
 
 TEST(DiskUsage, IsThatOfAPlainWalkWhateverTheShapeAndHoweverManyAsk) {

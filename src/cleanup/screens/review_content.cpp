@@ -34,13 +34,23 @@ CategoryRowContent categoryRow(const CleanupViewModel& model, CleanupCategory ca
     };
 }
 
+constexpr ByteCount partWorthTelling = 10;
+
 }  // namespace
+
+std::string itemDetail(const CleanupItem& item) {
+    const auto all = addSaturating(item.sizeBytes, item.sharedBytes);
+    if (item.sharedBytes == 0 || item.sharedBytes < all / partWorthTelling)
+        return item.target.detail;
+    return item.target.detail + " " + byteText(item.sharedBytes) +
+           " more is shared with other files and would stay.";
+}
 
 ItemChipContent itemChip(const CleanupItem& item, std::string_view cautionBadge) {
     return {
         .id = item.target.id,
         .title = item.target.title,
-        .detail = item.target.detail,
+        .detail = itemDetail(item),
         .size = byteText(item.sizeBytes),
         .isOn = item.isSelected,
         .badge = item.target.safety == SafetyLevel::caution ? cautionBadge : std::string_view(),

@@ -67,6 +67,10 @@ struct ItemChipContent {
     bool operator==(const ItemChipContent&) const = default;
 };
 
+/// What the item is and what clearing it means; and, where a tenth or more of it has names
+/// elsewhere, how much that is.
+std::string itemDetail(const CleanupItem& item);
+
 /// `cautionBadge` is the word for an item that is not safe.
 ItemChipContent itemChip(const CleanupItem& item, std::string_view cautionBadge = reviewBadge);
 

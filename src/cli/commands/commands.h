@@ -92,6 +92,7 @@ Outcome runStatus(const Context& context, const StatusCall& call);
 
 struct MeasureCall {
     std::vector<std::string> paths;
+    bool showsShared = false;
 };
 Outcome runMeasure(const Context& context, const MeasureCall& call);
 

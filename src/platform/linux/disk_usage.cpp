@@ -1,5 +1,7 @@
 #include "platform/disk_usage.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <thread>
@@ -12,6 +14,9 @@
 namespace tidewell {
 namespace {
 
+using linux_system::Helpers;
+using linux_system::LinkTable;
+using linux_system::Measuring;
 using linux_system::WorkPool;
 
 /// Disks answer sooner the more they are asked at once, so there are threads to spare; where all is
@@ -24,20 +29,21 @@ int poolWidth() {
     return static_cast<int>(std::clamp<std::size_t>(affordable, 1, wanted));
 }
 
-DiskUsage measured(const std::string& path, MeasuredFolders* known) {
+DiskUsage measured(const std::string& path, const Measuring& how) {
     static auto& pool = WorkPool::make(poolWidth());
     const auto folder = posix::openFolder(path);
-    if (folder) return linux_system::usageBelow(pool, folder, known);
+    if (folder) return linux_system::usageBelow(pool, folder, how);
     const bool isNoFolder = linux_system::isGone();
     DiskUsage usage;
     if (posix::isOutOfReach(path, posix::LastLink::keep)) {
         usage.unread.add(0, path);
         return usage;
     }
-    const auto size = linux_system::sizeOfRegularFile(AT_FDCWD, path.c_str());
-    usage.bytes = size.value_or(0);
-    const bool isMissing = !size && (errno == ENOENT || errno == ENOTDIR);
-    const bool isMeasured = size && isNoFolder;
+    struct stat status;
+    const bool isTold = ::lstat(path.c_str(), &status) == 0;
+    if (isTold) linux_system::addFile(status, how.links, usage);
+    const bool isMissing = !isTold && (errno == ENOENT || errno == ENOTDIR);
+    const bool isMeasured = isTold && isNoFolder;
     if (!isMissing && !isMeasured) usage.unread.add(0, path);
     return usage;
 }
@@ -45,11 +51,26 @@ DiskUsage measured(const std::string& path, MeasuredFolders* known) {
 }  // namespace
 
 DiskUsage diskUsage(const std::string& path) {
-    return measured(path, nullptr);
+    return linux_system::withHelpersOrWithout(
+        [&](Helpers helpers) { return measured(path, {.helpers = helpers}); });
 }
 
 DiskUsage diskUsage(const std::string& path, MeasuredFolders& known) {
-    return measured(path, &known);
+    return linux_system::withHelpersOrWithout(
+        [&](Helpers helpers) { return measured(path, {.helpers = helpers, .known = &known}); });
+}
+
+FreedUsage freedByRemoving(std::span<const std::string> paths) {
+    return linux_system::withHelpersOrWithout([&](Helpers helpers) {
+        LinkTable links;
+        FreedUsage all;
+        for (const auto& path : paths) {
+            const auto usage = measured(path, {.helpers = helpers, .links = &links});
+            all.freedBytes += usage.bytes;
+            all.sharedBytes += usage.linkedBytes;
+        }
+        return all;
+    });
 }
 
 }  // namespace tidewell

@@ -24,10 +24,6 @@ constexpr std::size_t filesBetweenLooks = 64;
 /// Of a folder with more sub-folders than these bytes hold, the rest is read when those are done.
 constexpr std::size_t subfolderNamesAtOnce = 64 * 1024;
 
-ByteCount allocatedBytes(const struct stat& status) {
-    return S_ISREG(status.st_mode) ? status.st_blocks * bytesPerBlock : 0;
-}
-
 /// How many descriptors all threads together should hold, if the process may open so many.
 constexpr std::size_t descriptorBudget = 256;
 
@@ -51,36 +47,43 @@ std::optional<DiskUsage> knownUsage(const MeasuredFolders* known, const MountedF
 
 }  // namespace
 
-std::optional<ByteCount> sizeOfRegularFile(int folder, const char* name) {
-    struct stat status;
-    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return std::nullopt;
-    return allocatedBytes(status);
+void addFile(const struct stat& status, LinkTable* links, DiskUsage& usage) {
+    if (!S_ISREG(status.st_mode)) return;
+    const ByteCount size = status.st_blocks * bytesPerBlock;
+    if (status.st_nlink < 2) {
+        usage.bytes += size;
+    } else if (links) {
+        const auto change = links->meet(status);
+        usage.bytes += change.freed;
+        usage.linkedBytes += change.shared;
+    } else {
+        usage.bytes += size;
+        usage.linkedBytes += size;
+    }
 }
 
 bool isGone() {
     return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
 }
 
-DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, MeasuredFolders* known) {
-    return withHelpersOrWithout([&](Helpers helpers) {
-        Measure measure{.job = Job(pool, helpers),
-                        .foldersHeldByThread = foldersHeld(pool.width()),
-                        .known = known};
-        // With a file position of its own: a second attempt begins anew.
-        posix::Descriptor own(::openat(folder.get(), ".", posix::openFolderFlags));
-        const auto which = own ? mountedFolder(own.get()) : std::nullopt;
-        if (!which) {
-            measure.found.unread.addUnknown();
-            return std::move(measure.found);
-        }
-        if (auto usage = knownUsage(known, *which)) return std::move(*usage);
-        const auto top = FolderPointer<TreeFolder>::top(*which);
-        const auto open = top->hold(std::move(own));
-        measure.job.run(std::make_unique<FolderMeasurer>(
-            measure, FolderWork{.folder = top, .descriptor = open, .isUnread = true}));
-        if (known) known->add(identityOf(*which), measure.found);
+DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, const Measuring& how) {
+    Measure measure{.job = Job(pool, how.helpers),
+                    .foldersHeldByThread = foldersHeld(pool.width()),
+                    .how = how};
+    // With a file position of its own, so that it can be measured more than once.
+    posix::Descriptor own(::openat(folder.get(), ".", posix::openFolderFlags));
+    const auto which = own ? mountedFolder(own.get()) : std::nullopt;
+    if (!which) {
+        measure.found.unread.addUnknown();
         return std::move(measure.found);
-    });
+    }
+    if (auto usage = knownUsage(how.known, *which)) return std::move(*usage);
+    const auto top = FolderPointer<TreeFolder>::top(*which);
+    const auto open = top->hold(std::move(own));
+    measure.job.run(std::make_unique<FolderMeasurer>(
+        measure, FolderWork{.folder = top, .descriptor = open, .isUnread = true}));
+    if (how.known) how.known->add(identityOf(*which), measure.found);
+    return std::move(measure.found);
 }
 
 FolderMeasurer::FolderMeasurer(Measure& measure, FolderWork first)
@@ -100,6 +103,7 @@ void FolderMeasurer::work(Role role) {
     }
     const std::lock_guard lock(measure_.mutex);
     measure_.found.bytes += found_.bytes;
+    measure_.found.linkedBytes += found_.linkedBytes;
     measure_.found.unread.add(found_.unread);
 }
 
@@ -151,8 +155,9 @@ void FolderMeasurer::missed(int folder, std::string_view name) {
 void FolderMeasurer::measureFile(int folder, const char* name) {
     // A folder that may not be searched hides all of its files alike.
     constexpr auto allFiles = "";
-    if (const auto size = sizeOfRegularFile(folder, name)) {
-        found_.bytes += *size;
+    struct stat status;
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
+        addFile(status, measure_.how.links, found_);
     } else {
         missed(folder, errno == EACCES ? allFiles : name);
     }
@@ -173,9 +178,10 @@ void FolderMeasurer::enterSubfolder() {
 }
 
 bool FolderMeasurer::takeOver(const MountedFolder& folder) {
-    const auto usage = knownUsage(measure_.known, folder);
+    const auto usage = knownUsage(measure_.how.known, folder);
     if (!usage) return false;
     found_.bytes += usage->bytes;
+    found_.linkedBytes += usage->linkedBytes;
     found_.unread.add(usage->unread);
     return true;
 }
@@ -225,7 +231,7 @@ void FolderMeasurer::addUntold(FolderWork& work, const char* name) {
     if (::fstatat(work.descriptor->get(), name, &status, AT_SYMLINK_NOFOLLOW) != 0)
         return missed(work.descriptor->get(), name);
     if (S_ISDIR(status.st_mode)) work.subfolders.add(name);
-    found_.bytes += allocatedBytes(status);
+    addFile(status, measure_.how.links, found_);
 }
 
 void FolderMeasurer::measurePortion(const FolderWork& work) {

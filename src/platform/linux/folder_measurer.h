@@ -10,28 +10,35 @@
 #include "platform/disk_usage.h"
 #include "platform/linux/folder_reader.h"
 #include "platform/linux/folder_work.h"
+#include "platform/linux/link_table.h"
 #include "platform/linux/way_down.h"
 #include "platform/linux/work_pool.h"
 #include "platform/measured_folders.h"
 
 namespace tidewell::linux_system {
 
-/// The bytes allocated for an entry, if it is a regular file; else 0. Absent, with the reason in
-/// errno, if the system does not tell.
-std::optional<ByteCount> sizeOfRegularFile(int folder, const char* name);
+/// Adds a file, if it is a regular one. With a table, one with several names counts when all of
+/// them were met, and its `linkedBytes` are what is shared.
+void addFile(const struct stat& status, LinkTable* links, DiskUsage& usage);
 
 /// Whether what errno says means that nothing stands there, or nothing that a measure enters.
 bool isGone();
 
-/// Measures all regular files below an open folder. Blocks until the end. Throws only if the memory
-/// does not even suffice for one thread. With `known`, that is asked and filled.
-DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, MeasuredFolders* known);
+/// How a measure is made.
+struct Measuring {
+    Helpers helpers;
+    MeasuredFolders* known = nullptr;  ///< asked for folders, and filled, if given
+    LinkTable* links = nullptr;        ///< of the files with several names, if they count truly
+};
+
+/// Measures all regular files below an open folder. Blocks until the end.
+DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, const Measuring& how);
 
 /// What the threads that work on one measure have in common.
 struct Measure {
     Job job;
     std::size_t foldersHeldByThread;
-    MeasuredFolders* known;
+    Measuring how;
     std::mutex mutex = {};
     DiskUsage found = {};
 };
