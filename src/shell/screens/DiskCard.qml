@@ -53,7 +53,7 @@ GlowCard {
             anchors.verticalCenter: parent.verticalCenter
             symbol: root.screen.winningsSymbol
             size: 16
-            tint: Ambient.palette.primary
+            tint: Theme.success
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
