@@ -7,6 +7,8 @@
 #include "cleanup/cleanup_model.h"
 #include "cleanup/kept_entries.h"
 #include "cleanup/kept_places.h"
+#include "cleanup/project_artifacts.h"
+#include "cleanup/target_catalogue.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "platform/trash.h"
@@ -14,11 +16,6 @@
 namespace tidewell {
 
 namespace {
-
-bool isAtOrBelowAny(std::string_view path, const std::vector<std::string>& folders) {
-    return std::ranges::any_of(folders,
-                               [&](const auto& folder) { return isAtOrBelow(path, folder); });
-}
 
 /// Whether what lies in a personal folder lies in build output there.
 bool isBuildOutput(std::string_view path, std::string_view personalFolder) {
@@ -55,6 +52,15 @@ std::vector<std::string> openRoots(const Host& host) {
     return roots;
 }
 
+std::vector<std::string> pathsOfRows(const Host& host) {
+    std::vector<std::string> paths;
+    for (const auto& target : cleanupCatalogue(host))
+        if (!target.isSweep())
+            for (const auto& stored : target.paths)
+                paths.push_back(standardizedPath(host.expand(stored)));
+    return paths;
+}
+
 }  // namespace
 
 std::vector<std::string> deletableRoots(const Host& host) {
@@ -66,12 +72,14 @@ std::vector<std::string> deletableRoots(const Host& host) {
 
 bool allows(DeletionRule rule) {
     switch (rule) {
+        case DeletionRule::namedCache:
         case DeletionRule::deletableRoot:
         case DeletionRule::openFolder:
         case DeletionRule::buildFolder:
             return true;
         case DeletionRule::protectedPath:
         case DeletionRule::outsideHome:
+        case DeletionRule::neverSwept:
         case DeletionRule::personalFolder:
             return false;
     }
@@ -81,11 +89,16 @@ bool allows(DeletionRule rule) {
 DeletionRule deletionRule(std::string_view path, std::string_view home,
                           const std::vector<std::string>& roots, const KeptEntries& kept) {
     const auto standardPath = standardizedPath(path);
-    if (isInKeys(standardPath, kept)) return DeletionRule::protectedPath;
+    const bool isNamed = isAtOrBelowAny(standardPath, kept.namedByRows);
+    if (isAtOrBelowAny(standardPath, kept.keys)) return DeletionRule::protectedPath;
+    if (isAtOrBelowAny(standardPath, kept.profiles))
+        return isNamed ? DeletionRule::namedCache : DeletionRule::protectedPath;
     if (isAtOrBelowAny(standardPath, roots)) return DeletionRule::deletableRoot;
     // With a home folder at "/" the whole machine would count as the user's own.
     if (home == "/" || !isBelow(standardPath, home)) return DeletionRule::outsideHome;
     const auto* folder = personalFolderOf(standardPath, kept);
+    if (!folder && !isNamed && isAtOrBelowAny(standardPath, kept.neverSwept))
+        return DeletionRule::neverSwept;
     if (!folder) return DeletionRule::openFolder;
     return isBuildOutput(standardPath, *folder) ? DeletionRule::buildFolder
                                                 : DeletionRule::personalFolder;
@@ -98,8 +111,8 @@ struct DeletionGuard::View {
     static constexpr auto shortest = std::chrono::milliseconds(20);
     static constexpr int timesItsCost = 20;
 
-    View(const Host& host, const std::string& folder)
-        : kept(host), names(kept.namesOf(folder)), readyAt(Clock::now()) {}
+    View(const DeletionGuard& guard, const std::string& folder)
+        : kept(guard.keptPlaces()), names(kept.namesOf(folder)), readyAt(Clock::now()) {}
 
     bool isOld() const {
         return Clock::now() - readyAt >
@@ -114,14 +127,21 @@ struct DeletionGuard::View {
 
 DeletionGuard::DeletionGuard(const Host& host)
     : host_(host),
+      namedByRows_(namedInside(keptEntries(host), pathsOfRows(host))),
       roots_(openRoots(host)),
       realRoots_(realScratchFolders(roots_, keptEntries(host))) {}
+
+KeptPlaces DeletionGuard::keptPlaces() const {
+    auto entries = keptEntries(host_);
+    entries.namedByRows = namedByRows_;
+    return KeptPlaces(host_, std::move(entries));
+}
 
 DeletionRule DeletionGuard::verdict(const std::string& path) const {
     const auto named = standardizedPath(path);
     const auto real = realLocation(named);
-    if (!real) return deletionRule(named, host_.home, roots_, keptEntries(host_));
-    const KeptPlaces kept(host_);
+    const auto kept = keptPlaces();
+    if (!real) return deletionRule(named, host_.home, roots_, kept.entries());
     return judge(named, kept.namesOf(*real), kept);
 }
 
@@ -140,6 +160,8 @@ DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std:
         const auto other = deletionRule(name, host_.home, realRoots_, kept.entries());
         const bool isRealLocation = &name == &names.front();
         if (!allows(other) && (isRealLocation || other != DeletionRule::outsideHome)) return other;
+        if (other == DeletionRule::buildFolder && !isProvenBuildOutput(name, kept.entries()))
+            return DeletionRule::personalFolder;
     }
     return rule;
 }
@@ -148,15 +170,15 @@ std::optional<DeletablePath> DeletionGuard::approve(const std::string& path) con
     auto named = standardizedPath(path);
     auto real = realLocation(named);
     if (!real) return std::nullopt;
-    const KeptPlaces kept(host_);
+    const auto kept = keptPlaces();
     if (!allows(judge(named, kept.namesOf(*real), kept))) return std::nullopt;
     return DeletablePath(std::move(named), std::move(*real));
 }
 
 ChildGuard DeletionGuard::childGuard(const DeletablePath& folder) const {
-    return [guard = *this, folder, view = View(host_, folder.real())](
+    return [guard = *this, folder, view = View(*this, folder.real())](
                std::string_view name) mutable -> std::optional<DeletablePath> {
-        if (view.isOld()) view = View(guard.host_, folder.real());
+        if (view.isOld()) view = View(guard, folder.real());
         const auto names = view.kept.namesIn(view.names, name);
         auto named = joinPath(folder.named(), name);
         if (!allows(guard.judge(named, names, view.kept)) || view.kept.mustStay(names))

@@ -18,9 +18,11 @@ struct KeptEntries;
 
 /// The rule of the deletion guard that decided about a path.
 enum class DeletionRule {
-    protectedPath,   ///< keys and credentials: never
+    protectedPath,   ///< keys, credentials and profiles: never
+    namedCache,      ///< a cache inside a profile that a row names: yes
     deletableRoot,   ///< scratch space, and what lies in the Trash: yes
     outsideHome,     ///< outside the home folder, or that folder itself: never
+    neverSwept,      ///< other programs' state that only looks like a cache: never
     openFolder,      ///< in the home folder, outside the personal folders: yes
     buildFolder,     ///< in a personal folder, inside build output: yes
     personalFolder,  ///< in a personal folder otherwise: never
@@ -56,10 +58,12 @@ class DeletionGuard {
  private:
     struct View;
 
+    KeptPlaces keptPlaces() const;
     DeletionRule judge(std::string_view named, const std::vector<std::string>& names,
                        const KeptPlaces& kept) const;
 
     Host host_;
+    std::vector<std::string> namedByRows_;
     std::vector<std::string> roots_;
     std::vector<std::string> realRoots_;  ///< where the roots lay when the guard was made
 };

@@ -9,12 +9,41 @@
 
 namespace tidewell {
 
-KeptPlaces::KeptPlaces(const Host& host) : known_(keptEntries(host)), home_(host.home) {
+namespace {
+
+/// What a pattern stands for on the disk; one without stars stands for itself.
+std::vector<std::string> existing(const std::string& pattern) {
+    if (pattern.find('*') == std::string::npos) return {pattern};
+    std::vector<std::string> paths = {""};
+    for (const auto piece : pathPieces(pattern)) {
+        std::vector<std::string> longer;
+        for (const auto& path : paths) {
+            if (!piece.ends_with('*')) {
+                longer.push_back(joinPath(path, piece));
+                continue;
+            }
+            const auto names = folderNames(resolvedPath(path).value_or(path));
+            for (const auto& name : names.value_or(std::vector<std::string>{}))
+                if (isNameOf(piece, name)) longer.push_back(joinPath(path, name));
+        }
+        paths = std::move(longer);
+    }
+    return paths;
+}
+
+}  // namespace
+
+KeptPlaces::KeptPlaces(const Host& host, KeptEntries entries)
+    : known_(std::move(entries)), home_(host.home) {
     addHolders(joinPath(home_, "."));
     for (const auto& folder : known_.personalFolders) keep(folder);
+    for (const auto& profile : known_.profiles)
+        for (const auto& entry : existing(profile)) keep(entry);
     for (const auto& key : known_.keys) {
-        keep(key);
-        keepWhatIsLinkedIn(key);
+        for (const auto& entry : existing(key)) {
+            keep(entry);
+            keepWhatIsLinkedIn(entry);
+        }
     }
 }
 
@@ -101,8 +130,9 @@ bool KeptPlaces::mustStay(const std::vector<std::string>& names) const {
 }
 
 bool KeptPlaces::isInKeys(const std::vector<std::string>& names) const {
-    return std::ranges::any_of(
-        names, [this](const auto& name) { return tidewell::isInKeys(name, known_); });
+    return std::ranges::any_of(names, [this](const auto& name) {
+        return isAtOrBelowAny(name, known_.keys) || isAtOrBelowAny(name, known_.profiles);
+    });
 }
 
 bool KeptPlaces::isPersonal(const std::vector<std::string>& names) const {

@@ -21,7 +21,8 @@ namespace tidewell {
 /// the disk when it is made and when it is asked; any thread but the main one.
 class KeptPlaces {
  public:
-    explicit KeptPlaces(const Host& host);
+    explicit KeptPlaces(const Host& host) : KeptPlaces(host, keptEntries(host)) {}
+    KeptPlaces(const Host& host, KeptEntries entries);
 
     /// The paths by which what stands at a real location is to be judged. The location itself comes
     /// first. Then where else the same thing is mounted, and for what lies in something that is
@@ -37,7 +38,7 @@ class KeptPlaces {
     /// folder: it cannot go as a whole.
     bool mustStay(const std::vector<std::string>& names) const;
 
-    /// Whether what has these names lies in a key, or is one.
+    /// Whether what has these names lies in a key or a profile, or is one.
     bool isInKeys(const std::vector<std::string>& names) const;
 
     /// Whether what has these names lies in a personal folder, or is one.

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "platform/collation.h"
+#include "platform/files.h"
 #include "platform/path_text.h"
 
 namespace tidewell {
@@ -71,14 +72,18 @@ using PathsByName = std::map<std::string, std::vector<std::string>, std::less<>>
 
 PathsByName artifactPaths(const Host& host) {
     PathsByName found;
-    walkFolder(host.home, HiddenEntries::visit, [&found](const WalkEntry& entry) {
+    const auto kept = keptEntries(host);
+    walkFolder(host.home, HiddenEntries::visit, [&found, &kept](const WalkEntry& entry) {
         if (entry.type != EntryType::folder) return Descent::skip;
         if (entry.level == 1 && isSkippedInHome(entry.name)) return Descent::skip;
         if (entry.level >= artifactWalkDepth) return Descent::skip;
-        if (isProjectArtifact(entry.name, entry.siblings)) {
+        const bool isPersonal = personalFolderOf(entry.path, kept) != nullptr;
+        const auto rule = isPersonal ? kept.buildOutput : BuildOutput::byName;
+        if (isProjectArtifact(entry.name, entry.siblings, rule)) {
             found[std::string(entry.name)].emplace_back(entry.path);
             return Descent::skip;
         }
+        if (isArtifactFolderName(entry.name)) return Descent::skip;
         const bool holdsNothing = entry.level == artifactWalkDepth - 1;
         return entry.name.starts_with('.') || holdsNothing ? Descent::skip : Descent::enter;
     });
@@ -103,10 +108,28 @@ std::vector<CleanupTarget> findProjectArtifacts(const Host& host) {
     return targets;
 }
 
-bool isProjectArtifact(std::string_view name, std::span<const FolderEntry> siblings) {
-    if (isArtifactFolderName(name)) return true;
-    if (!isBuildFolderName(name)) return false;
+bool isProjectArtifact(std::string_view name, std::span<const FolderEntry> siblings,
+                       BuildOutput rule) {
+    if (isArtifactFolderName(name) && rule == BuildOutput::byName) return true;
+    if (!isArtifactFolderName(name) && !isBuildFolderName(name)) return false;
     return std::ranges::any_of(siblings, isProjectMarker, &FolderEntry::name);
+}
+
+bool isProvenBuildOutput(std::string_view path, const KeptEntries& kept) {
+    const auto* personal = personalFolderOf(path, kept);
+    if (!personal || kept.buildOutput == BuildOutput::byName) return true;
+    auto folder = *personal;
+    for (const auto piece : pathPieces(pathRelativeTo(path, *personal))) {
+        const bool isArtifact = isArtifactFolderName(piece);
+        if (isArtifact || isBuildFolderName(piece)) {
+            const auto names = folderNames(resolvedPath(folder).value_or(folder));
+            if (names && std::ranges::any_of(*names, isProjectMarker)) return true;
+            // What lies deeper belongs to something that the user keeps.
+            if (isArtifact) return false;
+        }
+        folder = joinPath(folder, piece);
+    }
+    return false;
 }
 
 CleanupTarget artifactTarget(std::string_view name, std::string_view path, const Host& host) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cleanup/cleanup_model.h"
+#include "cleanup/project_artifacts.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
@@ -52,7 +53,9 @@ BigItem::Kind classifyPlace(const std::string& path, std::string_view home,
     if (!real) return kind;
     const auto names = kept.namesOf(*real);
     const auto isPersonal = [&](const std::string& name) {
-        return classifyBigItem(name, home, kept.entries()) == BigItem::Kind::personal;
+        const auto known = classifyBigItem(name, home, kept.entries());
+        return known == BigItem::Kind::personal ||
+               (known == BigItem::Kind::rebuildable && !isProvenBuildOutput(name, kept.entries()));
     };
     const bool staysForTheUser = kept.mustStay(names) || std::ranges::any_of(names, isPersonal);
     return staysForTheUser ? BigItem::Kind::personal : kind;
@@ -75,8 +78,13 @@ BigItem::Kind finalKind(BigItem::Kind classified,
 
 BigItemScanner::BigItemScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 
-std::vector<std::string> BigItemScanner::roots() const {
+/// A personal folder that lies deeper is one as well, so that it never goes as one item.
+std::vector<std::string> BigItemScanner::roots(const KeptEntries& kept) const {
     std::vector<std::string> roots;
+    for (const auto& folder : kept.personalFolders)
+        if (isDeepInHome(folder, host_.home) && std::ranges::find(roots, folder) == roots.end() &&
+            fileKind(folder) == FileKind::folder)
+            roots.push_back(folder);
     for (const auto root : libraryRoots) roots.push_back(joinPath(host_.home, root));
     for (const auto& name : namesIn(host_.home)) {
         auto path = joinPath(host_.home, name);
@@ -86,13 +94,17 @@ std::vector<std::string> BigItemScanner::roots() const {
     return roots;
 }
 
-/// No path can come twice: no two roots are the same folder, and each lists its own entries only.
-std::vector<std::string> BigItemScanner::candidates() const {
+/// No path can come twice: no two roots are the same folder, each lists its own entries only, and
+/// none that is or holds a root.
+std::vector<std::string> BigItemScanner::candidates(const KeptEntries& kept) const {
     std::vector<std::string> paths;
-    for (const auto& root : roots()) {
+    const auto roots = this->roots(kept);
+    for (const auto& root : roots) {
         for (const auto& name : namesIn(root)) {
             auto path = joinPath(root, name);
-            if (fileExists(path)) paths.push_back(std::move(path));
+            const bool holdsRoot = std::ranges::any_of(
+                roots, [&path](const auto& other) { return isAtOrBelow(other, path); });
+            if (!holdsRoot && fileExists(path)) paths.push_back(std::move(path));
         }
     }
     return paths;
@@ -115,8 +127,8 @@ BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
 }
 
 std::vector<BigItem> BigItemScanner::scan(const Progress& progress, MeasuredFolders* known) const {
-    const auto paths = candidates();
     const KeptPlaces kept(host_);
+    const auto paths = candidates(kept.entries());
     std::vector<BigItem> items;
     std::size_t measured = 0;
     for (const auto& path : paths) {

@@ -68,8 +68,8 @@ class BigItemScanner {
     PuttingBack putBack(const TrashedItem& item) const { return tidewell::putBack(item, host_); }
 
  private:
-    std::vector<std::string> roots() const;
-    std::vector<std::string> candidates() const;
+    std::vector<std::string> roots(const KeptEntries& kept) const;
+    std::vector<std::string> candidates(const KeptEntries& kept) const;
     BigItem describe(const std::string& path, ByteCount size, const KeptPlaces& kept) const;
 
     Host host_;

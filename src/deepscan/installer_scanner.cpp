@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "cleanup/user_dirs.h"
 #include "platform/dates.h"
 #include "platform/disk_usage.h"
 #include "platform/folder_walk.h"
@@ -39,6 +40,19 @@ std::string ago(std::int64_t count, std::string_view unit) {
     return std::to_string(count) + " " + std::string(unit) + (count == 1 ? "" : "s") + " ago";
 }
 
+/// The usual ones, and what the user's desktop calls them; no place that lies in another.
+std::vector<std::string> placesOfDownloads(const Host& host) {
+    std::vector<std::string> places;
+    const auto add = [&places](const std::string& place) {
+        const auto isInside = [&place](const auto& other) { return isAtOrBelow(place, other); };
+        if (std::ranges::none_of(places, isInside)) places.push_back(place);
+    };
+    for (const auto name : downloadPlaces) add(joinPath(host.home, name));
+    for (const auto& dir : userDirs(host))
+        if (dir.kind == "DOWNLOAD" || dir.kind == "DESKTOP") add(dir.path);
+    return places;
+}
+
 }  // namespace
 
 std::string_view installerExtension(std::string_view path) {
@@ -66,13 +80,12 @@ InstallerScanner::InstallerScanner(Host host) : host_(std::move(host)) {}
 /// is a package.
 std::vector<std::string> InstallerScanner::installerPaths() const {
     std::vector<std::string> paths;
-    for (const auto place : downloadPlaces) {
-        walkFolder(joinPath(host_.home, place), HiddenEntries::passOver,
-                   [&paths](const WalkEntry& entry) {
-                       if (entry.level >= installerMaximumLevel) return Descent::skip;
-                       if (!installerExtension(entry.name).empty()) paths.emplace_back(entry.path);
-                       return Descent::enter;
-                   });
+    for (const auto& place : placesOfDownloads(host_)) {
+        walkFolder(place, HiddenEntries::passOver, [&paths](const WalkEntry& entry) {
+            if (entry.level >= installerMaximumLevel) return Descent::skip;
+            if (!installerExtension(entry.name).empty()) paths.emplace_back(entry.path);
+            return Descent::enter;
+        });
     }
     return paths;
 }

@@ -78,11 +78,10 @@ TEST(TargetCatalogue, NeverComesNearKeysAndCredentials) {
     };
     for (const auto& target : cleanupCatalogue(machine.host()))
         for (const auto& stored : target.paths)
-            for (const auto entry : protectedHomePaths) {
-                const auto key = joinPath(machine.home(), entry);
+            for (const auto& key : keptEntries(machine.host()).keys) {
                 const auto path = machine.host().expand(stored);
                 const bool meets = isAtOrBelow(key, path) || isAtOrBelow(path, key);
-                EXPECT_TRUE(!meets || shielded(target, key)) << target.id << " and " << entry;
+                EXPECT_TRUE(!meets || shielded(target, key)) << target.id << " and " << key;
             }
 }
 

@@ -29,6 +29,10 @@ std::string_view nameOf(DeletionRule rule) {
     switch (rule) {
         case DeletionRule::protectedPath:
             return "protected";
+        case DeletionRule::namedCache:
+            return "named-cache";
+        case DeletionRule::neverSwept:
+            return "never-swept";
         case DeletionRule::deletableRoot:
             return "deletable-root";
         case DeletionRule::outsideHome:
@@ -47,6 +51,10 @@ std::string_view sentenceFor(DeletionRule rule) {
     switch (rule) {
         case DeletionRule::protectedPath:
             return "No: keys and credentials are never removed.";
+        case DeletionRule::namedCache:
+            return "Yes, if you pick it: a cache inside a program's protected profile.";
+        case DeletionRule::neverSwept:
+            return "No: it looks like a cache, but holds what nothing can make anew.";
         case DeletionRule::deletableRoot:
             return "Yes: scratch space that the system clears anyway.";
         case DeletionRule::outsideHome:

@@ -4,15 +4,19 @@
 
 #include <cerrno>
 
+#include "platform/posix/reach.h"
+
 namespace tidewell {
 
 std::optional<Identity> identityOf(const std::string& path) {
+    if (posix::isOutOfReach(path, posix::LastLink::keep)) return std::nullopt;
     struct stat status;
     if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
     return Identity{.disk = status.st_dev, .number = status.st_ino};
 }
 
 bool isSurelyMissing(const std::string& path) {
+    if (posix::isOutOfReach(path, posix::LastLink::keep)) return false;
     struct stat status;
     return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
