@@ -91,7 +91,9 @@ bool isNameOf(std::string_view pattern, std::string_view name) {
 }
 
 bool isAtOrBelowPattern(std::string_view path, std::string_view pattern) {
-    if (pattern.find('*') == std::string_view::npos) return isAtOrBelow(path, pattern);
+    const auto star = pattern.find('*');
+    if (star == std::string_view::npos) return isAtOrBelow(path, pattern);
+    if (!path.starts_with(pattern.substr(0, star))) return false;  // spares taking it apart
     const auto pieces = pathPieces(path);
     const auto wanted = pathPieces(pattern);
     if (pieces.size() < wanted.size()) return false;
