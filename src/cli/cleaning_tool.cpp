@@ -38,8 +38,8 @@ ExitStatus cleanToEnd(const Context& context, CleaningSession& session, Task<> c
     return leftSomething ? ExitStatus::leftBehind : ExitStatus::done;
 }
 
-void printFailures(const std::vector<std::string>& failedTitles) {
-    const auto note = failureNote(failedTitles);
+void printFailures(const std::vector<std::string>& failedTitles, System system) {
+    const auto note = failureNote(failedTitles, system);
     if (!note) return;
     printLine(inked(notCleanedTitle, Ink::careful));
     printLine("  " + terminalText(*note));

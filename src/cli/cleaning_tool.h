@@ -19,6 +19,6 @@ std::optional<WrongCall> tickAsWished(CleaningSession& session, const SelectionW
 ExitStatus cleanToEnd(const Context& context, CleaningSession& session, Task<> cleaning);
 
 /// Says what could not be removed, if there was anything.
-void printFailures(const std::vector<std::string>& failedTitles);
+void printFailures(const std::vector<std::string>& failedTitles, System system);
 
 }  // namespace tidewell::cli

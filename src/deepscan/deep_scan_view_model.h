@@ -53,6 +53,8 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     /// How the last move came to be undone, until the next move or scan.
     Published<std::optional<PutBackOutcome>> lastPutBack{willChange};
 
+    const System system;  ///< of the machine that is looked through
+
     ByteCount totalBytes() const { return tidewell::totalBytes(items()); }
 
     /// Does nothing during a scan. Ends when the scan has ended.

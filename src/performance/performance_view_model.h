@@ -23,7 +23,7 @@ class PerformanceViewModel : public std::enable_shared_from_this<PerformanceView
     /// How long after a request to quit the list is read again.
     static constexpr std::chrono::milliseconds timeToClose{900};
 
-    explicit PerformanceViewModel(const Host& host) : service(host) {}
+    explicit PerformanceViewModel(const Host& host) : service(host), system(host.system) {}
 
     /// Fired before each change of what follows.
     Signal willChange;
@@ -41,6 +41,7 @@ class PerformanceViewModel : public std::enable_shared_from_this<PerformanceView
     Published<std::optional<std::string>> lastMessage{willChange};
 
     const PerformanceService service;
+    const System system;  ///< of the machine that is looked at
 
     /// Used memory as a share of all, from 0 to 1; 0 while the total is not known.
     double memoryFraction() const;

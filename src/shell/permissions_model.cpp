@@ -31,6 +31,16 @@ PermissionsModel::PermissionsModel(Host host, Workspace workspace, Signal& didBe
     activationObserver_ = onActivation(didBecomeActive, *this, &PermissionsModel::look);
 }
 
+bool PermissionsModel::hasAccessToGrant() const {
+    switch (host_.system) {
+        case System::macOS:
+            return true;
+        case System::linux:
+            return false;
+    }
+    return false;
+}
+
 void PermissionsModel::openSettings() const {
     workspace_.openUrl(accessSettings);
 }

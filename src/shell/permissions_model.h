@@ -23,6 +23,11 @@ class PermissionsModel : public std::enable_shared_from_this<PermissionsModel> {
     /// Published at every look, also when it is the same as before.
     Published<bool> hasFullDiskAccess{willChange, false};
 
+    /// Whether the machine's system has such an access at all. Where it has none, nothing is ever
+    /// shown of it.
+    bool hasAccessToGrant() const;
+    bool asksForAccess() const { return hasAccessToGrant() && !hasFullDiskAccess(); }
+
     /// Opens the settings where the access is granted.
     void openSettings() const;
     /// Shows the program itself in the file manager, to be dragged from there into the settings.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "async/executor.h"
+#include "kit/words.h"
 
 namespace tidewell {
 
@@ -69,11 +70,11 @@ std::string SmartScanController::detail() const {
         case Phase::clean:
             return cleanup->currentTarget().value_or("measuring caches…");
         case Phase::apps:
-            return "reading /Applications…";
+            return std::string(wordsOf(cleanup->system()).readingApplications);
         case Phase::deepScan:
             return "walking your home folder…";
         case Phase::advisor:
-            return "asking simctl and tmutil…";
+            return std::string(wordsOf(cleanup->system()).askingTools);
         case Phase::idle:
         case Phase::done:
             break;

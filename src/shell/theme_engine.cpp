@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "kit/words.h"
 #include "platform/volume.h"
 #include "shell/activation.h"
 
@@ -29,9 +30,11 @@ constexpr std::array levels{
                  .healthRGB = {0.98, 0.55, 0.24}}},
 };
 
-constexpr ThemePalette critical{.label = "Critical",
-                                .message = "Critical. Your Mac's about to feel it. Clean now.",
-                                .healthRGB = {0.96, 0.26, 0.37}};
+ThemePalette critical(System system) {
+    return {.label = "Critical",
+            .message = wordsOf(system).criticalSpace,
+            .healthRGB = {0.96, 0.26, 0.37}};
+}
 
 double share(ByteCount free, ByteCount total) {
     return total < 1 ? 0.0 : static_cast<double>(free) / static_cast<double>(total);
@@ -39,13 +42,14 @@ double share(ByteCount free, ByteCount total) {
 
 }  // namespace
 
-ThemePalette themePalette(double freeFraction) {
+ThemePalette themePalette(double freeFraction, System system) {
     for (const auto& level : levels)
         if (freeFraction >= level.atLeast) return level.palette;
-    return critical;
+    return critical(system);
 }
 
-ThemeEngine::ThemeEngine(const Host& host, Signal& didBecomeActive) : home_(host.home) {
+ThemeEngine::ThemeEngine(const Host& host, Signal& didBecomeActive)
+    : home_(host.home), system_(host.system) {
     refresh();
     activationObserver_ = onActivation(didBecomeActive, *this, &ThemeEngine::refresh);
 }
@@ -59,7 +63,7 @@ void ThemeEngine::refresh() {
     if (!capacity || capacity->total < 1) return;
     freeBytes = capacity->available;
     totalBytes = capacity->total;
-    palette = themePalette(freeFraction());
+    palette = themePalette(freeFraction(), system_);
 }
 
 }  // namespace tidewell

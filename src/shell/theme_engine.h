@@ -21,7 +21,7 @@ struct ThemePalette {
 };
 
 /// The level of a share of free space; a share that is not a number is critical.
-ThemePalette themePalette(double freeFraction);
+ThemePalette themePalette(double freeFraction, System system);
 
 /// The free space of the home folder's volume and its level of health. It is read at the start,
 /// whenever the program comes to the front, and on request; what cannot be read leaves all as it
@@ -35,13 +35,14 @@ class ThemeEngine : public std::enable_shared_from_this<ThemeEngine> {
 
     Published<ByteCount> freeBytes{willChange, 0};
     Published<ByteCount> totalBytes{willChange, 1};
-    Published<ThemePalette> palette{willChange, themePalette(1.0)};
+    Published<ThemePalette> palette{willChange, themePalette(1.0, System::macOS)};
 
     double freeFraction() const;
     void refresh();
 
  private:
     std::string home_;
+    System system_;
     Subscription activationObserver_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <future>
+#include <regex>
 
 #include "cli/furnished_machine.h"
 #include "platform/json.h"
@@ -247,6 +248,38 @@ TEST(CommandLine, AsksARunningApplicationToQuit) {
     EXPECT_TRUE(*at(quit, "asked").boolean());
     EXPECT_EQ(run(machine, {"quit", pid}).status, 2);  // it is listed no more
     EXPECT_EQ(run(machine, {"quit", "1"}).status, 2);
+}
+
+TEST(CommandLine, NamesNoOtherSystemOnALinuxMachine) {
+    const SampleMachine machine(System::linux);
+    machine.file("~/.npm/one");
+    machine.file("~/Games/big/assets", 90 * megabyte);
+    machine.file("~/Code/repository/precious");
+    machine.link("~/.m2", machine.path("~/Code"));
+    const std::regex otherSystem(
+        "Mac|macOS|Apple|Finder|Xcode|iOS|System Settings|Full Disk|FullDisk");
+    const Words calls[] = {{"--help"},
+                           {"clean", "--help"},
+                           {"advisor", "--help"},
+                           {"scan"},
+                           {"clean"},
+                           {"clean", "--select", "all", "--yes"},
+                           {"clean"},
+                           {"dev"},
+                           {"deep-scan"},
+                           {"trash", machine.path("~/Games/big"), "--yes"},
+                           {"apps"},
+                           {"advisor"},
+                           {"performance"},
+                           {"status"},
+                           {"status", "--json"}};
+    for (const auto& words : calls) {
+        const auto ended = run(machine, words);
+        EXPECT_FALSE(std::regex_search(ended.output, otherSystem))
+            << testing::PrintToString(words) << ended.output;
+        EXPECT_NE(ended.output, "") << testing::PrintToString(words) << ended.errors;
+    }
+    EXPECT_EQ(*at(documentOf(machine, {"status"}), "system").text(), "linux");
 }
 
 TEST(CommandLine, EndsAtOnceWhenInterruptedDuringAScan) {

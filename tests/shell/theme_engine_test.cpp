@@ -20,8 +20,9 @@ TEST(ThemePalettes, ChangeAtTheirLowerBounds) {
                 {0.15, "Filling up"},    {0.1499, "Running low"}, {0.08, "Running low"},
                 {0.0799, "Critical"},    {0.0, "Critical"},       {-1.0, "Critical"},
                 {notANumber, "Critical"}};
-    for (const auto& row : rows) EXPECT_EQ(themePalette(row.free).label, row.label) << row.free;
-    EXPECT_EQ(themePalette(0).healthRGB, destructiveRed);
+    for (const auto& row : rows)
+        EXPECT_EQ(themePalette(row.free, System::macOS).label, row.label) << row.free;
+    EXPECT_EQ(themePalette(0, System::linux).healthRGB, destructiveRed);
 }
 
 class ThemeEngineTest : public testing::Test {
@@ -41,7 +42,7 @@ TEST_F(ThemeEngineTest, ReadsTheVolumeOfTheHomeFolderAtOnce) {
     const auto engine = makeEngine(machine.home());
     EXPECT_EQ(engine->totalBytes(), volumeCapacity(machine.home())->total);
     EXPECT_GT(engine->freeBytes(), 0);
-    EXPECT_EQ(engine->palette(), themePalette(engine->freeFraction()));
+    EXPECT_EQ(engine->palette(), themePalette(engine->freeFraction(), System::macOS));
 }
 
 TEST_F(ThemeEngineTest, KeepsWhatItKnewWhenTheVolumeCannotBeRead) {

@@ -30,6 +30,17 @@ void writeText(const std::string& path, std::string_view content) {
     std::ofstream(path, std::ios::binary) << content;
 }
 
+std::vector<const char*> foldersOf(System system) {
+    switch (system) {
+        case System::macOS:
+            return {"/Users/ada", "/Users/Shared",         "/Applications",
+                    "/Library",   "/var/folders/zz/ada/T", "/var/folders/zz/ada/C"};
+        case System::linux:
+            return {"/home/ada/.cache", "/home/ada/.config", "/home/ada/.local/share", "/usr"};
+    }
+    return {};
+}
+
 std::string infoDictionary(const std::vector<std::pair<std::string, std::string>>& info) {
     std::string text =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict>\n";
@@ -40,23 +51,18 @@ std::string infoDictionary(const std::vector<std::pair<std::string, std::string>
 
 }  // namespace
 
-SampleMachine::SampleMachine() {
+SampleMachine::SampleMachine(System system) {
     folder_.emplace();
-    layOut(folder_->path());
+    layOut(folder_->path(), system);
 }
 
-SampleMachine::SampleMachine(const std::string& root) {
+SampleMachine::SampleMachine(const std::string& root, System system) {
     if (!fs::create_directory(root)) throw std::runtime_error(root + " is there already");
-    layOut(root);
+    layOut(root, system);
 }
 
-void SampleMachine::layOut(const std::string& root) {
-    fs::create_directories(root + "/Users/ada");
-    fs::create_directories(root + "/Users/Shared");
-    fs::create_directories(root + "/Applications");
-    fs::create_directories(root + "/Library");
-    fs::create_directories(root + "/var/folders/zz/ada/T");
-    fs::create_directories(root + "/var/folders/zz/ada/C");
+void SampleMachine::layOut(const std::string& root, System system) {
+    for (const auto* folder : foldersOf(system)) fs::create_directories(root + folder);
     auto found = findHost({.root = root});
     if (!found.host) throw std::runtime_error(found.problem);
     host_ = std::move(*found.host);

@@ -22,9 +22,9 @@ inline constexpr ByteCount megabyte = 1024 * kilobyte;
 class SampleMachine {
  public:
     /// In a temporary folder, gone with the object.
-    SampleMachine();
+    explicit SampleMachine(System system = System::macOS);
     /// In a folder that is made for it and stays. Throws if the folder is there already.
-    explicit SampleMachine(const std::string& root);
+    explicit SampleMachine(const std::string& root, System system = System::macOS);
 
     const Host& host() const { return host_; }
     const std::string& root() const { return host_.root; }
@@ -56,7 +56,7 @@ class SampleMachine {
     std::string contentOf(std::string_view machinePath) const;
 
  private:
-    void layOut(const std::string& root);
+    void layOut(const std::string& root, System system);
 
     std::optional<TemporaryFolder> folder_;
     Host host_;

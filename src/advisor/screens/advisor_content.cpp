@@ -2,29 +2,25 @@
 
 #include "kit/byte_text.h"
 #include "kit/count_text.h"
+#include "kit/words.h"
 #include "platform/dates.h"
 
 namespace tidewell {
 
 namespace {
 
-constexpr AdvisorNotice startNotice{
-    .symbol = "wand.and.stars",
-    .title = "",
-    .line = "Pro cleanups with Apple's own tools. No admin, nothing hidden.",
-};
+AdvisorNotice startNotice(const Words& words) {
+    return {.symbol = "wand.and.stars", .title = "", .line = words.advisorStart};
+}
 
-constexpr AdvisorNotice scanningNotice{
-    .symbol = "wand.and.stars",
-    .title = "",
-    .line = "Checking simulators, snapshots, Docker…",
-};
+AdvisorNotice scanningNotice(const Words& words) {
+    return {.symbol = "wand.and.stars", .title = "", .line = words.advisorScanning};
+}
 
-constexpr AdvisorNotice allClearNotice{
-    .symbol = "checkmark.seal.fill",
-    .title = "You're all good",
-    .line = "No runtimes, dead simulators, snapshots, or Docker bloat to trim.",
-};
+AdvisorNotice allClearNotice(const Words& words) {
+    return {
+        .symbol = "checkmark.seal.fill", .title = "You're all good", .line = words.advisorAllClear};
+}
 
 constexpr const char* runtimesBody =
     "A runtime is just the copy of iOS your Simulator boots. Your code and projects aren't in it. "
@@ -145,7 +141,7 @@ AdvisorContent listContent(const AdvisorViewModel& model, Date now) {
         .notice = std::nullopt,
         .cards = cards(model, now),
     };
-    if (!model.hasFindings()) content.notice = allClearNotice;
+    if (!model.hasFindings()) content.notice = allClearNotice(wordsOf(model.system));
     return content;
 }
 
@@ -158,9 +154,10 @@ AdvisorContent noticeContent(AdvisorViewModel::Phase phase, const AdvisorNotice&
 AdvisorContent advisorContent(const AdvisorViewModel& model, Date now) {
     switch (model.phase()) {
         case AdvisorViewModel::Phase::idle:
-            return noticeContent(AdvisorViewModel::Phase::idle, startNotice);
+            return noticeContent(AdvisorViewModel::Phase::idle, startNotice(wordsOf(model.system)));
         case AdvisorViewModel::Phase::scanning:
-            return noticeContent(AdvisorViewModel::Phase::scanning, scanningNotice);
+            return noticeContent(AdvisorViewModel::Phase::scanning,
+                                 scanningNotice(wordsOf(model.system)));
         case AdvisorViewModel::Phase::list:
             return listContent(model, now);
     }

@@ -66,10 +66,7 @@ struct AdvisorContent {
     std::vector<AdvisorCard> cards;
 };
 
-inline constexpr std::string_view advisorScanLabel = "Check My Mac";
 inline constexpr std::string_view advisorRescanLabel = "Rescan";
-inline constexpr std::string_view advisorSubtitle =
-    "Runs Apple's own tools as you. No admin password, nothing hidden.";
 inline constexpr std::string_view advisorMessageSymbol = "info.circle.fill";
 inline constexpr std::string_view advisorDismissSymbol = "xmark";
 inline constexpr std::string_view advisorDismissLabel = "Dismiss";

@@ -9,6 +9,7 @@
 #include "kit/qt/list_model.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 
 namespace tidewell {
 
@@ -62,9 +63,9 @@ class AdvisorScreen final : public Screen {
     static QString questionTitle() { return toText(RuntimeDeleteConfirmation::title); }
     static QString confirmLabel() { return toText(RuntimeDeleteConfirmation::confirmLabel); }
     static QString cancelLabel() { return toText(RuntimeDeleteConfirmation::cancelLabel); }
-    static QString scanLabel() { return toText(advisorScanLabel); }
+    QString scanLabel() const { return toText(wordsOf(model_->system).checkMachine); }
     static QString rescanLabel() { return toText(advisorRescanLabel); }
-    static QString subtitle() { return toText(advisorSubtitle); }
+    QString subtitle() const { return toText(wordsOf(model_->system).advisorTools); }
     static QString messageSymbol() { return toText(advisorMessageSymbol); }
     static QString dismissSymbol() { return toText(advisorDismissSymbol); }
     static QString dismissLabel() { return toText(advisorDismissLabel); }

@@ -7,6 +7,7 @@
 #include "cleanup/screens/scan_content.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 
 namespace tidewell {
 
@@ -49,7 +50,7 @@ class CleanedScreen final : public Screen {
     static QString cleaningTitle() { return toText(tidewell::cleaningTitle); }
     static QString cleaningSymbol() { return toText(tidewell::cleaningSymbol); }
     static QString doneTitle() { return toText(allCleanTitle); }
-    static QString doneLine() { return toText(allCleanLine); }
+    QString doneLine() const { return toText(wordsOf(model_->system()).allClean); }
     static QString freeSpaceSymbol() { return toText(tidewell::freeSpaceSymbol); }
     static QString failureTitle() { return toText(notCleanedTitle); }
     static QString failureSymbol() { return toText(notCleanedSymbol); }

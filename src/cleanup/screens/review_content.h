@@ -12,7 +12,6 @@ namespace tidewell {
 // Every word, figure and condition of the review screen, from the view model's values. Pure.
 
 inline constexpr std::string_view nothingToCleanTitle = "Nothing to clean";
-inline constexpr std::string_view nothingToCleanLine = "Zero junk found. Your Mac's already tidy.";
 inline constexpr std::string_view nothingToCleanSymbol = "checkmark.seal.fill";
 inline constexpr std::string_view scanAgainLabel = "Scan Again";
 inline constexpr std::string_view reviewSubtitle =

@@ -10,6 +10,7 @@
 #include "kit/qt/list_model.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "shell/theme_engine.h"
 
 namespace tidewell {
@@ -61,7 +62,7 @@ class ReviewScreen final : public Screen {
     QString pickedLine() const { return toText(content_.pickedLine); }
     QString freeAfterLine() const { return toText(content_.freeAfterLine); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
-    static QString emptyLine() { return toText(nothingToCleanLine); }
+    QString emptyLine() const { return toText(wordsOf(model_->system()).nothingToClean); }
     static QString emptySymbol() { return toText(nothingToCleanSymbol); }
     static QString scanAgainLabel() { return toText(tidewell::scanAgainLabel); }
     static QString subtitle() { return toText(reviewSubtitle); }

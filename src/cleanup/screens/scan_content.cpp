@@ -2,38 +2,37 @@
 
 #include "kit/byte_text.h"
 #include "kit/percent_text.h"
+#include "kit/words.h"
 
 namespace tidewell {
 
 namespace {
 
-constexpr std::string_view idleCaption = "Finds junk your Mac can rebuild. You choose what goes.";
 constexpr std::string_view scanningCaption = "Just looking. Nothing gets deleted.";
-constexpr std::string_view failureAdvice =
-    " macOS may need Full Disk Access for these. Grant it in System Settings ▸ Privacy & "
-    "Security.";
 
 }  // namespace
 
 ScanContent scanContent(const CleanupViewModel& model, ByteCount totalFreedBytes) {
     const bool isScanning = model.phase() == CleanupViewModel::Phase::scanning;
-    ScanContent content{.caption = isScanning ? scanningCaption : idleCaption,
-                        .soFar = std::nullopt,
-                        .percent = percentText(model.scanProgress()),
-                        .isScanning = isScanning};
+    ScanContent content{
+        .caption = isScanning ? scanningCaption : wordsOf(model.system()).junkCaption,
+        .soFar = std::nullopt,
+        .percent = percentText(model.scanProgress()),
+        .isScanning = isScanning};
     if (!isScanning && totalFreedBytes >= 1)
         content.soFar = "+" + byteText(totalFreedBytes) + " so far";
     return content;
 }
 
-std::optional<std::string> failureNote(const std::vector<std::string>& failedTitles) {
+std::optional<std::string> failureNote(const std::vector<std::string>& failedTitles,
+                                       System system) {
     if (failedTitles.empty()) return std::nullopt;
     std::string titles;
     for (const auto& title : failedTitles) {
         if (!titles.empty()) titles += ", ";
         titles += title;
     }
-    return titles + "." + std::string(failureAdvice);
+    return titles + ". " + std::string(wordsOf(system).failureAdvice);
 }
 
 CleanedContent cleanedContent(const CleanupViewModel& model) {
@@ -44,7 +43,7 @@ CleanedContent cleanedContent(const CleanupViewModel& model) {
         .ringLine = hasFreed ? "reclaimed" : "All done",
         .freeBefore = byteText(model.freeSpaceBefore()),
         .freeAfter = byteText(model.freeSpaceAfter()) + " free",
-        .failureNote = failureNote(model.failedTitles()),
+        .failureNote = failureNote(model.failedTitles(), model.system()),
         .isCleaning = model.phase() == CleanupViewModel::Phase::cleaning,
     };
     if (hasFreed) content.reclaimed = model.freedBytes();

@@ -12,12 +12,10 @@ namespace tidewell {
 // Every word and figure of the Clean tool's first screen (before and during a scan) and of its last
 // (during and after a clean). Pure.
 
-inline constexpr std::string_view scanButtonLabel = "Scan My Mac";
 inline constexpr std::string_view scanSymbol = "sparkles";
 inline constexpr std::string_view scanningWord = "scanning";
 inline constexpr std::string_view soFarSymbol = "arrow.up.right";
 inline constexpr std::string_view allCleanTitle = "All clean!";
-inline constexpr std::string_view allCleanLine = "Your Mac just got lighter.";
 inline constexpr std::string_view cleaningTitle = "Cleaning";
 inline constexpr std::string_view cleaningSymbol = "sparkles";
 inline constexpr std::string_view freeSpaceSymbol = "arrow.right";
@@ -36,7 +34,7 @@ struct ScanContent {
 ScanContent scanContent(const CleanupViewModel& model, ByteCount totalFreedBytes);
 
 /// What to tell about titles that could not be removed; absent if there are none.
-std::optional<std::string> failureNote(const std::vector<std::string>& failedTitles);
+std::optional<std::string> failureNote(const std::vector<std::string>& failedTitles, System system);
 
 struct CleanedContent {
     std::string percent;                     ///< while the clean runs

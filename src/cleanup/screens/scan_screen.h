@@ -8,6 +8,7 @@
 #include "cleanup/screens/scan_content.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 
 namespace tidewell {
 
@@ -36,7 +37,7 @@ class ScanScreen final : public Screen {
     QString caption() const { return toText(content_.caption); }
     /// Empty when there is nothing to tell.
     QString soFar() const { return toText(content_.soFar.value_or("")); }
-    static QString scanLabel() { return toText(scanButtonLabel); }
+    QString scanLabel() const { return toText(wordsOf(model_->system()).scanMachine); }
     static QString scanSymbol() { return toText(tidewell::scanSymbol); }
     static QString scanningWord() { return toText(tidewell::scanningWord); }
     static QString soFarSymbol() { return toText(tidewell::soFarSymbol); }

@@ -3,6 +3,7 @@
 #include "cli/interruption.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
+#include "kit/words.h"
 #include "platform/dates.h"
 #include "platform/text.h"
 
@@ -63,7 +64,7 @@ void printRuntime(const AdvisorRuntimeRow& row) {
 void printFindings(const AdvisorViewModel& model) {
     const auto content = advisorContent(model, now());
     printLine(inked(content.headline, Ink::strong));
-    printLine(advisorSubtitle);
+    printLine(wordsOf(model.system).advisorTools);
     if (content.notice) printLine(content.notice->line);
     for (const auto& card : content.cards) {
         printLine();

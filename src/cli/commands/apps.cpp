@@ -7,6 +7,7 @@
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
+#include "kit/words.h"
 #include "platform/dates.h"
 #include "platform/text.h"
 
@@ -22,8 +23,8 @@ constexpr int sizeColumns = 10;
 Model scannedModel(const Context& context) {
     const auto model = std::make_shared<AppsViewModel>(context.host);
     ProgressLine progress;
-    const auto showing = onChanged(model->willChange, [&progress, &model] {
-        progress.show(model->scanProgress(), "reading /Applications…");
+    const auto showing = onChanged(model->willChange, [&] {
+        progress.show(model->scanProgress(), wordsOf(context.host.system).readingApplications);
     });
     runToEnd(context.loop, model->scan());
     return model;

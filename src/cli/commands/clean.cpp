@@ -8,6 +8,7 @@
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
+#include "kit/words.h"
 
 namespace tidewell::cli {
 
@@ -28,7 +29,7 @@ void printReview(const Model& model, Consent consent) {
     const auto review = reviewContent(*model, std::nullopt, model->freeSpaceBefore());
     if (review.isEmpty) {
         printLine(inked(nothingToCleanTitle, Ink::strong));
-        printLine(nothingToCleanLine);
+        printLine(wordsOf(model->system()).nothingToClean);
         return;
     }
     printLine(inked(review.headline, Ink::strong));
@@ -55,7 +56,7 @@ void printResult(const Model& model) {
         printLine(inked(result.ringLine, Ink::strong) + ".");
     }
     printLine(result.freeBefore + " → " + result.freeAfter);
-    printFailures(model->failedTitles());
+    printFailures(model->failedTitles(), model->system());
 }
 
 Value document(const Model& model, Consent consent) {

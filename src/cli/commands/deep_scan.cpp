@@ -26,8 +26,8 @@ Model scannedModel(const Context& context) {
     return model;
 }
 
-void printBigItem(const BigItem& item) {
-    const auto card = bigItemCard(item, {});
+void printBigItem(const BigItem& item, System system) {
+    const auto card = bigItemCard(item, {}, system);
     printLine("  " + leftAligned(terminalText(item.name), nameColumns) +
               rightAligned(card.size, sizeColumns) + "  " +
               inked(terminalText(item.location), Ink::faint));
@@ -48,7 +48,8 @@ void printList(const DeepScanViewModel& model) {
         printLine();
         printLine(inked(row.look.title, Ink::strong) + "  " + inked(row.line, Ink::faint));
         printLine(inked(row.look.subtitle, Ink::faint));
-        for (const auto& item : itemsIn(row.bucket, model.items())) printBigItem(item);
+        for (const auto& item : itemsIn(row.bucket, model.items()))
+            printBigItem(item, model.system);
     }
     printLine();
     printLine("Just looking: nothing was moved. tidewell-cli trash ID moves an item to the Trash.");
@@ -111,7 +112,7 @@ ExitStatus reportOutcomes(const Context& context, const Outcomes& outcomes, std:
     for (const auto& outcome : outcomes) {
         if (!outcome.success) status = ExitStatus::leftBehind;
         if (context.form == OutputForm::json) continue;
-        printLine(inked(terminalText(trashBanner(outcome).text),
+        printLine(inked(terminalText(trashBanner(outcome, context.host.system).text),
                         outcome.success ? Ink::good : Ink::careful));
         if (!outcome.success) printLine("  " + terminalText(outcome.reason));
     }

@@ -20,7 +20,8 @@ struct Status {
     std::shared_ptr<ThemeEngine> theme;
     ByteCount totalFreedBytes = 0;
     std::optional<Date> lastCleanup;
-    bool hasFullDiskAccess = false;
+    System system = System::macOS;
+    std::optional<bool> hasFullDiskAccess;  ///< absent where there is none to grant
     bool isDeveloper = false;
 };
 
@@ -29,13 +30,31 @@ Status readStatus(const Host& host) {
     const UserDefaults defaults(host.configurationDirectory);
     const auto permissions =
         std::make_shared<PermissionsModel>(host, desktopWorkspace(host), neverActivated);
+    std::optional<bool> access;
+    if (permissions->hasAccessToGrant()) access = permissions->hasFullDiskAccess();
     return {
         .theme = std::make_shared<ThemeEngine>(host, neverActivated),
         .totalFreedBytes = defaults.integer(totalFreedBytesKey),
         .lastCleanup = lastCleanupDate(defaults.real(lastCleanupAtKey)),
-        .hasFullDiskAccess = permissions->hasFullDiskAccess(),
+        .system = host.system,
+        .hasFullDiskAccess = access,
         .isDeveloper = isDeveloperMachine(host),
     };
+}
+
+/// The document of a machine of the system that was served first does not say which it is.
+std::optional<std::string_view> nameToTell(System system) {
+    switch (system) {
+        case System::macOS:
+            return std::nullopt;
+        case System::linux:
+            return "linux";
+    }
+    return std::nullopt;
+}
+
+std::string yesOrNo(bool answer) {
+    return answer ? "yes" : "no";
 }
 
 Value document(const Status& status) {
@@ -48,7 +67,9 @@ Value document(const Status& status) {
         {"totalFreedBytes", status.totalFreedBytes},
     };
     if (status.lastCleanup) shape.emplace_back("lastCleanupAt", iso8601(*status.lastCleanup));
-    shape.emplace_back("hasFullDiskAccess", status.hasFullDiskAccess);
+    if (const auto name = nameToTell(status.system)) shape.emplace_back("system", *name);
+    if (status.hasFullDiskAccess)
+        shape.emplace_back("hasFullDiskAccess", *status.hasFullDiskAccess);
     shape.emplace_back("isDeveloperMachine", status.isDeveloper);
     return shape;
 }
@@ -65,8 +86,9 @@ void print(const Status& status) {
     printLine("  Last cleanup        " + (status.lastCleanup
                                               ? relativeDateAndTime(*status.lastCleanup, now())
                                               : std::string("never")));
-    printLine("  Full Disk Access    " + std::string(status.hasFullDiskAccess ? "yes" : "no"));
-    printLine("  Developer machine   " + std::string(status.isDeveloper ? "yes" : "no"));
+    if (status.hasFullDiskAccess)
+        printLine("  Full Disk Access    " + yesOrNo(*status.hasFullDiskAccess));
+    printLine("  Developer machine   " + yesOrNo(status.isDeveloper));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "kit/byte_text.h"
 #include "kit/silent_mounts_note.h"
+#include "kit/words.h"
 
 namespace tidewell {
 
@@ -100,13 +101,13 @@ DeepScanContent::Page pageOf(const DeepScanViewModel& model) {
 }
 
 void fillList(DeepScanContent& content, const std::vector<BigItem>& items,
-              const DeepScanScreenState& state) {
+              const DeepScanScreenState& state, System system) {
     const auto shown = shownBucket(items, state.viewingBucket);
     content.summary = deepScanSummary(items);
     content.rail = riskRows(items, shown);
     content.bucketSubtitle = look(*shown).subtitle;
     for (const auto& item : itemsIn(*shown, items))
-        content.cards.push_back(bigItemCard(item, state.copiedItems));
+        content.cards.push_back(bigItemCard(item, state.copiedItems, system));
 }
 
 void fillPage(DeepScanContent& content, const DeepScanViewModel& model,
@@ -132,7 +133,7 @@ void fillPage(DeepScanContent& content, const DeepScanViewModel& model,
             break;
         case DeepScanContent::Page::list:
             content.scanLabel = "Rescan";
-            fillList(content, model.items(), state);
+            fillList(content, model.items(), state, model.system);
             break;
     }
 }
@@ -207,7 +208,8 @@ bool asksBeforeTrashing(BigItem::Kind kind) {
     return kind == BigItem::Kind::appData || kind == BigItem::Kind::personal;
 }
 
-BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copiedItems) {
+BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copiedItems,
+                        System system) {
     BigItemCard card{.item = item,
                      .symbol = item.isDirectory ? "folder.fill" : "doc.fill",
                      .size = byteText(item.sizeBytes),
@@ -215,7 +217,7 @@ BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copied
                      .badgeColor = look(riskBucket(item.kind)).color,
                      .note = item.note.value_or(std::string(unknownNote)),
                      .revealSymbol = "magnifyingglass",
-                     .revealHelp = "Reveal in Finder",
+                     .revealHelp = wordsOf(system).reveal,
                      .trashHelp = std::nullopt,
                      .copyCommand = copyCommandButton(item, copiedItems)};
     if (isTrashable(item.kind)) card.trashHelp = "Move " + item.name + " to Trash";
@@ -235,12 +237,12 @@ TrashConfirmation trashConfirmation(const BigItem& item) {
         .cancelLabel = "Cancel"};
 }
 
-TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome) {
+TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome, System system) {
     if (!outcome.success)
         return {.symbol = "exclamationmark.triangle.fill",
                 .color = look(RiskBucket::review).color,
-                .text = "Couldn't move " + outcome.name +
-                        ". It may need Full Disk Access or admin rights."};
+                .text = "Couldn't move " + outcome.name + ". " +
+                        std::string(wordsOf(system).notMovedAdvice)};
     return {.symbol = "checkmark.circle.fill",
             .color = look(RiskBucket::safe).color,
             .text = "Moved " + outcome.name + " to the Trash • " + byteText(outcome.freedBytes) +
@@ -269,7 +271,7 @@ DeepScanContent deepScanContent(const DeepScanViewModel& model, const DeepScanSc
     fillPage(content, model, state);
     if (state.pendingTrash) content.confirmation = trashConfirmation(*state.pendingTrash);
     content.leftOutNote = silentMountsNote(model.silentMounts());
-    if (model.lastResult()) content.banner = trashBanner(*model.lastResult());
+    if (model.lastResult()) content.banner = trashBanner(*model.lastResult(), model.system);
     if (model.lastPutBack()) {
         const auto undoLabel = content.banner ? content.banner->undoLabel : std::string_view();
         content.banner = putBackBanner(*model.lastPutBack());

@@ -102,7 +102,8 @@ struct BigItemCard {
 };
 
 /// `copiedItems` as in the screen's state.
-BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copiedItems);
+BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copiedItems,
+                        System system);
 
 struct TrashConfirmation {
     std::string_view title;
@@ -121,7 +122,7 @@ struct TrashBanner {
         {};  ///< of the button that undoes the move; empty if there is none
 };
 
-TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome);
+TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome, System system);
 TrashBanner putBackBanner(const DeepScanViewModel::PutBackOutcome& outcome);
 
 struct DeepScanContent {

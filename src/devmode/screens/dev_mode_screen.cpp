@@ -75,7 +75,7 @@ void DevModeScreen::update() {
 }
 
 QString DevModeScreen::failureNote() const {
-    return toText(tidewell::failureNote(model_->failedTitles()).value_or(""));
+    return toText(tidewell::failureNote(model_->failedTitles(), model_->system()).value_or(""));
 }
 
 DevModeViewModel::TargetIDs DevModeScreen::idsInView() const {

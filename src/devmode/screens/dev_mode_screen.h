@@ -12,6 +12,7 @@
 #include "kit/qt/list_model.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "platform/workspace.h"
 
 namespace tidewell {
@@ -109,7 +110,7 @@ class DevModeScreen final : public Screen {
     static QString reviewSubtitle() { return toText(devReviewSubtitle); }
     static QString emptySymbol() { return toText(nothingToCleanSymbol); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
-    static QString emptyLine() { return toText(nothingToCleanLine); }
+    QString emptyLine() const { return toText(wordsOf(model_->system()).nothingToClean); }
     static QString safeOnlyLabel() { return toText(tidewell::safeOnlyLabel); }
     static QString smartLabel() { return toText(tidewell::smartLabel); }
     static QString allLabel() { return toText(tidewell::allLabel); }

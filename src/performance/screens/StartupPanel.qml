@@ -36,6 +36,7 @@ Item {
         anchors.top: explanation.bottom
         anchors.topMargin: 20
         text: root.screen.openSettingsLabel
+        visible: text !== ""
         onClicked: root.screen.openLoginSettings()
     }
     CardList {

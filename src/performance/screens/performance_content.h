@@ -23,18 +23,10 @@ inline constexpr std::string_view quitMessageSymbol = "info.circle.fill";
 inline constexpr std::string_view dismissMessageSymbol = "xmark";
 inline constexpr std::string_view dismissMessageLabel = "Dismiss";
 inline constexpr std::string_view memoryFigureUnit = "% in use";
-inline constexpr std::string_view memoryFootnote =
-    "The honest way to free memory is to quit apps you're done with. macOS handles the rest.";
 inline constexpr std::string_view mostMemoryHeading = "Using the most memory";
 inline constexpr std::string_view quitLabel = "Quit";
 
-inline constexpr std::string_view startupExplanation =
-    "These launch at login or run in the background. Fewer of them means a faster startup. Reveal "
-    "one to see what it is, or manage it in System Settings.";
 inline constexpr std::string_view startupHeading = "Starts automatically";
-inline constexpr std::string_view openLoginSettingsLabel = "Open Login Items Settings";
-inline constexpr std::string_view loginSettingsUrl =
-    "x-apple.systempreferences:com.apple.LoginItems-Settings.extension";
 inline constexpr std::string_view revealLabel = "Reveal";
 
 /// What the list shows, in the order of the picker.

@@ -101,7 +101,7 @@ void PerformanceScreen::quit(int row) {
 }
 
 void PerformanceScreen::openLoginSettings() const {
-    workspace_.openUrl(std::string(loginSettingsUrl));
+    workspace_.openUrl(std::string(wordsOf(model_->system).loginSettingsUrl));
 }
 
 void PerformanceScreen::reveal(int row) const {

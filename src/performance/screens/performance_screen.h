@@ -7,6 +7,7 @@
 #include "kit/qt/list_model.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "performance/screens/performance_content.h"
 #include "platform/workspace.h"
 
@@ -74,12 +75,14 @@ class PerformanceScreen final : public Screen {
     static QString dismissSymbol() { return toText(dismissMessageSymbol); }
     static QString dismissLabel() { return toText(dismissMessageLabel); }
     static QString memoryUnit() { return toText(memoryFigureUnit); }
-    static QString memoryFootnote() { return toText(tidewell::memoryFootnote); }
+    QString memoryFootnote() const { return toText(wordsOf(model_->system).memoryFootnote); }
     static QString appsHeading() { return toText(mostMemoryHeading); }
     static QString quitLabel() { return toText(tidewell::quitLabel); }
-    static QString startupExplanation() { return toText(tidewell::startupExplanation); }
+    QString startupExplanation() const {
+        return toText(wordsOf(model_->system).startupExplanation);
+    }
     static QString startupHeading() { return toText(tidewell::startupHeading); }
-    static QString openSettingsLabel() { return toText(openLoginSettingsLabel); }
+    QString openSettingsLabel() const { return toText(wordsOf(model_->system).openLoginSettings); }
     static QString revealLabel() { return toText(tidewell::revealLabel); }
 
     /// To be called when the screen comes into sight: it begins with the first panel.

@@ -67,8 +67,10 @@ Item {
         AccessCard {
             width: parent.width
             screen: root.screen
+            visible: root.screen.showsAccess
         }
         Rectangle {
+            visible: root.screen.showsAccess
             width: parent.width
             height: 1
             color: Qt.rgba(1, 1, 1, 0.06)

@@ -7,6 +7,7 @@
 #include "kit/qt/list_model.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "shell/content_view.h"
 #include "shell/screens/welcome_content.h"
 #include "shell/screens/window_content.h"
@@ -38,11 +39,11 @@ class AboutScreen final : public Screen {
     QAbstractItemModel* links() { return &links_; }
     static QString title() { return toText(aboutLabel); }
     QString version() const { return toText(versionLine(view_->host().ownBundle)); }
-    static QString purpose() { return toText(purposeLine); }
+    QString purpose() const { return toText(wordsOf(view_->host().system).purpose); }
     static QString usage() { return toText(usageLine); }
     static QString privacy() { return toText(privacyLine); }
     static QString privacySymbol() { return toText(tidewell::privacySymbol); }
-    static QString footer() { return toText(aboutFooter); }
+    QString footer() const { return toText(wordsOf(view_->host().system).madeFor); }
     static QString closeLabel() { return toText(closeAboutLabel); }
     static QString closeSymbol() { return toText(closeAboutSymbol); }
     static QString outwardSymbol() { return toText(tidewell::outwardSymbol); }

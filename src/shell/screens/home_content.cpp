@@ -7,6 +7,7 @@
 #include "kit/byte_text.h"
 #include "kit/count_text.h"
 #include "kit/percent_text.h"
+#include "kit/words.h"
 #include "platform/dates.h"
 
 namespace tidewell {
@@ -106,7 +107,7 @@ HomeContent homeContent(const SmartScanController& smartScan, const HomeReadings
     const auto used = usedFraction(readings);
     return {
         .showsSmartScan = smartScan.phase() != SmartScanController::Phase::idle,
-        .showsAccessBanner = !readings.hasFullDiskAccess,
+        .showsAccessBanner = readings.asksForAccess,
         .freeBytes = readings.freeBytes,
         .usedFraction = used,
         .usedPercent = percentText(used),
@@ -114,7 +115,8 @@ HomeContent homeContent(const SmartScanController& smartScan, const HomeReadings
         .winnings = winnings(readings.totalFreedBytes),
         .tools =
             {
-                tool(Mode::clean, "Junk your Mac\ncan rebuild", cleanValue(*smartScan.cleanup)),
+                tool(Mode::clean, wordsOf(readings.system).junkInTwoLines,
+                     cleanValue(*smartScan.cleanup)),
                 tool(Mode::apps, "Delete apps\n+ their leftovers", appsValue(*smartScan.apps)),
                 tool(Mode::deepScan, "Find what's\nactually big",
                      deepScanValue(*smartScan.deepScan)),

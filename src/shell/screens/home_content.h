@@ -17,7 +17,6 @@ namespace tidewell {
 
 inline constexpr std::string_view homeTitle = "Overview";
 inline constexpr std::string_view homeSubtitle = "Free up space, safely";
-inline constexpr std::string_view smartScanLabel = "Scan My Mac";
 inline constexpr std::string_view smartScanSymbol = "sparkles";
 
 inline constexpr std::string_view accessBannerSymbol = "lock.shield.fill";
@@ -35,9 +34,10 @@ inline constexpr std::string_view scheduleSymbol = "sparkles";
 
 /// What the screen shows beside the tools' results.
 struct HomeReadings {
-    ByteCount freeBytes = 0;  ///< of the home folder's volume, as is the next
+    System system = System::macOS;  ///< of the machine
+    ByteCount freeBytes = 0;        ///< of the home folder's volume, as is the next
     ByteCount volumeBytes = 0;
-    bool hasFullDiskAccess = false;
+    bool asksForAccess = false;
     ByteCount totalFreedBytes = 0;  ///< the sum kept over all cleans
     double lastCleanupAt = 0;       ///< in seconds since 1970; 0 if there was none
 };

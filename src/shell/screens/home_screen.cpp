@@ -84,7 +84,7 @@ void HomeScreen::update() {
     const HomeReadings readings{
         .freeBytes = view_->theme->freeBytes(),
         .volumeBytes = view_->theme->totalBytes(),
-        .hasFullDiskAccess = view_->permissions->hasFullDiskAccess(),
+        .asksForAccess = view_->permissions->asksForAccess(),
         .totalFreedBytes = view_->sums->totalFreedBytes(),
         .lastCleanupAt = view_->sums->lastCleanupAt(),
     };

@@ -9,6 +9,7 @@
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "shell/content_view.h"
 #include "shell/screens/home_content.h"
 
@@ -66,7 +67,7 @@ class HomeScreen final : public Screen {
     QString nextScan() const { return toText(content_.nextScan); }
     static QString title() { return toText(homeTitle); }
     static QString subtitle() { return toText(homeSubtitle); }
-    static QString scanLabel() { return toText(smartScanLabel); }
+    QString scanLabel() const { return toText(wordsOf(view_->host().system).scanMachine); }
     static QString scanSymbol() { return toText(smartScanSymbol); }
     static QString accessSymbol() { return toText(accessBannerSymbol); }
     static QString accessTitle() { return toText(accessBannerTitle); }

@@ -28,7 +28,7 @@ double freeFraction(const MenuBarReadings& readings) {
 
 MenuBarContent menuBarContent(const MenuBarReadings& readings) {
     MenuBarContent content{
-        .health = themePalette(freeFraction(readings)),
+        .health = themePalette(freeFraction(readings), readings.system),
         .usedFraction = usedFraction(readings),
         .usedPercent = percentText(usedFraction(readings)),
         .freeBytes = readings.free,

@@ -17,7 +17,6 @@ inline constexpr std::string_view statusItemTitle = "Tidewell";
 /// The status item's image where the logo is missing.
 inline constexpr std::string_view statusItemSymbol = "sparkles";
 inline constexpr std::string_view reclaimedSymbol = "arrow.up.right";
-inline constexpr std::string_view quickScanLabel = "Scan My Mac";
 inline constexpr std::string_view openFullAppLabel = "Open full app";
 inline constexpr std::string_view quitProgramLabel = "Quit Tidewell";
 
@@ -26,9 +25,10 @@ inline constexpr std::string_view quitProgramLabel = "Quit Tidewell";
 inline constexpr std::array quickCards = {Mode::clean, Mode::apps, Mode::deepScan, Mode::advisor};
 
 struct MenuBarReadings {
-    ByteCount free = 0;        ///< of the home folder's volume; 0 of 1 if that cannot be read
-    ByteCount total = 1;       ///< likewise
-    ByteCount totalFreed = 0;  ///< the sum kept over all cleans
+    System system = System::macOS;  ///< of the machine
+    ByteCount free = 0;             ///< of the home folder's volume; 0 of 1 if that cannot be read
+    ByteCount total = 1;            ///< likewise
+    ByteCount totalFreed = 0;       ///< the sum kept over all cleans
 };
 
 struct MenuBarContent {

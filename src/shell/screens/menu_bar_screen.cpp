@@ -45,6 +45,7 @@ MenuBarScreen::MenuBarScreen(Application& application, std::function<void()> clo
 }
 
 void MenuBarScreen::update() {
+    readings_.system = application_.host.system;
     readings_.totalFreed = application_.sums->totalFreedBytes();
     content_ = menuBarContent(readings_);
 }

@@ -9,6 +9,7 @@
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "shell/application.h"
 #include "shell/screens/menu_bar_content.h"
 
@@ -52,7 +53,7 @@ class MenuBarScreen final : public Screen {
     QAbstractItemModel* cards() { return &cards_; }
     static QString title() { return toText(statusItemTitle); }
     static QString reclaimedSymbol() { return toText(tidewell::reclaimedSymbol); }
-    static QString scanLabel() { return toText(quickScanLabel); }
+    QString scanLabel() const { return toText(wordsOf(application_.host.system).scanMachine); }
     static QString openLabel() { return toText(openFullAppLabel); }
 
     Q_INVOKABLE void close() { close_(); }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "shell/content_view.h"
 #include "shell/screens/welcome_content.h"
 
@@ -27,7 +28,7 @@ class OnboardingScreen final : public QObject {
         : QObject(parent), view_(std::move(view)) {}
 
     static QString title() { return toText(productName); }
-    static QString line() { return toText(purposeLine); }
+    QString line() const { return toText(wordsOf(view_->host().system).purpose); }
     static QString getStartedLabel() { return toText(tidewell::getStartedLabel); }
 
     Q_INVOKABLE void getStarted() { view_->finishOnboarding(Intro::play); }

@@ -11,9 +11,6 @@ namespace tidewell {
 // Every word of the first-run screen and of the About sheet. Pure.
 
 inline constexpr std::string_view productName = "Tidewell";
-inline constexpr std::string_view purposeLine =
-    "Tidewell finds and removes unnecessary files to deep clean your Mac, free up storage, and "
-    "help it run faster.";
 inline constexpr std::string_view getStartedLabel = "Get Started";
 
 inline constexpr std::string_view usageLine =
@@ -21,7 +18,6 @@ inline constexpr std::string_view usageLine =
 inline constexpr std::string_view privacyLine =
     "Your files stay yours. No one else can read them, not even us.";
 inline constexpr std::string_view privacySymbol = "lock.shield.fill";
-inline constexpr std::string_view aboutFooter = "Made with care for your Mac.";
 inline constexpr std::string_view closeAboutLabel = "Close";
 inline constexpr std::string_view closeAboutSymbol = "xmark";
 inline constexpr std::string_view outwardSymbol = "arrow.up.right";

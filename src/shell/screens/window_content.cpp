@@ -30,6 +30,7 @@ WindowContent windowContent(const ContentView& view) {
         .rows = {},
         .detailView = detailView(view),
         .accent = accent(view.mode()),
+        .showsAccess = view.permissions->hasAccessToGrant(),
         .hasFullDiskAccess = view.permissions->hasFullDiskAccess(),
     };
     for (const auto mode : view.sidebarModes())

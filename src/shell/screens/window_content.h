@@ -32,6 +32,7 @@ struct WindowContent {
     /// The view in the detail area. The Clean tool has one for each step of its way.
     std::string_view detailView;
     SectionAccent accent;  ///< of the section in the detail area
+    bool showsAccess;      ///< there is an access to grant
     bool hasFullDiskAccess;
 };
 

@@ -35,6 +35,7 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT)
     Q_PROPERTY(QString detailView READ detailView NOTIFY changed)
     Q_PROPERTY(tidewell::PaletteValue palette READ palette NOTIFY changed)
+    Q_PROPERTY(bool showsAccess READ showsAccess NOTIFY changed)
     Q_PROPERTY(bool hasFullDiskAccess READ hasFullDiskAccess NOTIFY changed)
     Q_PROPERTY(bool hasOnboarded READ hasOnboarded NOTIFY changed)
     Q_PROPERTY(bool isPlayingIntro READ isPlayingIntro NOTIFY changed)
@@ -67,6 +68,7 @@ class WindowScreen final : public Screen {
     QAbstractItemModel* rows() { return &rows_; }
     QString detailView() const { return toText(content_.detailView); }
     PaletteValue palette() const { return PaletteValue(sectionPalette(content_.accent)); }
+    bool showsAccess() const { return content_.showsAccess; }
     bool hasFullDiskAccess() const { return content_.hasFullDiskAccess; }
     bool hasOnboarded() const { return view_->hasOnboarded(); }
     bool isPlayingIntro() const { return view_->playingIntro(); }

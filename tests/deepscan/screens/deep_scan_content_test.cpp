@@ -70,13 +70,13 @@ TEST_F(DeepScanScreen, SortsItemsIntoRowsByRiskAndNeverShowsAnEmptyOne) {
 TEST_F(DeepScanScreen, OffersOnACardWhatIsSafeForTheItem) {
     auto docker = bigItem("Docker data", Kind::container);
     docker.reclaimCommand = "docker system prune";
-    const auto card = bigItemCard(docker, {});
+    const auto card = bigItemCard(docker, {}, System::macOS);
     EXPECT_FALSE(card.trashHelp);
     EXPECT_EQ(card.copyCommand->label, "Copy command");
     EXPECT_EQ(card.copyCommand->help, "Copy “docker system prune” to run in Terminal");
-    EXPECT_EQ(bigItemCard(docker, {docker.id}).copyCommand->label, "Copied");
+    EXPECT_EQ(bigItemCard(docker, {docker.id}, System::macOS).copyCommand->label, "Copied");
 
-    const auto film = bigItemCard(bigItem("/m/film", Kind::personal), {});
+    const auto film = bigItemCard(bigItem("/m/film", Kind::personal), {}, System::macOS);
     EXPECT_EQ(film.trashHelp, "Move film to Trash");
     EXPECT_FALSE(film.copyCommand);
     EXPECT_EQ(film.note, "No intel on this one. Hit Reveal and check it first.");
@@ -95,7 +95,7 @@ TEST_F(DeepScanScreen, AsksBeforeTrashingWhatMayBeMissedAndTellsHowItEnded) {
     EXPECT_EQ(trashConfirmation(bigItem("/m/film", Kind::personal)).message,
               "“film” (90 MB) looks like your personal stuff. It'll sit in the Trash so you can "
               "bring it back.");
-    EXPECT_EQ(trashBanner({"film", 90'000'000, true}).text,
+    EXPECT_EQ(trashBanner({"film", 90'000'000, true}, System::macOS).text,
               "Moved film to the Trash • 90 MB. Empty the Trash to lock it in.");
     model.lastResult = BigItemScanner::TrashOutcome{"film", 0, false};
     EXPECT_EQ(content().banner->text,

@@ -11,20 +11,6 @@
 namespace tidewell {
 namespace {
 
-TEST(WelcomeContent, SaysWhatTheProgramIsFor) {
-    EXPECT_EQ(productName, "Tidewell");
-    EXPECT_EQ(purposeLine,
-              "Tidewell finds and removes unnecessary files to deep clean your Mac, free up "
-              "storage, and help it run faster.");
-    EXPECT_EQ(getStartedLabel, "Get Started");
-    EXPECT_EQ(aboutLabel, "About Tidewell");
-    EXPECT_EQ(usageLine,
-              "Scan your storage, review what's taking up space, and remove only what you no "
-              "longer need.");
-    EXPECT_EQ(privacyLine, "Your files stay yours. No one else can read them, not even us.");
-    EXPECT_EQ(aboutFooter, "Made with care for your Mac.");
-}
-
 TEST(WelcomeContent, TellsTheVersionWithWhatTheBundleHas) {
     const auto line = [](std::string version, std::string build) {
         return versionLine({.identifier = {},
