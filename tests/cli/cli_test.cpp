@@ -257,7 +257,7 @@ TEST(CommandLine, NamesNoOtherSystemOnALinuxMachine) {
     machine.file("~/Code/repository/precious");
     machine.link("~/.m2", machine.path("~/Code"));
     const std::regex otherSystem(
-        "Mac|macOS|Apple|Finder|Xcode|iOS|System Settings|Full Disk|FullDisk");
+        R"re(\b(Mac|macOS|Apple|Finder|Xcode|iOS|System Settings)\b|Full ?Disk)re");
     const Words calls[] = {{"--help"},
                            {"clean", "--help"},
                            {"advisor", "--help"},
