@@ -1,16 +1,20 @@
-// make-sample-machine DIR: lays out a whole machine in a new folder, with something for every tool
-// to find, and traps for each rule about what must stay. About 3 GB of made-up files, most of them
-// without content.
+// make-sample-machine [--system macos|linux] DIR: lays out a whole machine of that system in a new
+// folder, with something for every tool to find, and traps for each rule about what must stay.
+// About 3 GB of made-up files, most of them without content.
 
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
+#include <string_view>
 
+#include "linux_sample_machine.h"
 #include "support/sample_machine.h"
 
 namespace {
 
 using tidewell::ByteCount;
+using tidewell::System;
 using tidewell::test::kilobyte;
 using tidewell::test::megabyte;
 using tidewell::test::SampleMachine;
@@ -272,7 +276,7 @@ esac
     machine.text("~/Library/Application Support/com.apple.TCC/TCC.db", "");
 }
 
-void layOut(const SampleMachine& machine) {
+void furnishMac(const SampleMachine& machine) {
     addFiles(machine, caches);
     addFiles(machine, sweptFolders);
     addFiles(machine, projects);
@@ -286,15 +290,47 @@ void layOut(const SampleMachine& machine) {
     addTools(machine);
 }
 
+struct Call {
+    System system = System::macOS;
+    std::string folder;
+};
+
+std::optional<Call> readCall(int count, char** words) {
+    Call call;
+    int next = 1;
+    if (count == 4 && words[1] == std::string_view("--system")) {
+        const std::string_view name = words[2];
+        if (name != "macos" && name != "linux") return std::nullopt;
+        call.system = name == "linux" ? System::linux : System::macOS;
+        next = 3;
+    }
+    if (count != next + 1 || words[next][0] == '-') return std::nullopt;
+    call.folder = words[next];
+    return call;
+}
+
+void layOut(const Call& call) {
+    const SampleMachine machine(call.folder, call.system);
+    switch (call.system) {
+        case System::macOS:
+            furnishMac(machine);
+            break;
+        case System::linux:
+            furnishLinuxDesktop(machine);
+            break;
+    }
+}
+
 }  // namespace
 
 int main(int count, char** words) {
-    if (count != 2 || words[1][0] == '-') {
-        std::cerr << "usage: make-sample-machine DIR\n";
+    const auto call = readCall(count, words);
+    if (!call) {
+        std::cerr << "usage: make-sample-machine [--system macos|linux] DIR\n";
         return 2;
     }
     try {
-        layOut(SampleMachine(words[1]));
+        layOut(*call);
     } catch (const std::exception& problem) {
         std::cerr << "make-sample-machine: " << problem.what() << '\n';
         return 1;
