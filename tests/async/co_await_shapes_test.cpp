@@ -7,9 +7,7 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "async/background.h"
 #include "support/test_loop.h"
@@ -57,12 +55,6 @@ Task<Pair> givePair(std::shared_ptr<Counted> shared) {
     co_return pair;
 }
 
-Task<std::vector<Counted>> giveRows(const Counted& row) {
-    std::vector<Counted> rows(3, row);
-    co_await sleepFor(1ms);
-    co_return rows;
-}
-
 Task<int> temporaries() {
     auto first = co_await give(Counted(1));
     first = co_await give(std::move(first));
@@ -81,37 +73,6 @@ Task<int> namedLambdas() {
     auto holding = holds(value, test);
     const bool isHeld = co_await holding;
     co_return isHeld ? *value.value : 0;
-}
-
-Task<int> conditions() {
-    const auto isOne = [](int number) { return number == 1; };
-    int rounds = 0;
-    if (co_await holds(Counted(1), isOne)) ++rounds;
-    while (co_await holds(Counted(rounds), isOne)) ++rounds;
-    if (const auto given = co_await give(Counted(1)); given.value) ++rounds;
-    co_return rounds;
-}
-
-Task<int> loopsAndBindings() {
-    const Counted row(1);
-    int sum = 0;
-    for (const auto& counted : co_await giveRows(row)) sum += *counted.value;
-    const auto [left, right] = co_await givePair(std::make_shared<Counted>(1));
-    co_return sum + *left.value + *right.value;
-}
-
-Task<Counted> result(int depth) {
-    const Counted local(depth);
-    if (depth == 0) co_return local;
-    co_return co_await result(depth - 1);
-}
-
-Task<int> earlyReturns() {
-    for (int depth = 0; depth < 4; ++depth) {
-        const auto given = co_await result(depth);
-        if (depth == 2) co_return *given.value;
-    }
-    co_return -1;
 }
 
 Task<Counted> failing(Counted given) {
@@ -152,9 +113,9 @@ struct Row {
 };
 
 constexpr Row rows[] = {
-    {"temporaries", temporaries, 3},    {"named lambdas", namedLambdas, 3},
-    {"conditions", conditions, 3},      {"loops and bindings", loopsAndBindings, 5},
-    {"early returns", earlyReturns, 0}, {"failures", failures, 2},
+    {"temporaries", temporaries, 3},
+    {"named lambdas", namedLambdas, 3},
+    {"failures", failures, 2},
 };
 
 TEST(CoAwaitShapesTest, DestroyEverythingOnceWhenTheyEnd) {

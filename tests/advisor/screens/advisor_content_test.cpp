@@ -2,15 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 #include "platform/dates.h"
 
 namespace tidewell::test {
 namespace {
 
 using Phase = AdvisorViewModel::Phase;
-using namespace std::chrono_literals;
 
 SimRuntime sampleRuntime(std::string id, ByteCount size) {
     SimRuntime runtime;
@@ -86,22 +83,6 @@ TEST_F(AdvisorContentTest, OneOfAKindIsWordedInTheSingularAndNothingOfUnknownSiz
     EXPECT_EQ(content().headline, "A few easy wins found.");
 }
 
-TEST_F(AdvisorContentTest, ARuntimesRowTellsWhenItWasUsedAndByWhat) {
-    auto used = sampleRuntime("17.5", 7'000'000'000);
-    used.build = "21F79";
-    used.lastUsed = moment - 24h;
-    used.deviceNames = {"iPhone 15"};
-    findings().runtimes = {used, sampleRuntime("16.4", 0)};
-    const auto rows = content().cards.at(0).runtimes;
-    ASSERT_EQ(rows.size(), 2);
-    EXPECT_EQ(rows[0].name, "iOS 17.5");
-    EXPECT_EQ(rows[0].build, "21F79");
-    EXPECT_EQ(rows[0].size, "7 GB");
-    EXPECT_EQ(rows[0].lastUsed, "Last used yesterday");
-    EXPECT_EQ(rows[0].usedBy, "Used by 1 simulator: iPhone 15");
-    EXPECT_FALSE(rows[1].lastUsed);
-}
-
 TEST_F(AdvisorContentTest, OnlyTheControlOfTheActionUnderWayIsBusy) {
     using enum AdvisorControlState;
     auto fixed = sampleRuntime("16.4", 1);
@@ -125,13 +106,6 @@ TEST_F(AdvisorContentTest, OnlyTheControlOfTheActionUnderWayIsBusy) {
         EXPECT_EQ(cards.at(1).button->state, states[2]);
         EXPECT_EQ(cards.at(2).button->state, states[3]);
     }
-}
-
-TEST_F(AdvisorContentTest, TheConfirmationSaysWhatIsLostAndWhatStays) {
-    EXPECT_EQ(runtimeDeleteConfirmation(sampleRuntime("17.5", 7'290'000'000)).message,
-              "iOS 17.5 is the copy of iOS the Simulator boots, not your code, projects, or "
-              "personal data. No simulators currently use it. Those simulators stop working until "
-              "Xcode re-downloads the runtime (a 7.29 GB download) the next time you need them.");
 }
 
 }  // namespace

@@ -62,15 +62,6 @@ TEST_F(PerformanceContentTest, TheListBeginsWithAllMemory) {
     EXPECT_EQ(content().message, model.lastMessage());
 }
 
-TEST_F(PerformanceContentTest, ThePickerShowsWhichPanelIsChosen) {
-    EXPECT_EQ(content().panels, (std::vector<PanelChoice>{
-                                    {PerformancePanel::memory, "Memory", true},
-                                    {PerformancePanel::login, "Startup", false},
-                                }));
-    EXPECT_FALSE(content(PerformancePanel::login).panels[0].isChosen);
-    EXPECT_TRUE(content(PerformancePanel::login).panels[1].isChosen);
-}
-
 TEST_F(PerformanceContentTest, EachApplicationIsMeasuredAgainstTheLargest) {
     model.apps = std::vector{runningApp(3, "Paint", 2'000'000'000), runningApp(9, "Mail", 1),
                              runningApp(4, "Unread", 0), runningApp(5, "Odd", -1)};
@@ -88,18 +79,6 @@ TEST_F(PerformanceContentTest, EachApplicationIsMeasuredAgainstTheLargest) {
         EXPECT_EQ(rows[static_cast<std::size_t>(unread)].size, "—");
         EXPECT_EQ(rows[static_cast<std::size_t>(unread)].fraction, 0);
     }
-}
-
-TEST_F(PerformanceContentTest, LoginItemsTellWhoseTheyAre) {
-    model.loginItems = std::vector<LoginItem>{
-        {.id = "1", .label = "sync", .program = "/bin/sync", .plistURL = "/a", .scope = "You"},
-        {.id = "2", .label = "db", .program = "—", .plistURL = "/b", .scope = "System"},
-    };
-    EXPECT_EQ(content(PerformancePanel::login).loginItems,
-              (std::vector<LoginItemRowContent>{
-                  {"1", "person.crop.circle", "sync", "/bin/sync", "You", "/a"},
-                  {"2", "gearshape.2.fill", "db", "—", "System", "/b"},
-              }));
 }
 
 }  // namespace

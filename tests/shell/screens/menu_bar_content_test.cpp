@@ -30,24 +30,5 @@ TEST(MenuBarContent, WhatWasReclaimedIsToldFromTheFirstByteOn) {
     EXPECT_EQ(menuBarContent({.totalFreed = 23'480'000'000}).reclaimed, "23.48 GB reclaimed");
 }
 
-TEST(MenuBarContent, TheCardsAreSectionsByTheirNames) {
-    const struct {
-        std::string_view title;
-        std::string_view symbol;
-        SectionAccent accent;
-    } rows[] = {
-        {"Clean", "sparkles", SectionAccent::green},
-        {"Apps", "square.grid.2x2.fill", SectionAccent::violet},
-        {"Deep Scan", "scope", SectionAccent::blue},
-        {"Advisor", "wand.and.stars", SectionAccent::amber},
-    };
-    ASSERT_EQ(quickCards.size(), std::size(rows));
-    for (std::size_t card = 0; card < quickCards.size(); ++card) {
-        EXPECT_EQ(title(quickCards[card]), rows[card].title);
-        EXPECT_EQ(symbol(quickCards[card]), rows[card].symbol);
-        EXPECT_EQ(accent(quickCards[card]), rows[card].accent);
-    }
-}
-
 }  // namespace
 }  // namespace tidewell
