@@ -38,7 +38,7 @@ const std::vector<ScreenState> states = {
      [](Sample& sample) {
          auto& theme = *sample.view->theme;
          theme.freeBytes = 9'204'000'000;
-         theme.palette = themePalette(theme.freeFraction());
+         theme.palette = themePalette(theme.freeFraction(), System::macOS);
      }},
     {"smart-scan-begins",
      [](Sample& sample) {
