@@ -82,6 +82,7 @@ void HomeScreen::openTool(int row) {
 
 void HomeScreen::update() {
     const HomeReadings readings{
+        .system = view_->host().system,
         .freeBytes = view_->theme->freeBytes(),
         .volumeBytes = view_->theme->totalBytes(),
         .asksForAccess = view_->permissions->asksForAccess(),
