@@ -32,7 +32,7 @@ class AdvisorViewModel {
     static constexpr std::string_view unavailableSimsAction = "unavailable-sims";
     static constexpr std::string_view snapshotsAction = "snapshots";
 
-    explicit AdvisorViewModel(const Host& host) : system(host.system), service_(host) {}
+    explicit AdvisorViewModel(const Host& host) : system{host.system}, service_(host) {}
 
     const System system;  ///< of the machine that is advised on
 

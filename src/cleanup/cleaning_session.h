@@ -67,7 +67,7 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     Published<std::vector<std::string>> failedTitles{willChange};  ///< in the order of the items
 
     /// Of the machine that is cleaned.
-    System system() const { return scanner_.host().system; }
+    System servedSystem() const { return scanner_.host().system; }
 
     bool isBusy() const { return phase() == Phase::scanning || phase() == Phase::cleaning; }
 

@@ -39,7 +39,7 @@ std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigI
 }
 
 DeepScanViewModel::DeepScanViewModel(const Host& host)
-    : system(host.system), scanner_(host), installerScanner_(host), containerScanner_(host) {}
+    : system{host.system}, scanner_(host), installerScanner_(host), containerScanner_(host) {}
 
 Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
     if (phase() == Phase::scanning) co_return;

@@ -23,7 +23,7 @@ class PerformanceViewModel : public std::enable_shared_from_this<PerformanceView
     /// How long after a request to quit the list is read again.
     static constexpr std::chrono::milliseconds timeToClose{900};
 
-    explicit PerformanceViewModel(const Host& host) : service(host), system(host.system) {}
+    explicit PerformanceViewModel(const Host& host) : service(host), system{host.system} {}
 
     /// Fired before each change of what follows.
     Signal willChange;

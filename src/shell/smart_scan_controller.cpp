@@ -70,11 +70,11 @@ std::string SmartScanController::detail() const {
         case Phase::clean:
             return cleanup->currentTarget().value_or("measuring caches…");
         case Phase::apps:
-            return std::string(wordsOf(cleanup->system()).readingApplications);
+            return std::string(wordsOf(cleanup->servedSystem()).readingApplications);
         case Phase::deepScan:
             return "walking your home folder…";
         case Phase::advisor:
-            return std::string(wordsOf(cleanup->system()).askingTools);
+            return std::string(wordsOf(cleanup->servedSystem()).askingTools);
         case Phase::idle:
         case Phase::done:
             break;

@@ -50,7 +50,7 @@ class CleanedScreen final : public Screen {
     static QString cleaningTitle() { return toText(tidewell::cleaningTitle); }
     static QString cleaningSymbol() { return toText(tidewell::cleaningSymbol); }
     static QString doneTitle() { return toText(allCleanTitle); }
-    QString doneLine() const { return toText(wordsOf(model_->system()).allClean); }
+    QString doneLine() const { return toText(wordsOf(model_->servedSystem()).allClean); }
     static QString freeSpaceSymbol() { return toText(tidewell::freeSpaceSymbol); }
     static QString failureTitle() { return toText(notCleanedTitle); }
     static QString failureSymbol() { return toText(notCleanedSymbol); }

@@ -62,7 +62,7 @@ class ReviewScreen final : public Screen {
     QString pickedLine() const { return toText(content_.pickedLine); }
     QString freeAfterLine() const { return toText(content_.freeAfterLine); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
-    QString emptyLine() const { return toText(wordsOf(model_->system()).nothingToClean); }
+    QString emptyLine() const { return toText(wordsOf(model_->servedSystem()).nothingToClean); }
     static QString emptySymbol() { return toText(nothingToCleanSymbol); }
     static QString scanAgainLabel() { return toText(tidewell::scanAgainLabel); }
     static QString subtitle() { return toText(reviewSubtitle); }

@@ -15,7 +15,7 @@ constexpr std::string_view scanningCaption = "Just looking. Nothing gets deleted
 ScanContent scanContent(const CleanupViewModel& model, ByteCount totalFreedBytes) {
     const bool isScanning = model.phase() == CleanupViewModel::Phase::scanning;
     ScanContent content{
-        .caption = isScanning ? scanningCaption : wordsOf(model.system()).junkCaption,
+        .caption = isScanning ? scanningCaption : wordsOf(model.servedSystem()).junkCaption,
         .soFar = std::nullopt,
         .percent = percentText(model.scanProgress()),
         .isScanning = isScanning};
@@ -43,7 +43,7 @@ CleanedContent cleanedContent(const CleanupViewModel& model) {
         .ringLine = hasFreed ? "reclaimed" : "All done",
         .freeBefore = byteText(model.freeSpaceBefore()),
         .freeAfter = byteText(model.freeSpaceAfter()) + " free",
-        .failureNote = failureNote(model.failedTitles(), model.system()),
+        .failureNote = failureNote(model.failedTitles(), model.servedSystem()),
         .isCleaning = model.phase() == CleanupViewModel::Phase::cleaning,
     };
     if (hasFreed) content.reclaimed = model.freedBytes();

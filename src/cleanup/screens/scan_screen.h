@@ -37,7 +37,7 @@ class ScanScreen final : public Screen {
     QString caption() const { return toText(content_.caption); }
     /// Empty when there is nothing to tell.
     QString soFar() const { return toText(content_.soFar.value_or("")); }
-    QString scanLabel() const { return toText(wordsOf(model_->system()).scanMachine); }
+    QString scanLabel() const { return toText(wordsOf(model_->servedSystem()).scanMachine); }
     static QString scanSymbol() { return toText(tidewell::scanSymbol); }
     static QString scanningWord() { return toText(tidewell::scanningWord); }
     static QString soFarSymbol() { return toText(tidewell::soFarSymbol); }

@@ -29,7 +29,7 @@ void printReview(const Model& model, Consent consent) {
     const auto review = reviewContent(*model, std::nullopt, model->freeSpaceBefore());
     if (review.isEmpty) {
         printLine(inked(nothingToCleanTitle, Ink::strong));
-        printLine(wordsOf(model->system()).nothingToClean);
+        printLine(wordsOf(model->servedSystem()).nothingToClean);
         return;
     }
     printLine(inked(review.headline, Ink::strong));
@@ -56,7 +56,7 @@ void printResult(const Model& model) {
         printLine(inked(result.ringLine, Ink::strong) + ".");
     }
     printLine(result.freeBefore + " → " + result.freeAfter);
-    printFailures(model->failedTitles(), model->system());
+    printFailures(model->failedTitles(), model->servedSystem());
 }
 
 Value document(const Model& model, Consent consent) {

@@ -89,7 +89,7 @@ Outcome runDev(const Context& context, const DevCall& call) {
     } else if (model->phase() == DevModeViewModel::Phase::done) {
         printLine();
         printLine(inked(devDoneTitle(*model), Ink::good));
-        printFailures(model->failedTitles(), model->system());
+        printFailures(model->failedTitles(), model->servedSystem());
     }
     return status;
 }

@@ -75,7 +75,8 @@ void DevModeScreen::update() {
 }
 
 QString DevModeScreen::failureNote() const {
-    return toText(tidewell::failureNote(model_->failedTitles(), model_->system()).value_or(""));
+    return toText(
+        tidewell::failureNote(model_->failedTitles(), model_->servedSystem()).value_or(""));
 }
 
 DevModeViewModel::TargetIDs DevModeScreen::idsInView() const {

@@ -110,7 +110,7 @@ class DevModeScreen final : public Screen {
     static QString reviewSubtitle() { return toText(devReviewSubtitle); }
     static QString emptySymbol() { return toText(nothingToCleanSymbol); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
-    QString emptyLine() const { return toText(wordsOf(model_->system()).nothingToClean); }
+    QString emptyLine() const { return toText(wordsOf(model_->servedSystem()).nothingToClean); }
     static QString safeOnlyLabel() { return toText(tidewell::safeOnlyLabel); }
     static QString smartLabel() { return toText(tidewell::smartLabel); }
     static QString allLabel() { return toText(tidewell::allLabel); }
