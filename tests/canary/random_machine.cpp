@@ -245,7 +245,8 @@ void RandomMachine::mountSome() {
                                                    "~/Library/Caches/com.example.disk/files",
                                                    "~/.gradle", "~/.bundle"};
     for (const char* place : places) {
-        if (chance.percent(50)) continue;
+        // What a mount hides nobody can know of, keys that lead elsewhere among it.
+        if (chance.percent(50) || machine.has(place)) continue;
         machine.folder(place);
         const auto where = machine.path(place);
         if (chance.percent(60) ? !mountDocuments(where)

@@ -201,13 +201,18 @@ std::int64_t freedBytes(const Snapshot& before, const Snapshot& after, const Rul
     return freed;
 }
 
+bool isMounted(const RandomMachine& random, const std::string& path) {
+    return std::ranges::any_of(random.mounts,
+                               [&](const auto& place) { return isAtOrBelow(path, place); });
+}
+
 /// Folders in which others may do as they like without being to blame for a loss.
 std::vector<std::string> openGround(const RandomMachine& random, const Snapshot& machine,
                                     const Rules& rules) {
     std::vector<std::string> folders;
     for (const auto& [path, entry] : machine)
         if (entry.isFolder() && rules.mayGo(path) && !isTreasure(random, path) &&
-            !holdsTreasure(random, path))
+            !holdsTreasure(random, path) && !isMounted(random, path))
             folders.push_back(path);
     return folders;
 }
