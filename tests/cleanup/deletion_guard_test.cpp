@@ -4,6 +4,7 @@
 #include <sys/mount.h>
 
 #include "cleanup/kept_entries.h"
+#include "cleanup/kept_places.h"
 #include "support/sample_machine.h"
 #include "support/separate_process.h"
 
@@ -195,9 +196,14 @@ TEST(DeletionGuard, OpensNoOtherMountWhereTheSystemHidesThem) {
         machine.text("~/.npm/x", "x");
         machine.mount("~/Sync/Documents", "~/.gradle");
         machine.link("~/Documents", "Sync/Documents");
+        machine.mount("~/Sync/Documents/part", "~/.cargo");
         machine.hideMounts();
         const DeletionGuard guard(machine.host());
         EXPECT_FALSE(guard.approve(machine.path("~/.gradle/thesis")));
+        EXPECT_FALSE(guard.approve(machine.path("~/.cargo/registry")));
+        const auto names = KeptPlaces(machine.host()).namesOf(machine.path("~/.gradle/thesis"));
+        EXPECT_EQ(names.back(), machine.path("~/Documents/thesis"))
+            << "the same folder, seen alone";
         EXPECT_TRUE(guard.approve(machine.path("~/.npm/x")));
         machine.mount("~/.npm", "~/Music");
         EXPECT_FALSE(guard.approve(machine.path("~/.npm/x")));
