@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "cleanup/deletion_guard.h"
+#include "cleanup/kept_entries.h"
 #include "cleanup/target_catalogue.h"
 
 namespace {
@@ -16,11 +16,31 @@ using namespace tidewell;
 
 constexpr std::string_view introduction = R"(# What Clean can remove
 
-`catalogue-page` makes this page from the program's own table; a test holds one against the other.
+`catalogue-page` makes this page from the program's own tables; a test holds one against the other.
 
-Clean knows {rows} places, and the build folders of your projects. "Safe" is ticked after a scan, for it
-comes back by itself; "review" can cost you something, and is never ticked for you. A path that ends in
-`/*` stands for each entry of the folder that no other row names.
+Clean knows the places below, by the system that the machine is of, and the build folders of your
+projects. "Safe" is ticked after a scan, for it comes back by itself; "review" can cost you something,
+and is never ticked for you. Of a folder that is said to be swept, each entry goes that no other row
+names.
+)";
+
+constexpr std::string_view linuxIntroduction = R"(
+## On Linux machines
+
+{rows} places. `{cache}`, `{config}`, `{data}` and `{state}` are your base folders: `~/.cache`,
+`~/.config`, `~/.local/share` and `~/.local/state`, unless you have moved them. A `*` stands for any name,
+or for any rest of one. A row that names a program is not ticked while that program runs.
+)";
+
+constexpr std::string_view neverSweptIntroduction = R"(
+No sweep takes any of these, nor a folder that holds a virtual environment:
+
+)";
+
+constexpr std::string_view macOSIntroduction = R"(
+## On Macs
+
+{rows} places.
 )";
 
 constexpr std::string_view tableHead = "\n| | where | what it is |\n|---|---|---|\n";
@@ -42,12 +62,27 @@ std::string codeText(std::string_view text) {
     return "`" + std::string(text) + "`";
 }
 
+std::string listed(const ConstantTexts& texts, std::string_view separator = "<br>") {
+    std::string list;
+    for (const auto text : texts) {
+        if (!list.empty()) list += separator;
+        list += codeText(text);
+    }
+    return list;
+}
+
 std::string placesOf(const CatalogueRow& row) {
     if (row.source == PathSource::deletableRoots) return "your own scratch folders";
-    std::string places;
-    for (const auto path : row.paths) {
+    std::string places = listed(row.paths);
+    if (row.kind != TargetKind::plain) places = "swept: " + places;
+    for (const auto& product : row.products) {
         if (!places.empty()) places += "<br>";
-        places += codeText(std::string(path) + (row.kind == TargetKind::sweep ? "/*" : ""));
+        places += listed(product.parts, ", ") + "<br>in " + listed(product.homes);
+    }
+    if (!row.programs.empty()) places += "<br>used by";
+    for (const auto& program : row.programs) {
+        places += &program == &row.programs.front() ? " " : ", ";
+        places += program.name;
     }
     return places;
 }
@@ -67,14 +102,22 @@ void printRow(const CatalogueRow& row) {
               << safetyWord(row.safety) << " | " << placesOf(row) << " | " << row.detail << " |\n";
 }
 
-void printCategory(CleanupCategory category) {
+void printCategory(std::span<const CatalogueRow> rows, CleanupCategory category) {
     bool isFirst = true;
-    for (const auto& row : catalogueRows()) {
+    for (const auto& row : rows) {
         if (row.category != category) continue;
-        if (isFirst) std::cout << "\n## " << title(category) << '\n' << tableHead;
+        if (isFirst) std::cout << "\n### " << title(category) << '\n' << tableHead;
         isFirst = false;
         printRow(row);
     }
+}
+
+void printSystem(std::string_view text, System system) {
+    constexpr std::string_view mark = "{rows}";
+    const auto rows = catalogueOf(system).rows;
+    std::cout << std::string(text).replace(text.find(mark), mark.size(),
+                                           std::to_string(rows.size()));
+    for (const auto category : allCleanupCategories) printCategory(rows, category);
 }
 
 void printList(std::span<const std::string_view> names) {
@@ -84,11 +127,12 @@ void printList(std::span<const std::string_view> names) {
 }  // namespace
 
 int main() {
-    constexpr std::string_view mark = "{rows}";
-    std::string text(introduction);
-    text.replace(text.find(mark), mark.size(), std::to_string(catalogueRows().size()));
-    std::cout << text;
-    for (const auto category : allCleanupCategories) printCategory(category);
+    std::cout << introduction;
+    printSystem(linuxIntroduction, System::linux);
+    std::cout << neverSweptIntroduction;
+    for (const auto name : catalogueOf(System::linux).neverSwept)
+        std::cout << "- " << codeText(name) << '\n';
+    printSystem(macOSIntroduction, System::macOS);
     std::cout << keysIntroduction;
     printList(protectedHomePaths);
     std::cout << personalIntroduction;

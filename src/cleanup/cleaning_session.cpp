@@ -6,6 +6,7 @@
 
 #include "async/background.h"
 #include "cleanup/project_artifacts.h"
+#include "cleanup/running_check.h"
 #include "platform/silent_mounts.h"
 
 namespace tidewell {
@@ -17,6 +18,8 @@ struct Search {
     std::vector<std::string> silentMounts;
     std::vector<CleanupTarget> artifacts;
 };
+
+constexpr auto hasPrograms = [](const CleanupItem& item) { return item.target.hasPrograms(); };
 
 double fraction(std::size_t part, std::size_t whole) {
     return static_cast<double>(part) / static_cast<double>(whole);
@@ -76,6 +79,13 @@ Task<CleanupItems> CleaningSession::measured(std::vector<CleanupTarget> targets,
     }
     currentTarget = std::nullopt;
     sortBySize(found);
+    if (std::ranges::any_of(found, hasPrograms)) {
+        auto marking = background([items = std::move(found), host = scanner_.host()]() mutable {
+            markRunning(items, host);
+            return std::move(items);
+        });
+        found = co_await marking;
+    }
     co_return found;
 }
 

@@ -77,7 +77,7 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     TickBinding selectionBinding(const CleanupItem& item) {
         return {weak_from_this(), item.target.id};
     }
-    void selectAll(Tick tick) { setTicks(items.mutate(), tick, everyItem); }
+    void selectAll(Tick tick) { setTicksTogether(items.mutate(), tick, everyItem); }
     void selectSafeOnly() { tickSafeOnly(items.mutate(), everyItem); }
 
     /// Lets a clean end behind the item in hand: no other begins, and what was cleaned until then

@@ -2,10 +2,12 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "cleanup/catalogue/program.h"
 #include "platform/disk_usage.h"
 
 namespace tidewell {
@@ -29,9 +31,15 @@ inline constexpr std::array allCleanupCategories = {
 /// The display title, which is also the category's name outside the program.
 std::string_view title(CleanupCategory category);
 
-/// Whether a target stands for its paths as wholes, or for each entry of a shared folder that no
-/// other target claims.
-enum class TargetKind { plain, sweep };
+/// What a target stands for at its paths.
+enum class TargetKind {
+    plain,        ///< each of them as a whole
+    sweep,        ///< the entries of a shared folder that no other target claims
+    taggedSweep,  ///< those of them that a CACHEDIR.TAG says to be caches
+};
+
+/// Whose work a target's paths may be, beside the programs that it names.
+enum class PathUsers { unknown, applicationOfPath };
 
 /// One thing that the program knows how to clean, described without looking at the disk.
 struct CleanupTarget {
@@ -40,10 +48,14 @@ struct CleanupTarget {
     std::string detail;  ///< what it is and what clearing it means
     CleanupCategory category = CleanupCategory::developerCaches;
     SafetyLevel safety = SafetyLevel::safe;
-    std::vector<std::string> paths;  ///< "~/..." or absolute; never a pattern
+    std::vector<std::string> paths;  ///< table paths, see cleanup/table_paths.h
     TargetKind kind = TargetKind::plain;
+    std::span<const Program> programs = {};  ///< whose work it may be while they run
+    PathUsers users = PathUsers::unknown;
+    std::string_view devGroup = {};  ///< Dev Mode's group; empty where the words tell it
 
-    bool isSweep() const { return kind == TargetKind::sweep; }
+    bool isSweep() const { return kind != TargetKind::plain; }
+    bool hasPrograms() const { return !programs.empty() || users != PathUsers::unknown; }
 };
 
 /// A target that was measured on this machine and found to hold something.
@@ -55,6 +67,9 @@ struct CleanupItem {
         0;  ///< what removing them frees; at least 1 after a scan, with what is shared
     ByteCount sharedBytes = 0;  ///< what would stay, since files in there have names elsewhere
     bool isSelected = false;    ///< the user's tick
+    std::vector<std::string> runningPrograms = {};  ///< of the target's, those that the scan saw
+
+    bool isInUse() const { return !runningPrograms.empty(); }
 };
 
 /// Names of folders that are an artifact wherever they stand.

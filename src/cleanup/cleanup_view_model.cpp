@@ -64,7 +64,7 @@ ByteCount CleanupViewModel::bytesIn(CleanupCategory category) const {
 }
 
 void CleanupViewModel::setCategory(CleanupCategory category, Tick tick) {
-    setTicks(items.mutate(), tick, isIn(category));
+    setTicksTogether(items.mutate(), tick, isIn(category));
 }
 
 void CleanupViewModel::selectSafeOnlyIn(CleanupCategory category) {

@@ -52,15 +52,6 @@ std::vector<std::string> openRoots(const Host& host) {
     return roots;
 }
 
-std::vector<std::string> pathsOfRows(const Host& host) {
-    std::vector<std::string> paths;
-    for (const auto& target : cleanupCatalogue(host))
-        if (!target.isSweep())
-            for (const auto& stored : target.paths)
-                paths.push_back(standardizedPath(host.expand(stored)));
-    return paths;
-}
-
 }  // namespace
 
 std::vector<std::string> deletableRoots(const Host& host) {
@@ -127,7 +118,7 @@ struct DeletionGuard::View {
 
 DeletionGuard::DeletionGuard(const Host& host)
     : host_(host),
-      namedByRows_(namedInside(keptEntries(host), pathsOfRows(host))),
+      namedByRows_(namedInside(keptEntries(host), namedCacheFolders(host))),
       roots_(openRoots(host)),
       realRoots_(realScratchFolders(roots_, keptEntries(host))) {}
 
@@ -160,7 +151,7 @@ DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std:
         const auto other = deletionRule(name, host_.home, realRoots_, kept.entries());
         const bool isRealLocation = &name == &names.front();
         if (!allows(other) && (isRealLocation || other != DeletionRule::outsideHome)) return other;
-        if (other == DeletionRule::buildFolder && !isProvenBuildOutput(name, kept.entries()))
+        if (other == DeletionRule::buildFolder && !isProvenBuildOutput(name, kept.entries(), host_.system))
             return DeletionRule::personalFolder;
     }
     return rule;

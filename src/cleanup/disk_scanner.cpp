@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "cleanup/cache_signs.h"
+#include "cleanup/running_check.h"
 #include "cleanup/target_catalogue.h"
 #include "platform/disk_usage.h"
 #include "platform/files.h"
@@ -16,12 +18,6 @@
 namespace tidewell {
 
 namespace {
-
-/// Entries that a sweep never touches, in either swept folder: other programs' state that only
-/// looks like a cache.
-constexpr std::array<std::string_view, 6> sweepAlwaysExcluded = {
-    "CloudKit", "com.apple.HomeKit", "FamilyCircle", "huggingface", "torch", "lm-studio",
-};
 
 /// A target's measure while it grows: the paths that hold something, and their sizes together.
 struct Found {
@@ -40,12 +36,27 @@ struct Found {
     }
 };
 
-std::string standardForm(std::string_view path, const Host& host) {
-    return standardizedPath(host.expand(path));
+/// Whether one of a swept folder's entries has a row of its own.
+bool isClaimed(std::string_view name, const std::set<std::string, std::less<>>& pieces) {
+    return std::ranges::any_of(pieces,
+                               [name](const std::string& piece) { return standsFor(piece, name); });
 }
 
-bool isNeverSwept(std::string_view name) {
-    return std::ranges::find(sweepAlwaysExcluded, name) != sweepAlwaysExcluded.end();
+/// Whether what is tagged in a swept folder goes with a row of its own.
+bool isSweptByTag(std::string_view sweptFolder, const Host& host) {
+    for (const auto& row : catalogueOf(host.system).rows)
+        if (row.kind == TargetKind::taggedSweep)
+            for (const auto stored : row.paths)
+                if (TablePath(stored, host).base() == sweptFolder) return true;
+    return false;
+}
+
+/// Whether a program works with the item that did not when the user ticked it.
+bool hasStartedSince(const CleanupItem& item, const Host& host) {
+    const auto& known = item.runningPrograms;
+    return std::ranges::any_of(runningProgramsOf(item, host), [&known](const auto& name) {
+        return std::ranges::find(known, name) == known.end();
+    });
 }
 
 /// Of an item that no scan has made, any path may hold all of it.
@@ -95,15 +106,15 @@ DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target,
                                                 MeasuredFolders* known) const {
     Found found;
-    for (const auto& stored : target.paths) {
-        const auto path = host_.expand(stored);
-        if (!fileExists(path)) continue;
+    for (auto& path : existingPlaces(target.paths, host_)) {
         switch (target.kind) {
             case TargetKind::plain:
-                found.add(path, known);
+                found.add(std::move(path), known);
                 break;
             case TargetKind::sweep:
-                for (auto& child : sweptChildren(path)) found.add(std::move(child), known);
+            case TargetKind::taggedSweep:
+                for (auto& child : sweptChildren(path, target.kind))
+                    found.add(std::move(child), known);
                 break;
         }
     }
@@ -118,31 +129,35 @@ std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target,
                        .isSelected = target.safety == SafetyLevel::safe};
 }
 
-std::vector<std::string> DiskScanner::sweptChildren(const std::string& sweptFolder) const {
+std::vector<std::string> DiskScanner::sweptChildren(const std::string& sweptFolder,
+                                                    TargetKind kind) const {
     const auto claimed = sweepExclusions(sweptFolder);
+    const auto never = neverSweptPaths(host_);
+    const bool looksInside = catalogueOf(host_.system).sweepCare == SweepCare::byContent;
+    const bool hasTagged = isSweptByTag(sweptFolder, host_);
     std::vector<std::string> children;
-    for (const auto& name : folderNames(sweptFolder).value_or(std::vector<std::string>{}))
-        if (!claimed.contains(name) && !isNeverSwept(name))
-            children.push_back(joinPath(sweptFolder, name));
+    for (const auto& name : folderNames(sweptFolder).value_or(std::vector<std::string>{})) {
+        auto child = joinPath(sweptFolder, name);
+        if (isClaimed(name, claimed) || covers(never, standardizedPath(child))) continue;
+        const bool isTagged = hasTagged && isTaggedCache(child);
+        if (isTagged != (kind == TargetKind::taggedSweep)) continue;
+        if (looksInside && holdsVirtualEnvironment(child)) continue;
+        children.push_back(std::move(child));
+    }
     return children;
 }
 
 std::set<std::string, std::less<>> DiskScanner::sweepExclusions(
     std::string_view sweptFolder) const {
-    const auto root = standardForm(sweptFolder, host_);
+    const auto folder = standardizedPath(host_.expand(sweptFolder));
     std::set<std::string, std::less<>> claimed;
-    for (const auto& target : cleanupCatalogue(host_)) {
-        if (target.isSweep()) continue;
-        for (const auto& stored : target.paths) {
-            const auto path = standardForm(stored, host_);
-            if (isBelow(path, root))
-                claimed.emplace(pathPieces(pathRelativeTo(path, root)).front());
-        }
-    }
+    for (const auto& path : claimedPaths(host_))
+        if (auto name = path.nameDirectlyIn(folder)) claimed.insert(std::move(*name));
     return claimed;
 }
 
 DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
+    if (hasStartedSince(item, host_)) return {.freedBytes = 0, .failedTitle = item.target.title};
     const auto before = heldBefore(item, host_.system);
     auto outcome = Removal::complete;
     for (const auto& path : item.resolvedPaths)

@@ -38,13 +38,14 @@ class DiskScanner {
     /// Free space of the home folder's volume; 0 if it cannot be read.
     ByteCount availableCapacity() const;
 
-    /// The entries directly inside a swept folder that have a row of their own in the catalogue.
+    /// The entries directly inside a swept folder that have a row of their own in the catalogue, as
+    /// components of its paths.
     std::set<std::string, std::less<>> sweepExclusions(std::string_view sweptFolder) const;
 
     const Host& host() const { return host_; }
 
  private:
-    std::vector<std::string> sweptChildren(const std::string& sweptFolder) const;
+    std::vector<std::string> sweptChildren(const std::string& sweptFolder, TargetKind kind) const;
     Removal attempt(const std::string& path) const;
     Removal cleanPath(const std::string& path) const;
 

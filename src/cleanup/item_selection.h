@@ -44,11 +44,22 @@ void setTicks(CleanupItems& items, Tick tick, Predicate isMeant) {
         if (isMeant(item)) item.isSelected = tick == Tick::on;
 }
 
-/// Gives each item that `isMeant` names the tick that it had after the scan: safe ones alone.
+/// The same for many at once. What a running program works with is not ticked with the others: that
+/// takes a tick of its own.
+template <class Predicate>
+void setTicksTogether(CleanupItems& items, Tick tick, Predicate isMeant) {
+    setTicks(items, tick, [&isMeant, tick](const CleanupItem& item) {
+        return isMeant(item) && (tick == Tick::off || !item.isInUse());
+    });
+}
+
+/// Gives each item that `isMeant` names the tick that it had after the scan: safe ones alone, that
+/// no running program works with.
 template <class Predicate>
 void tickSafeOnly(CleanupItems& items, Predicate isMeant) {
     for (auto& item : items)
-        if (isMeant(item)) item.isSelected = item.target.safety == SafetyLevel::safe;
+        if (isMeant(item))
+            item.isSelected = item.target.safety == SafetyLevel::safe && !item.isInUse();
 }
 
 /// The item of that target id; null if there is none.

@@ -1,54 +1,40 @@
 #pragma once
 
-#include <array>
-#include <initializer_list>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "cleanup/cleanup_model.h"
+#include "cleanup/catalogue/row.h"
+#include "cleanup/table_paths.h"
 #include "platform/host.h"
 
 namespace tidewell {
 
-/// The paths of a catalogue row, as constant data.
-class CataloguePaths {
- public:
-    static constexpr std::size_t capacity = 12;
+/// The vocabulary of the Clean tool on the machines of a system, in the order in which a scan
+/// measures it. The words are what the user reads before agreeing to lose a thing.
+Catalogue catalogueOf(System system);
 
-    constexpr CataloguePaths() = default;
-    constexpr CataloguePaths(std::initializer_list<std::string_view> paths) {
-        for (const auto path : paths) stored_.at(count_++) = path;
-    }
-    constexpr const std::string_view* begin() const { return stored_.data(); }
-    constexpr const std::string_view* end() const { return stored_.data() + count_; }
-    constexpr std::size_t size() const { return count_; }
+/// The paths of a row, as they are stored.
+std::vector<std::string> storedPaths(const CatalogueRow& row);
 
- private:
-    std::array<std::string_view, capacity> stored_{};
-    std::size_t count_ = 0;
-};
+/// What a row stands for on a machine.
+CleanupTarget targetOf(const CatalogueRow& row, const Host& host);
 
-/// Where a row's paths come from: the table, or the running machine's scratch folders.
-enum class PathSource { stored, deletableRoots };
-
-/// A cleanup target as it stands in the catalogue.
-struct CatalogueRow {
-    std::string_view id;
-    std::string_view title;
-    std::string_view detail;
-    CleanupCategory category;
-    CataloguePaths paths = {};
-    SafetyLevel safety = SafetyLevel::safe;
-    TargetKind kind = TargetKind::plain;
-    PathSource source = PathSource::stored;
-};
-
-/// The vocabulary of the Clean tool, in the order in which a scan measures it. The words are what
-/// the user reads before agreeing to lose a thing.
-std::span<const CatalogueRow> catalogueRows();
-
-/// The catalogue on a machine, in the same order.
+/// The catalogue's rows on a machine, in the same order.
 std::vector<CleanupTarget> cleanupCatalogue(const Host& host);
+
+/// What the catalogue's rows claim for themselves, but for those that sweep.
+std::vector<TablePath> claimedPaths(const Host& host);
+
+/// The folders on this machine that a row of Clean or Dev Mode names, but for those that sweep:
+/// what may go even where it lies in a folder that must stay. Looks at the disk.
+std::vector<std::string> namedCacheFolders(const Host& host);
+
+/// The entries of swept folders that no sweep takes.
+std::vector<TablePath> neverSweptPaths(const Host& host);
+
+/// Whether one of these paths covers a standardised path.
+bool covers(const std::vector<TablePath>& paths, std::string_view path);
 
 }  // namespace tidewell

@@ -17,8 +17,8 @@ std::string tickText(const CleanupItem& item) {
 }
 
 void printItem(const CleanupItem& item) {
-    const bool needsReview = item.target.safety == SafetyLevel::caution;
-    const auto badge = needsReview ? "  " + std::string(reviewBadge) : std::string();
+    const auto word = itemBadge(item, reviewBadge);
+    const auto badge = word.empty() ? std::string() : "  " + std::string(word);
     const auto title = terminalText(item.target.title);
     const auto used = displayWidth(title) + displayWidth(badge);
     printLine("  " + tickText(item) + " " + title + inked(badge, Ink::careful) +

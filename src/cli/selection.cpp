@@ -12,9 +12,9 @@ bool isPreselected(const CleanupItem& item, const SelectionWish& wish) {
     if (!wish.only.empty()) return false;
     switch (wish.preselection) {
         case Preselection::safe:
-            return item.target.safety == SafetyLevel::safe;
+            return item.target.safety == SafetyLevel::safe && !item.isInUse();
         case Preselection::all:
-            return true;
+            return !item.isInUse();
         case Preselection::none:
             return false;
     }

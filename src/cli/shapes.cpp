@@ -96,6 +96,7 @@ Value itemShape(const CleanupItem& item) {
         {"isSelected", item.isSelected},
     };
     if (item.sharedBytes > 0) shape.emplace_back("sharedBytes", item.sharedBytes);
+    if (item.isInUse()) shape.emplace_back("runningProgram", item.runningPrograms.front());
     return shape;
 }
 

@@ -23,7 +23,7 @@ DevModeViewModel::DevModeViewModel(const Host& host)
       defaults_(host.configurationDirectory) {}
 
 void DevModeViewModel::setSelected(Tick tick, const TargetIDs& ids) {
-    setTicks(items.mutate(), tick, isAmong(ids));
+    setTicksTogether(items.mutate(), tick, isAmong(ids));
 }
 
 void DevModeViewModel::selectSafeOnly(const TargetIDs& ids) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/sample_machine.h"
 
 namespace tidewell {
@@ -49,6 +51,34 @@ TEST(ProjectArtifacts, CountBuildFoldersOnlyBesideAProjectMarker) {
     EXPECT_EQ(foundPaths(machine),
               (Paths{"Code/ios/build", "Documents/app/build", "Code/engine/target"}));
     for (const auto& target : targets) EXPECT_EQ(target.safety, SafetyLevel::caution);
+}
+
+/// Where Linux machines differ: more names, each only in a project, and in the user's own folders
+/// no name without one.
+TEST(ProjectArtifacts, CountMoreOnLinuxMachinesAndOnlyInProjects) {
+    const SampleMachine machine(System::linux);
+    const char* folders[] = {".ruff_cache", ".nox",         ".svelte-kit",      ".godot",
+                             "zig-out",     ".zig-cache",   ".stack-work",      "dist-newstyle",
+                             "build",       "node_modules", "cmake-build-debug"};
+    const std::pair<const char*, const char*> projects[] = {{"Code/app", "pom.xml"},
+                                                            {"Documents/app", "project.godot"},
+                                                            {"Documents/notes", "notes.txt"}};
+    for (const auto& [project, marker] : projects) {
+        machine.file("~/" + std::string(project) + "/" + marker);
+        for (const auto* folder : folders)
+            machine.file("~/" + std::string(project) + "/" + folder + "/x");
+    }
+    machine.file("~/Documents/x/venv/novel.txt");
+    machine.file("~/Code/x/venv/bin/python");
+    machine.file("~/Code/x/zig-out/x");
+    machine.file("~/Videos/app/node_modules/x");
+    machine.file("~/snap/app/12/node_modules/x");
+    const auto paths = foundPaths(machine);
+    // In the user's own folders only "build" and "node_modules" count, which all systems share.
+    EXPECT_EQ(paths.size(), std::size(folders) + 2 + 1);
+    EXPECT_EQ(std::ranges::count(paths, "Code/x/venv"), 1);
+    for (const auto& path : paths)
+        EXPECT_TRUE(path.starts_with("Code/") || path.starts_with("Documents/app/")) << path;
 }
 
 TEST(ProjectArtifacts, AreNotLookedForWherePeopleKeepNoProjects) {

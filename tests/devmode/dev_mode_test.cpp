@@ -202,6 +202,25 @@ TEST(DevGroups, FollowTheirRulesInOrder) {
         EXPECT_EQ(devGroupOf(row.target), row.group) << row.target.id << ", " << row.target.title;
 }
 
+TEST(DevGroups, PutEveryLinuxRowWherePeopleLookForIt) {
+    const SampleMachine machine(System::linux);
+    std::map<std::string, std::string_view> groupOf;
+    CleanupItems items;
+    for (const auto& target : devTargets(machine.host())) {
+        groupOf[target.id] = devGroupOf(target);
+        items.push_back({.target = target, .resolvedPaths = {}, .sizeBytes = 1});
+    }
+    std::size_t shown = 0;
+    for (const auto& group : devRail(items, {})) shown += group.count;
+    EXPECT_EQ(shown, items.size());
+    EXPECT_EQ(groupOf["pre-commit-cache"], "Python");
+    EXPECT_EQ(groupOf["android-studio-caches"], "Java & Android");
+    EXPECT_EQ(groupOf["gopls-cache"], "Go");
+    EXPECT_EQ(groupOf["conda-pkg-cache"], "AI caches");
+    EXPECT_EQ(groupOf["editor-app-caches"], "Editors & AI apps");
+    EXPECT_FALSE(groupOf.contains("chrome-cache"));
+}
+
 TEST(DevGroups, PutEveryRowOfDevModeWherePeopleLookForIt) {
     const SampleMachine machine;
     std::map<std::string, std::string_view> groupOf;

@@ -38,11 +38,17 @@ constexpr ByteCount partWorthTelling = 10;
 
 }  // namespace
 
+std::string_view itemBadge(const CleanupItem& item, std::string_view cautionBadge) {
+    if (item.isInUse()) return runningBadge;
+    return item.target.safety == SafetyLevel::caution ? cautionBadge : std::string_view();
+}
+
 std::string itemDetail(const CleanupItem& item) {
+    auto detail = item.target.detail;
+    if (item.isInUse()) detail = "Quit " + item.runningPrograms.front() + " first. " + detail;
     const auto all = addSaturating(item.sizeBytes, item.sharedBytes);
-    if (item.sharedBytes == 0 || item.sharedBytes < all / partWorthTelling)
-        return item.target.detail;
-    return item.target.detail + " " + byteText(item.sharedBytes) +
+    if (item.sharedBytes == 0 || item.sharedBytes < all / partWorthTelling) return detail;
+    return detail + " " + byteText(item.sharedBytes) +
            " more is shared with other files and would stay.";
 }
 
@@ -53,7 +59,7 @@ ItemChipContent itemChip(const CleanupItem& item, std::string_view cautionBadge)
         .detail = itemDetail(item),
         .size = byteText(item.sizeBytes),
         .isOn = item.isSelected,
-        .badge = item.target.safety == SafetyLevel::caution ? cautionBadge : std::string_view(),
+        .badge = itemBadge(item, cautionBadge),
     };
 }
 

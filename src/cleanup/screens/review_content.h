@@ -29,6 +29,7 @@ inline constexpr std::string_view freeAfterSymbol = "arrow.up.right";
 inline constexpr std::string_view nothingPickedHint =
     "Nothing picked yet. Tap rows or hit “Safe only”.";
 inline constexpr std::string_view reviewBadge = "Review";
+inline constexpr std::string_view runningBadge = "Running";
 
 /// How a check stands for several ticks.
 enum class CheckMark { off, on, mixed };
@@ -66,8 +67,12 @@ struct ItemChipContent {
     bool operator==(const ItemChipContent&) const = default;
 };
 
-/// What the item is and what clearing it means; and, where a tenth or more of it has names
-/// elsewhere, how much that is.
+/// What is said of an item beside its title: that a program works with it, or `cautionBadge` of one
+/// that is not safe; empty for all others.
+std::string_view itemBadge(const CleanupItem& item, std::string_view cautionBadge);
+
+/// What is to be done first, what the item is and what clearing it means; and, where a tenth or more
+/// of it has names elsewhere, how much that is.
 std::string itemDetail(const CleanupItem& item);
 
 /// `cautionBadge` is the word for an item that is not safe.

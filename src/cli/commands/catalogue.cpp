@@ -9,7 +9,7 @@ namespace tidewell::cli {
 namespace {
 
 Value targetShape(const CleanupTarget& target) {
-    return Value::Object{
+    Value::Object shape = {
         {"id", target.id},
         {"title", target.title},
         {"detail", target.detail},
@@ -18,6 +18,12 @@ Value targetShape(const CleanupTarget& target) {
         {"paths", textList(target.paths)},
         {"isSweep", target.isSweep()},
     };
+    if (!target.programs.empty()) {
+        Value::List names;
+        for (const auto& program : target.programs) names.push_back(std::string(program.name));
+        shape.emplace_back("programs", std::move(names));
+    }
+    return shape;
 }
 
 void printTarget(const CleanupTarget& target) {

@@ -142,6 +142,7 @@ RailGroup modelsGroup(const std::vector<AIModelStore>& models) {
 std::string_view devGroupOf(const CleanupTarget& target) {
     if (target.category == CleanupCategory::aiCaches) return "AI caches";
     if (target.id.starts_with(artifactPrefix)) return artifactGroup(target.id);
+    if (!target.devGroup.empty()) return target.devGroup;
     const auto title = lowerCased(target.title);
     for (const auto& rule : keywordRules)
         if (hits(rule, target.id, title)) return rule.group;
