@@ -151,7 +151,8 @@ DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std:
         const auto other = deletionRule(name, host_.home, realRoots_, kept.entries());
         const bool isRealLocation = &name == &names.front();
         if (!allows(other) && (isRealLocation || other != DeletionRule::outsideHome)) return other;
-        if (other == DeletionRule::buildFolder && !isProvenBuildOutput(name, kept.entries(), host_.system))
+        if (other == DeletionRule::buildFolder &&
+            !isProvenBuildOutput(name, kept.entries(), host_.system))
             return DeletionRule::personalFolder;
     }
     return rule;

@@ -82,8 +82,8 @@ std::vector<CleanupTarget> findProjectArtifacts(const Host& host) {
     return targets;
 }
 
-bool isProjectArtifact(std::string_view name, std::span<const FolderEntry> siblings,
-                       System system, BuildOutput rule) {
+bool isProjectArtifact(std::string_view name, std::span<const FolderEntry> siblings, System system,
+                       BuildOutput rule) {
     if (isArtifactFolderName(name) && rule == BuildOutput::byName) return true;
     const auto names = artifactNames(system);
     const auto isPattern = [name](std::string_view piece) { return standsFor(piece, name); };

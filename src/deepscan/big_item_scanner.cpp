@@ -1,11 +1,12 @@
 #include "deepscan/big_item_scanner.h"
 
 #include <algorithm>
-#include <array>
+#include <set>
 #include <utility>
 
-#include "cleanup/cleanup_model.h"
 #include "cleanup/project_artifacts.h"
+#include "deepscan/knowledge/knowledge.h"
+#include "deepscan/walk_roots.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
@@ -14,48 +15,52 @@ namespace tidewell {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> libraryRoots = {
-    "Library/Caches",           "Library/Application Support", "Library/Containers",
-    "Library/Group Containers", "Library/Developer",
-};
-
-/// Folders of the home folder that are no roots: parts of the one are, and the other has a tool of
-/// its own.
-constexpr std::array<std::string_view, 2> homeRootExclusions = {"Library", "Applications"};
-
-bool isHomeRootName(std::string_view name) {
-    return !name.starts_with('.') &&
-           std::ranges::find(homeRootExclusions, name) == homeRootExclusions.end();
-}
-
 std::vector<std::string> namesIn(const std::string& folder) {
     return folderNames(folder).value_or(std::vector<std::string>{});
 }
 
+/// Lists folders, and opens an entry that holds one of `inner` in its stead.
+class CandidateList {
+ public:
+    CandidateList(std::set<std::string, std::less<>> roots, std::vector<std::string> inner)
+        : roots_(std::move(roots)), inner_(std::move(inner)) {}
+
+    void addEntriesOf(const std::string& folder) {
+        for (const auto& name : namesIn(folder)) add(joinPath(folder, name));
+    }
+    void add(std::string path) {
+        if (roots_.contains(path)) return;
+        const auto holds = [&path](const std::string& folder) { return isBelow(folder, path); };
+        if (std::ranges::any_of(inner_, holds) || std::ranges::any_of(roots_, holds)) {
+            addEntriesOf(path);
+        } else if (fileExists(path)) {
+            paths_.push_back(std::move(path));
+        }
+    }
+    std::vector<std::string> take() { return std::move(paths_); }
+
+ private:
+    std::set<std::string, std::less<>> roots_;
+    std::vector<std::string> inner_;
+    std::vector<std::string> paths_;
+};
+
 }  // namespace
 
-BigItem::Kind classifyBigItem(std::string_view path, std::string_view home,
-                              const KeptEntries& kept) {
-    const auto name = lastPathComponent(path);
-    if (isArtifactFolderName(name) || isBuildFolderName(name)) return BigItem::Kind::rebuildable;
-    // Without a slash behind it, so that "Caches 2" beside it counts as well.
-    if (path.starts_with(joinPath(home, "Library/Caches")) || name == "Cache" || name == "Caches")
-        return BigItem::Kind::cache;
-    if (isBelow(path, joinPath(home, "Library"))) return BigItem::Kind::appData;
-    if (personalFolderOf(path, kept)) return BigItem::Kind::personal;
-    return BigItem::Kind::other;
+BigItem::Kind classifyBigItem(std::string_view path, const Host& host, const KeptEntries& kept) {
+    return deepScanKnowledge(host.system).classify(path, host, kept);
 }
 
-BigItem::Kind classifyPlace(const std::string& path, std::string_view home,
-                            const KeptPlaces& kept) {
-    const auto kind = classifyBigItem(path, home, kept.entries());
+BigItem::Kind classifyPlace(const std::string& path, const Host& host, const KeptPlaces& kept) {
+    const auto kind = classifyBigItem(path, host, kept.entries());
     const auto real = realLocation(path);
     if (!real) return kind;
     const auto names = kept.namesOf(*real);
     const auto isPersonal = [&](const std::string& name) {
-        const auto known = classifyBigItem(name, home, kept.entries());
+        const auto known = classifyBigItem(name, host, kept.entries());
         return known == BigItem::Kind::personal ||
-               (known == BigItem::Kind::rebuildable && !isProvenBuildOutput(name, kept.entries()));
+               (known == BigItem::Kind::rebuildable &&
+                !isProvenBuildOutput(name, kept.entries(), host.system));
     };
     const bool staysForTheUser = kept.mustStay(names) || std::ranges::any_of(names, isPersonal);
     return staysForTheUser ? BigItem::Kind::personal : kind;
@@ -78,48 +83,38 @@ BigItem::Kind finalKind(BigItem::Kind classified,
 
 BigItemScanner::BigItemScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 
-/// A personal folder that lies deeper is one as well, so that it never goes as one item.
-std::vector<std::string> BigItemScanner::roots(const KeptEntries& kept) const {
-    std::vector<std::string> roots;
-    for (const auto& folder : kept.personalFolders)
-        if (isDeepInHome(folder, host_.home) && std::ranges::find(roots, folder) == roots.end() &&
-            fileKind(folder) == FileKind::folder)
-            roots.push_back(folder);
-    for (const auto root : libraryRoots) roots.push_back(joinPath(host_.home, root));
+std::vector<std::string> BigItemScanner::homeEntries() const {
+    const auto known = deepScanKnowledge(host_.system);
+    std::vector<std::string> entries;
+    if (known.homeEntries == HomeEntries::passedOver) return entries;
     for (const auto& name : namesIn(host_.home)) {
         auto path = joinPath(host_.home, name);
-        if (isHomeRootName(name) && fileKind(path) == FileKind::folder)
-            roots.push_back(std::move(path));
+        if (name.starts_with('.') || fileKind(path) == FileKind::other)
+            entries.push_back(std::move(path));
     }
-    return roots;
+    return entries;
 }
 
 /// No path can come twice: no two roots are the same folder, each lists its own entries only, and
-/// none that is or holds a root.
-std::vector<std::string> BigItemScanner::candidates(const KeptEntries& kept) const {
-    std::vector<std::string> paths;
-    const auto roots = this->roots(kept);
-    for (const auto& root : roots) {
-        for (const auto& name : namesIn(root)) {
-            auto path = joinPath(root, name);
-            const bool holdsRoot = std::ranges::any_of(
-                roots, [&path](const auto& other) { return isAtOrBelow(other, path); });
-            if (!holdsRoot && fileExists(path)) paths.push_back(std::move(path));
-        }
-    }
-    return paths;
+/// what holds a root is opened down to it.
+std::vector<std::string> BigItemScanner::candidates() const {
+    const auto listed = walkRoots(host_);
+    CandidateList candidates({listed.begin(), listed.end()}, walkExclusions(host_));
+    for (const auto& root : listed) candidates.addEntriesOf(root);
+    for (auto& entry : homeEntries()) candidates.add(std::move(entry));
+    return candidates.take();
 }
 
 BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
                                  const KeptPlaces& kept) const {
     const auto name = lastPathComponent(path);
-    const auto fact = FolderKnowledge::fact(name);
+    const auto fact = FolderKnowledge::fact(path, host_);
     BigItem item{.id = path,
                  .name = std::string(name),
                  .location = std::string(host_.relativeToHome(parentPath(path))),
                  .sizeBytes = size,
                  .isDirectory = fileKind(path) == FileKind::folder,
-                 .kind = finalKind(classifyPlace(path, host_.home, kept), fact),
+                 .kind = finalKind(classifyPlace(path, host_, kept), fact),
                  .note = std::nullopt,
                  .reclaimCommand = std::nullopt};
     if (fact) item.note = std::string(fact->note);
@@ -128,7 +123,7 @@ BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
 
 std::vector<BigItem> BigItemScanner::scan(const Progress& progress, MeasuredFolders* known) const {
     const KeptPlaces kept(host_);
-    const auto paths = candidates(kept.entries());
+    const auto paths = candidates();
     std::vector<BigItem> items;
     std::size_t measured = 0;
     for (const auto& path : paths) {

@@ -23,12 +23,11 @@ constexpr bool isBigItem(ByteCount size) {
 }
 
 /// What an entry is by its name and its place in the home folder alone.
-BigItem::Kind classifyBigItem(std::string_view path, std::string_view home,
-                              const KeptEntries& kept);
+BigItem::Kind classifyBigItem(std::string_view path, const Host& host, const KeptEntries& kept);
 
 /// The same by every name of the place where it really lies: personal if one of them says so, and
 /// if something that must stay is in it.
-BigItem::Kind classifyPlace(const std::string& path, std::string_view home, const KeptPlaces& kept);
+BigItem::Kind classifyPlace(const std::string& path, const Host& host, const KeptPlaces& kept);
 
 /// The same once the folder is known: a fact overrules it where losing the folder hurts, and where
 /// it surely does not.
@@ -53,10 +52,12 @@ class BigItemScanner {
 
     explicit BigItemScanner(Host host);
 
-    /// The entries that occupy enough, of five folders of the user's Library and of every visible
-    /// folder of the home folder but Library and Applications. Largest first; of equal size in the
-    /// order of the walk. An entry is one item however deep it goes. `progress` is called on the
-    /// caller's thread after each measure. What `known` knows is taken over.
+    /// The entries that occupy enough, of the folders in which the machine's programs keep their
+    /// data, and of the visible folders of the home folder. One that holds such a folder, or a
+    /// container's disks, is opened in its stead, so that nothing is counted twice. Largest first;
+    /// of equal size in the order of the walk. An entry is one item however deep it goes.
+    /// `progress` is called on the caller's thread after each measure. What `known` knows is taken
+    /// over.
     std::vector<BigItem> scan(const Progress& progress = {},
                               MeasuredFolders* known = nullptr) const;
 
@@ -68,8 +69,8 @@ class BigItemScanner {
     PuttingBack putBack(const TrashedItem& item) const { return tidewell::putBack(item, host_); }
 
  private:
-    std::vector<std::string> roots(const KeptEntries& kept) const;
-    std::vector<std::string> candidates(const KeptEntries& kept) const;
+    std::vector<std::string> homeEntries() const;
+    std::vector<std::string> candidates() const;
     BigItem describe(const std::string& path, ByteCount size, const KeptPlaces& kept) const;
 
     Host host_;

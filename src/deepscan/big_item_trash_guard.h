@@ -30,6 +30,9 @@ class BigItemTrashGuard {
     std::optional<TrashablePath> approve(const BigItem& item) const;
 
  private:
+    bool isGround(std::string_view path) const;
+    bool holdsGround(std::string_view path) const;
+
     Host host_;
 };
 

@@ -1,13 +1,11 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "cleanup/target_catalogue.h"
 #include "deepscan/big_item.h"
+#include "deepscan/knowledge/knowledge.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -20,18 +18,6 @@ inline constexpr ByteCount containerMinimumSize = ByteCount{100} * 1024 * 1024;
 /// one. What cannot be read is passed over.
 class ContainerScanner {
  public:
-    /// A tool, as constant data. Each list is tried in its order.
-    struct Engine {
-        std::string_view name;
-        CataloguePaths detect;   ///< the tool is there if any of these exists
-        CataloguePaths measure;  ///< the first that exists is what is measured
-        CataloguePaths reveal;   ///< the first that exists is what is shown to the user
-        std::string_view note;
-        std::optional<std::string_view> command;  ///< frees the room
-    };
-
-    static std::span<const Engine> engines();
-
     explicit ContainerScanner(Host host);
 
     /// At most one item for each tool, largest first; of equal size in the order of the table.
@@ -42,8 +28,8 @@ class ContainerScanner {
     std::vector<std::string> walkExclusionPaths() const;
 
  private:
-    std::optional<BigItem> find(const Engine& engine) const;
-    std::optional<std::string> firstExisting(const CataloguePaths& paths) const;
+    std::optional<BigItem> find(const ContainerEngine& engine) const;
+    std::optional<std::string> firstExisting(const ConstantTexts& paths) const;
 
     Host host_;
 };

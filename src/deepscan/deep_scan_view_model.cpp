@@ -55,7 +55,7 @@ Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
                         containers = containerScanner_, progress = progressHop(), known] {
                 auto silent = findSilentMounts();
                 auto walked = walk.scan(progress, known.get());
-                auto foundInstallers = installers.scan();
+                auto foundInstallers = installers.scan(walked);
                 auto foundContainers = containers.scan();
                 auto merged =
                     mergeDeepScan(std::move(walked), std::move(foundInstallers),

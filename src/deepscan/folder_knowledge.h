@@ -3,6 +3,8 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/host.h"
+
 namespace tidewell {
 
 /// What is known about well-known folders: what they hold, and whether losing it hurts. Constant
@@ -21,9 +23,10 @@ class FolderKnowledge {
         std::string_view note;  ///< a sentence or two for the user
     };
 
-    /// The fact about a folder of this name, its last path component alone: where the folder lies
-    /// does not matter. Case-sensitive; whole names go before parts of names.
-    static std::optional<Fact> fact(std::string_view name);
+    /// The fact about a folder: by its name, wherever it lies, or by where it lies, whatever its
+    /// name; see the knowledge of the machine's system. Case-sensitive; whole names go before parts
+    /// of names, and those before places.
+    static std::optional<Fact> fact(std::string_view path, const Host& host);
 
     FolderKnowledge() = delete;
 };

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cleanup/user_dirs.h"
+#include "deepscan/installer_sign.h"
 #include "platform/dates.h"
 #include "platform/disk_usage.h"
 #include "platform/folder_walk.h"
@@ -14,26 +15,14 @@ namespace tidewell {
 
 namespace {
 
-struct InstallerType {
-    std::string_view extension;
-    std::string_view label;
-};
-
-constexpr auto installerTypes = std::to_array<InstallerType>({
-    {"dmg", "Disk image"},
-    {"pkg", "Installer package"},
-    {"mpkg", "Installer package"},
-    {"iso", "Disc image"},
-});
-
 constexpr std::array<std::string_view, 2> downloadPlaces = {"Downloads", "Desktop"};
 
 constexpr std::int64_t daysInMonth = 30;
 constexpr std::int64_t daysInYear = 360;
 
-const InstallerType* findType(std::string_view extension) {
-    const auto* found = std::ranges::find(installerTypes, extension, &InstallerType::extension);
-    return found == installerTypes.end() ? nullptr : found;
+bool liesInOneOf(std::string_view path, const std::vector<BigItem>& listed) {
+    return std::ranges::any_of(listed,
+                               [path](const BigItem& item) { return isBelow(path, item.path()); });
 }
 
 std::string ago(std::int64_t count, std::string_view unit) {
@@ -55,9 +44,12 @@ std::vector<std::string> placesOfDownloads(const Host& host) {
 
 }  // namespace
 
-std::string_view installerExtension(std::string_view path) {
-    const auto* type = findType(lowerCased(pathExtension(path)));
-    return type ? type->extension : std::string_view{};
+const InstallerType* installerType(const std::string& path, System system) {
+    const auto extension = lowerCased(pathExtension(path));
+    for (const auto& type : deepScanKnowledge(system).installers)
+        if ((type.extension.empty() || type.extension == extension) && hasSign(path, type.sign))
+            return &type;
+    return nullptr;
 }
 
 std::string installerAge(std::int64_t days) {
@@ -67,46 +59,48 @@ std::string installerAge(std::int64_t days) {
     return ago(days / daysInYear, "year");
 }
 
-std::string installerNote(std::string_view extension, std::optional<Date> added, Date now) {
-    const auto* type = findType(extension);
-    std::string note = type ? std::string(type->label) + "." : std::string();
+std::string installerNote(const InstallerType& type, std::optional<Date> added, Date now) {
+    auto note = std::string(type.label) + ".";
     if (added) note += " Added " + installerAge(wholeDaysBetween(*added, now)) + ".";
-    return note + " Safe to trash once you've installed the app.";
+    return note + " " + std::string(type.advice);
 }
 
 InstallerScanner::InstallerScanner(Host host) : host_(std::move(host)) {}
 
 /// A folder with an installer's extension counts like a file, and is walked all the same unless it
 /// is a package.
-std::vector<std::string> InstallerScanner::installerPaths() const {
+std::vector<std::string> InstallerScanner::downloads() const {
     std::vector<std::string> paths;
     for (const auto& place : placesOfDownloads(host_)) {
         walkFolder(place, HiddenEntries::passOver, [&paths](const WalkEntry& entry) {
             if (entry.level >= installerMaximumLevel) return Descent::skip;
-            if (!installerExtension(entry.name).empty()) paths.emplace_back(entry.path);
+            paths.emplace_back(entry.path);
             return Descent::enter;
         });
     }
     return paths;
 }
 
-BigItem InstallerScanner::describe(const std::string& path, ByteCount size) const {
-    const auto extension = installerExtension(path);
+BigItem InstallerScanner::describe(const std::string& path, const InstallerType& type,
+                                   ByteCount size) const {
     return {.id = path,
             .name = std::string(lastPathComponent(path)),
             .location = std::string(host_.relativeToHome(parentPath(path))),
             .sizeBytes = size,
-            .isDirectory = extension == "mpkg",
+            .isDirectory = type.extension == "mpkg",
             .kind = BigItem::Kind::installer,
-            .note = installerNote(extension, modificationDate(path), now()),
+            .note = installerNote(type, modificationDate(path), now()),
             .reclaimCommand = std::nullopt};
 }
 
-std::vector<BigItem> InstallerScanner::scan() const {
+std::vector<BigItem> InstallerScanner::scan(const std::vector<BigItem>& listed) const {
+    const bool countsAlone = deepScanKnowledge(host_.system).nested == NestedInstallers::listedToo;
     std::vector<BigItem> items;
-    for (const auto& path : installerPaths()) {
+    for (const auto& path : downloads()) {
+        const auto* type = installerType(path, host_.system);
+        if (!type || (!countsAlone && liesInOneOf(path, listed))) continue;
         const auto size = allocatedSize(path);
-        if (size >= installerMinimumSize) items.push_back(describe(path, size));
+        if (size >= installerMinimumSize) items.push_back(describe(path, *type, size));
     }
     sortBySize(items);
     return items;

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
+#include "deepscan/container_scanner.h"
+#include "deepscan/deep_scan_view_model.h"
 #include "support/sample_machine.h"
 
 namespace tidewell::test {
@@ -28,7 +32,7 @@ TEST(BigItemScanner, ClassifiesByNameThenPlaceAndLetsAClearFactOverruleIt) {
     host.home = "/h";
     const auto kept = keptEntries(host);
     for (const auto& [path, kind] : rows)
-        EXPECT_EQ(classifyBigItem(path, "/h", kept), kind) << path;
+        EXPECT_EQ(classifyBigItem(path, host, kept), kind) << path;
 
     const auto with = [](Verdict verdict) {
         return finalKind(Kind::appData, FolderKnowledge::Fact{verdict, ""});
@@ -76,6 +80,48 @@ TEST(BigItemScanner, ListsTheBigEntriesOfFiveLibraryFoldersAndOfVisibleFoldersAs
     EXPECT_EQ(items[2].kind, Kind::personal) << "a fact overrules its place";
     EXPECT_EQ(items[3].id, machine.path("~/Work/film.mov"));
     EXPECT_EQ(progress, (std::vector{1 / 6., 2 / 6., 3 / 6., 4 / 6., 5 / 6., 1.}));
+}
+
+TEST(BigItemScanner, ListsALinuxHomeOnceAndSaysWhatEachThingIs) {
+    const SampleMachine machine(System::linux);
+    const std::pair<const char*, Kind> found[] = {
+        {"~/.cache/pip", Kind::cache},
+        {"~/.cache/someone", Kind::appData},
+        {"~/.config/Code", Kind::appData},
+        {"~/.local/bin", Kind::appData},
+        {"~/.local/share/Steam/ubuntu12_32", Kind::appData},
+        {"~/.local/share/Steam/steamapps/common/Game", Kind::appData},
+        {"~/.local/share/Steam/steamapps/compatdata/440", Kind::personal},
+        {"~/.local/share/flatpak/runtime", Kind::appData},
+        {"~/.local/share/flatpak/app/org.example.App", Kind::appData},
+        {"~/.local/share/containers/cache", Kind::appData},
+        {"~/.var/app/org.example.App", Kind::appData},
+        {"~/.wine", Kind::personal},
+        {"~/.old", Kind::appData},
+        {"~/Code/app", Kind::other},
+        {"~/Code/target", Kind::rebuildable},
+        {"~/Videos/film", Kind::personal},
+        {"~/snap/app", Kind::appData},
+    };
+    for (const auto& [place, kind] : found)
+        machine.file(std::string(place) + "/a/blob", 81 * megabyte);
+    machine.file("~/disk.img", 90 * megabyte);
+    machine.file("~/.swap", 90 * megabyte);
+    machine.file("~/.local/share/containers/storage/overlay/blob", 101 * megabyte);
+    machine.link("~/linked.img", machine.path("~/disk.img"));
+
+    const auto items = mergeDeepScan(BigItemScanner(machine.host()).scan(), {}, {},
+                                     ContainerScanner(machine.host()).walkExclusionPaths());
+
+    std::map<std::string, Kind> kinds;
+    for (const auto& item : items) kinds[item.id] = item.kind;
+    for (const auto& [place, kind] : found) {
+        ASSERT_TRUE(kinds.contains(machine.path(place))) << place;
+        EXPECT_EQ(kinds[machine.path(place)], kind) << place;
+    }
+    EXPECT_EQ(kinds[machine.path("~/disk.img")], Kind::personal);
+    EXPECT_EQ(kinds[machine.path("~/.swap")], Kind::personal);
+    EXPECT_EQ(items.size(), std::size(found) + 2);
 }
 
 }  // namespace

@@ -85,7 +85,7 @@ TEST_F(BigItemTrash, KeepsWhatAPersonalFolderOrAKeyLeadsTo) {
     machine.link("~/Work", "Sync/mine");
     const KeptPlaces kept(machine.host());
     const auto kindOf = [&](const char* path) {
-        return classifyPlace(machine.path(path), machine.home(), kept);
+        return classifyPlace(machine.path(path), machine.host(), kept);
     };
     for (const auto* path : {"~/Sync/mine", "~/Sync/mine/Documents", "~/Work/Documents/thesis",
                              "~/Sync/mine/Documents/thesis"})
@@ -108,6 +108,34 @@ TEST_F(BigItemTrash, LeavesAnItemWhereTheTrashIsALink) {
     machine.text("~/Documents/x", "kept");
     expectRefused("~/Documents/x");
     EXPECT_TRUE(machine.has("~/Documents/x"));
+}
+
+/// What the deep scan of a Linux machine lists may go, up to the home folder's own entries; what
+/// holds the folders that it lists from, or a machine's disks, may not.
+TEST(BigItemTrashGuard, TakesALinuxHomesEntriesButNoRootAndNoDisks) {
+    const SampleMachine machine(System::linux);
+    for (const auto* place :
+         {"~/.old", "~/backup.img", "~/.cache/x", "~/.config/app", "~/.var/app/org.example.App",
+          "~/Code/app", "~/.local/share/containers/cache"})
+        machine.file(std::string(place) + "/a");
+    machine.file("~/.local/share/containers/storage/overlay/a");
+    machine.file("~/.ssh/id");
+    machine.file("~/Videos/film");
+    machine.file("~/.local/share/Trash/files/old");
+    const auto mayGo = [&machine](const char* place) {
+        const auto item = bigItem(machine.path(place), Kind::other, 5000);
+        return BigItemTrashGuard(machine.host()).approve(item).has_value();
+    };
+    for (const auto* place :
+         {"~/.old", "~/backup.img", "~/.cache/x", "~/.config/app", "~/.var/app/org.example.App",
+          "~/Code/app", "~/.local/share/containers/cache", "~/Videos/film"})
+        EXPECT_TRUE(mayGo(place)) << place;
+    for (const auto* place :
+         {"~", "~/.cache", "~/.config", "~/.local", "~/.local/share", "~/.var", "~/.var/app",
+          "~/Code", "~/Videos", "~/.ssh", "~/.ssh/id", "~/.local/share/containers",
+          "~/.local/share/containers/storage", "~/.local/share/containers/storage/overlay",
+          "~/.local/share/Trash", "~/.local/share/Trash/files/old"})
+        EXPECT_FALSE(mayGo(place)) << place;
 }
 
 }  // namespace

@@ -2,15 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include "support/sample_machine.h"
+
 namespace tidewell::test {
 namespace {
 
 using Verdict = FolderKnowledge::Verdict;
 
 TEST(FolderKnowledge, MatchesWholeNamesExactlyAndTwoPartsAnywhere) {
+    const SampleMachine machine;
     for (const auto name : {"", "google", "GOOGLE", "Google ", "com.adobe.dunamis.1",
                             "com.adobe.growthsdk", "x.com.apple.mail"})
-        EXPECT_FALSE(FolderKnowledge::fact(name)) << name;
+        EXPECT_FALSE(FolderKnowledge::fact(name, machine.host())) << name;
 
     const struct {
         std::string_view name;
@@ -30,10 +33,29 @@ TEST(FolderKnowledge, MatchesWholeNamesExactlyAndTwoPartsAnywhere) {
          "Adobe marketing SDK cache. Nothing personal; recreated automatically."},
     };
     for (const auto& row : rows) {
-        const auto fact = FolderKnowledge::fact(row.name);
+        const auto fact = FolderKnowledge::fact(row.name, machine.host());
         ASSERT_TRUE(fact) << row.name;
         EXPECT_EQ(fact->verdict, row.verdict) << row.name;
         EXPECT_EQ(fact->note, row.note);
+    }
+}
+
+/// Where names say little, the place tells: most precise first, and with all below.
+TEST(FolderKnowledge, GoesByThePlaceOnLinuxMachines) {
+    const SampleMachine machine(System::linux);
+    const std::pair<const char*, std::optional<Verdict>> rows[] = {
+        {"~/.local/share/Steam/steamapps/compatdata/440", Verdict::keepUserData},
+        {"~/.local/share/Steam/steamapps/common/Game", Verdict::mixed},
+        {"~/.config/google-chrome-beta", Verdict::keepUserData},
+        {"~/.cache/thumbnails", Verdict::safeToClear},
+        {"~/.cache/JetBrains", Verdict::mixed},
+        {"~/Nextcloud/Photos", Verdict::keepUserData},
+        {"~/Code/.wine", std::nullopt},
+        {"~/Google", std::nullopt},
+    };
+    for (const auto& [place, verdict] : rows) {
+        const auto fact = FolderKnowledge::fact(machine.path(place), machine.host());
+        EXPECT_EQ(fact ? std::optional(fact->verdict) : std::nullopt, verdict) << place;
     }
 }
 

@@ -19,12 +19,59 @@ TEST(InstallerScanner, SaysWhatAnInstallerIsAndSinceWhen) {
     for (const auto& [days, text] : ages) EXPECT_EQ(installerAge(days), text) << days;
 
     const Date now = std::chrono::sys_days(std::chrono::year(2026) / 6 / 20) + 12h;
-    EXPECT_EQ(installerNote("dmg", now - 72h, now),
+    const auto note = [&now](const std::string& name, std::optional<Date> added) {
+        return installerNote(*installerType(name, System::macOS), added, now);
+    };
+    EXPECT_EQ(note("x.dmg", now - 72h),
               "Disk image. Added 3 days ago. Safe to trash once you've installed the app.");
-    EXPECT_EQ(installerNote("iso", now + 48h, now),
+    EXPECT_EQ(note("x.iso", now + 48h),
               "Disc image. Added today. Safe to trash once you've installed the app.");
-    EXPECT_EQ(installerNote("pkg", std::nullopt, now),
+    EXPECT_EQ(note("x.pkg", std::nullopt),
               "Installer package. Safe to trash once you've installed the app.");
+}
+
+TEST(InstallerScanner, GoesByTheFirstBytesWhereALinuxNameSaysLittle) {
+    const SampleMachine machine(System::linux);
+    const std::string iso(32769, '\0');
+    const struct {
+        std::string name;
+        std::string start;
+        std::string label;  ///< empty for what is no installer
+    } rows[] = {
+        {"a.DEB", "", "Installer package"},
+        {"b.run", "#!/bin/sh\n# This script was generated using Makeself 2.4.0\n",
+         "Self-extracting installer"},
+        {"c.run", "#!/bin/sh\nexec ./simulate\n", ""},
+        {"d.exe", "MZ" + std::string(500, 'x') + ".ndata", "Windows installer"},
+        {"e.exe", "MZ the game itself", ""},
+        {"f.img", iso + "CD001", "Disk image"},
+        {"g.img", "a scan of a photograph", ""},
+        {"h",
+         std::string("\x7F"
+                     "ELF\2\1\1\0AI\2",
+                     11),
+         "AppImage"},
+        {"i",
+         std::string("\x7F"
+                     "ELF\2\1\1\0\0\0\0",
+                     11),
+         ""},
+        {"j.AppImage", "", "AppImage"},
+        {"k.dmg", "", ""},
+    };
+    for (const auto& row : rows) {
+        const auto place = "~/Downloads/" + row.name;
+        machine.text(place, row.start);
+        const auto* type = installerType(machine.path(place), System::linux);
+        EXPECT_EQ(type ? type->label : "", row.label) << row.name;
+        const bool isCalledSafe =
+            type && type->advice.starts_with("Safe to trash once you've inst");
+        EXPECT_FALSE(isCalledSafe && row.label == "AppImage") << row.name;
+    }
+    machine.folder("~/Downloads/unpacked.snap");
+    machine.link("~/Downloads/linked.deb", machine.path("~/Downloads/a.DEB"));
+    for (const auto* place : {"~/Downloads/unpacked.snap", "~/Downloads/linked.deb"})
+        EXPECT_FALSE(installerType(machine.path(place), System::linux)) << place;
 }
 
 TEST(InstallerScanner, FindsInstallersInDownloadsAndOnTheDesktopLargestFirst) {

@@ -71,8 +71,8 @@ struct ItemChipContent {
 /// that is not safe; empty for all others.
 std::string_view itemBadge(const CleanupItem& item, std::string_view cautionBadge);
 
-/// What is to be done first, what the item is and what clearing it means; and, where a tenth or more
-/// of it has names elsewhere, how much that is.
+/// What is to be done first, what the item is and what clearing it means; and, where a tenth or
+/// more of it has names elsewhere, how much that is.
 std::string itemDetail(const CleanupItem& item);
 
 /// `cautionBadge` is the word for an item that is not safe.

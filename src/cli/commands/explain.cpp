@@ -87,7 +87,7 @@ std::vector<std::string> claimingRows(const std::string& path, const Host& host)
     std::vector<std::string> ids;
     for (const auto& target : cleanupCatalogue(host)) {
         const bool claims = std::ranges::any_of(target.paths, [&](const std::string& stored) {
-            return isAtOrBelow(path, standardizedPath(host.expand(stored)));
+            return TablePath(stored, host).covers(path);
         });
         if (claims) ids.push_back(target.id);
     }
@@ -96,12 +96,11 @@ std::vector<std::string> claimingRows(const std::string& path, const Host& host)
 
 Explanation explain(const std::string& word, const Host& host) {
     const auto path = standardizedPath(absolutePath(word));
-    const auto name = lastPathComponent(path);
-    const auto fact = FolderKnowledge::fact(name);
+    const auto fact = FolderKnowledge::fact(path, host);
     return {
         .path = path,
         .sizeBytes = allocatedSize(path),
-        .kind = finalKind(classifyPlace(path, host.home, KeptPlaces(host)), fact),
+        .kind = finalKind(classifyPlace(path, host, KeptPlaces(host)), fact),
         .fact = fact,
         .claimedBy = claimingRows(path, host),
         .rule = DeletionGuard(host).verdict(path),
