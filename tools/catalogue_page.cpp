@@ -9,6 +9,7 @@
 
 #include "cleanup/kept_entries.h"
 #include "cleanup/target_catalogue.h"
+#include "platform/user_folders.h"
 
 namespace {
 
@@ -55,6 +56,21 @@ lead:
 
 constexpr std::string_view personalIntroduction = R"(
 In these folders of your own, Clean removes nothing but the build folders of projects:
+
+)";
+
+constexpr std::string_view linuxKeysIntroduction = R"(
+On Linux machines the keys and credentials are:
+
+)";
+
+constexpr std::string_view profilesIntroduction = R"(
+and, but for the caches that a row names, the profiles:
+
+)";
+
+constexpr std::string_view linuxPersonalIntroduction = R"(
+The folders of your own there are those that your desktop names, in any language, and:
 
 )";
 
@@ -134,7 +150,13 @@ int main() {
         std::cout << "- " << codeText(name) << '\n';
     printSystem(macOSIntroduction, System::macOS);
     std::cout << keysIntroduction;
-    printList(protectedHomePaths);
+    printList(keptKnowledge(System::macOS).keys);
     std::cout << personalIntroduction;
-    printList(personalFolders);
+    printList(userFolderNames(System::macOS));
+    std::cout << linuxKeysIntroduction;
+    printList(keptKnowledge(System::linux).keys);
+    std::cout << profilesIntroduction;
+    printList(keptKnowledge(System::linux).profiles);
+    std::cout << linuxPersonalIntroduction;
+    printList(userFolderNames(System::linux));
 }
