@@ -133,10 +133,8 @@ TEST(KeptEntries, OfLinuxMachinesTakeForBuildOutputOnlyWhatLiesBesideAMarker) {
     for (const auto* path : {"~/Videos/mine/venv/x", "~/Videos/mine/node_modules/foo/build/x"})
         EXPECT_EQ(guard.verdict(machine.path(path)), DeletionRule::personalFolder) << path;
     const KeptPlaces kept(host);
-    EXPECT_EQ(classifyPlace(machine.path("~/Videos/venv"), host.home, kept),
-              BigItem::Kind::personal);
-    EXPECT_EQ(classifyPlace(machine.path("~/work/venv"), host.home, kept),
-              BigItem::Kind::rebuildable);
+    EXPECT_EQ(classifyPlace(machine.path("~/Videos/venv"), host, kept), BigItem::Kind::personal);
+    EXPECT_EQ(classifyPlace(machine.path("~/work/venv"), host, kept), BigItem::Kind::rebuildable);
     std::vector<std::string> found;
     for (const auto& target : findProjectArtifacts(host)) found.push_back(target.paths.front());
     EXPECT_EQ(found, (std::vector<std::string>{machine.path("~/Videos/app/node_modules"),

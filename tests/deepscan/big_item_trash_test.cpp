@@ -114,10 +114,10 @@ TEST_F(BigItemTrash, LeavesAnItemWhereTheTrashIsALink) {
 /// holds the folders that it lists from, or a machine's disks, may not.
 TEST(BigItemTrashGuard, TakesALinuxHomesEntriesButNoRootAndNoDisks) {
     const SampleMachine machine(System::linux);
-    for (const auto* place :
-         {"~/.old", "~/backup.img", "~/.cache/x", "~/.config/app", "~/.var/app/org.example.App",
-          "~/Code/app", "~/.local/share/containers/cache"})
+    for (const auto* place : {"~/.old", "~/.cache/x", "~/.config/app", "~/.var/app/org.example.App",
+                              "~/Code/app", "~/.local/share/containers/cache"})
         machine.file(std::string(place) + "/a");
+    machine.file("~/backup.img");
     machine.file("~/.local/share/containers/storage/overlay/a");
     machine.file("~/.ssh/id");
     machine.file("~/Videos/film");

@@ -28,17 +28,8 @@ constexpr auto markers = std::to_array<std::string_view>({
 });
 
 /// Folders directly in the home folder that hold no projects.
-constexpr auto skippedInHome = std::to_array<std::string_view>({
-    "Applications",
-    "Movies",
-    "Music",
-    "Pictures",
-    "Public",
-    "Sites",
-    "Templates",
-    "Videos",
-    "snap",
-});
+constexpr auto skippedInHome = std::to_array<std::string_view>(
+    {"Applications", "Movies", "Music", "Pictures", "Public", "Sites", "snap"});
 
 constexpr auto notes = std::to_array<ArtifactNote>({
     {"node_modules", "JavaScript dependencies. Re-created by npm / yarn / pnpm install"},
