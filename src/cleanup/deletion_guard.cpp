@@ -41,14 +41,28 @@ std::vector<std::string> realScratchFolders(const std::vector<std::string>& root
     return found;
 }
 
-/// Where everything may go: scratch folders, and those of the user's own Trashes that no other rule
-/// opens, since they lie on other disks.
+/// Those of the user's own Trashes that no other rule opens, since they lie on other disks.
+std::vector<std::string> trashesElsewhere(const Host& host) {
+    auto folders = trashFolders(host);
+    const auto kept = keptEntries(host);
+    const auto roots = deletableRoots(host);
+    std::erase_if(folders, [&](const auto& folder) {
+        return allows(deletionRule(folder, host.home, roots, kept));
+    });
+    return folders;
+}
+
+/// Where everything may go: scratch folders, and such Trashes.
 std::vector<std::string> openRoots(const Host& host) {
     auto roots = deletableRoots(host);
-    const auto kept = keptEntries(host);
-    for (auto& folder : trashFolders(host))
-        if (!allows(deletionRule(folder, host.home, roots, kept)))
-            roots.push_back(std::move(folder));
+    for (auto& folder : trashesElsewhere(host)) roots.push_back(std::move(folder));
+    return roots;
+}
+
+std::vector<std::string> realOpenRoots(const Host& host) {
+    auto roots = realScratchFolders(deletableRoots(host), keptEntries(host));
+    for (const auto& folder : trashesElsewhere(host))
+        if (auto real = realLocation(folder)) roots.push_back(*std::move(real));
     return roots;
 }
 
@@ -120,7 +134,7 @@ DeletionGuard::DeletionGuard(const Host& host)
     : host_(host),
       namedByRows_(namedInside(keptEntries(host), namedCacheFolders(host))),
       roots_(openRoots(host)),
-      realRoots_(realScratchFolders(roots_, keptEntries(host))) {}
+      realRoots_(realOpenRoots(host)) {}
 
 KeptPlaces DeletionGuard::keptPlaces() const {
     auto entries = keptEntries(host_);
