@@ -221,11 +221,13 @@ TEST(SmartScanMeasures, AreTakenOverWithinOneScanOnLinuxMachinesAlone) {
         const auto controller = std::make_shared<SmartScanController>(
             std::make_shared<CleanupViewModel>(host), std::make_shared<AppsViewModel>(host),
             deepScan, std::make_shared<AdvisorViewModel>(host));
-        machine.file("~/Library/Caches/com.example/below/first", 90 * test::megabyte);
+        const std::string cache =
+            system == System::linux ? "~/.cache/example/below/" : "~/Library/Caches/example/below/";
+        machine.file(cache + "first", 90 * test::megabyte);
         controller->start();
         loop.runTurns();
         while (controller->phase() != Phase::apps) loop.finish();
-        machine.file("~/Library/Caches/com.example/below/second", 10 * test::megabyte);
+        machine.file(cache + "second", 10 * test::megabyte);
         loop.runAll();
         const auto taken = (system == System::linux ? 90 : 100) * test::megabyte;
         EXPECT_EQ(deepScan->totalBytes(), taken);
