@@ -4,6 +4,7 @@
 #include <QtGui/qcursor.h>
 
 #include "kit/qt/text.h"
+#include "kit/words.h"
 #include "shell/qt/status_image.h"
 #include "shell/screens/menu_bar_content.h"
 
@@ -11,7 +12,8 @@ namespace tidewell {
 
 StatusItem::StatusItem(Application& application) : popover_(application), icon_(statusImage()) {
     menu_.addAction(toText(openFullAppLabel), [&application] { application.bridge.showWindow(); });
-    menu_.addAction(toText(quickScanLabel), [&application] { application.bridge.requestScan(); });
+    menu_.addAction(toText(wordsOf(application.host.system).scanMachine),
+                    [&application] { application.bridge.requestScan(); });
     menu_.addSeparator();
     menu_.addAction(toText(quitProgramLabel), [] { QCoreApplication::quit(); });
     icon_.setContextMenu(&menu_);
