@@ -345,7 +345,9 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     if (kidnapper) tally_.thefts += kidnapper->hasStruck();
     const auto said = integerAt(done.document, "freedBytes");
     const auto freed = freedBytes(before, after, rules);
-    if (!done.wasKilled && !hasCompany(verb) && said != freed)
+    // What goes by one of two names is missing by the other as well.
+    const bool isForeseeable = !done.wasKilled && !hasCompany(verb) && random.otherNames.empty();
+    if (isForeseeable && said != freed)
         findings.push_back("said to be freed: " + std::to_string(said) + ", but measured are " +
                            std::to_string(freed));
     tally_.freedBytes += freed;
