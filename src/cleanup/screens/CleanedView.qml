@@ -1,18 +1,50 @@
-import QtQuick import Tidewell
+import QtQuick
+import Tidewell
 
-    /// The Clean tool's last screen: how far the clean is, then what was won.
-    FocusScope{id:root
+/// The Clean tool's last screen: how far the clean is, then what was won.
+FocusScope {
+    id: root
 
-               required property CleanedScreen screen
+    required property CleanedScreen screen
 
-               Column{anchors.horizontalCenter:parent.horizontalCenter y:Theme.ringCentre(parent.height) - 95 visible:root.screen.isCleaning spacing: 28
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Theme.ringCentre(parent.height) - 95
+        visible: root.screen.isCleaning
+        spacing: 28
 
-                                                                                          ProgressRing{anchors.horizontalCenter:parent.horizontalCenter diameter: 190 share:root.screen.progress percent:root.screen.percent symbol:root.screen.cleaningSymbol Accessible.name:root.screen.cleaningTitle } Label{anchors.horizontalCenter:parent.horizontalCenter text:root.screen.cleaningTitle size: 22 weight:Font.Bold font.letterSpacing: - 0.3 Accessible.role:Accessible.Heading } }
+        ProgressRing {
+            anchors.horizontalCenter: parent.horizontalCenter
+            diameter: 190
+            share: root.screen.progress
+            percent: root.screen.percent
+            symbol: root.screen.cleaningSymbol
+            Accessible.name: root.screen.cleaningTitle
+        }
+        Label {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.screen.cleaningTitle
+            size: 22
+            weight: Font.Bold
+            font.letterSpacing: -0.3
+            Accessible.role: Accessible.Heading
+        }
+    }
 
-                                                                                                       // Made anew each time a clean has ended, so that its figures run again.
-                                                                                                       ViewLoader{readonly property bool isWanted: !root.screen.isCleaning
+    // Made anew each time a clean has ended, so that its figures run again.
+    ViewLoader {
+        readonly property bool isWanted: !root.screen.isCleaning
 
-                                                                                                                  anchors.fill:parent rise: 0 // the ring stays where it is
-                                                                                                                  onIsWantedChanged:follow() Component.onCompleted:follow()
+        anchors.fill: parent
+        rise: 0  // the ring stays where it is
+        onIsWantedChanged: follow()
+        Component.onCompleted: follow()
 
-                                                                                                                                               function follow(){if (isWanted) show(Qt.resolvedUrl("CleanedResult.qml"), {screen:root.screen }) else clear() } } }
+        function follow() {
+            if (isWanted)
+                show(Qt.resolvedUrl("CleanedResult.qml"), {screen: root.screen})
+            else
+                clear()
+        }
+    }
+}

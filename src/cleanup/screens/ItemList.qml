@@ -1,75 +1,113 @@
-pragma ComponentBehavior : Bound import QtQuick import QtQuick.Templates as T import Tidewell
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Tidewell
 
-                               /// The items of one group, to be ticked one by one or all at once.
-                               FocusScope {
-id:
-    root
+/// The items of one group, to be ticked one by one or all at once.
+FocusScope {
+    id: root
 
-        property string symbol property string title property string smartLabel property string
-            allLabel property string noneLabel
-                /// Its rows have what an ItemChip shows.
-                property var model
+    property string symbol
+    property string title
+    property string smartLabel
+    property string allLabel
+    property string noneLabel
+    /// Its rows have what an ItemChip shows.
+    property var model
 
-                    signal
-                    smartPicked() signal
-                    allPicked() signal
-                    nonePicked() signal
-                    toggled(int row)
+    signal smartPicked()
+    signal allPicked()
+    signal nonePicked()
+    signal toggled(int row)
 
-    IconChip{id : icon symbol : root.symbol size : 34} Label{
-        anchors.left : icon.right anchors.leftMargin : 12 anchors.
-        right : choices.left anchors.rightMargin : 12 anchors.
-        verticalCenter : icon.verticalCenter text : root.title size : 17
-        weight : Font.DemiBold elide : Text.ElideRight Accessible.role : Accessible.Heading
-    } Row {
-    id:
-        choices anchors.right : parent.right anchors.rightMargin : 12 anchors.verticalCenter
-            : icon.verticalCenter spacing : 8
+    IconChip {
+        id: icon
+        symbol: root.symbol
+        size: 34
+    }
+    Label {
+        anchors.left: icon.right
+        anchors.leftMargin: 12
+        anchors.right: choices.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: icon.verticalCenter
+        text: root.title
+        size: 17
+        weight: Font.DemiBold
+        elide: Text.ElideRight
+        Accessible.role: Accessible.Heading
+    }
+    Row {
+        id: choices
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: icon.verticalCenter
+        spacing: 8
 
-              SmallButton{text : root.smartLabel onClicked : root.smartPicked()}
-              SmallButton{text : root.allLabel onClicked : root.allPicked()} SmallButton {
-        text:
-            root.noneLabel onClicked : root.nonePicked()
+        SmallButton {
+            text: root.smartLabel
+            onClicked: root.smartPicked()
+        }
+        SmallButton {
+            text: root.allLabel
+            onClicked: root.allPicked()
+        }
+        SmallButton {
+            text: root.noneLabel
+            onClicked: root.nonePicked()
         }
     }
 
     ListView {
-    id:
-        list anchors.top : icon.bottom anchors.topMargin : 10 anchors.left : parent.left anchors
-                                                                                 .leftMargin
-            : -6 anchors.right : parent.right anchors.bottom
-            : parent.bottom topMargin : 6 bottomMargin : 14 leftMargin : 6 rightMargin : 12 clip
-            : true focus : true spacing : 8 boundsBehavior : Flickable.StopAtBounds model
-            : root.model activeFocusOnTab : true keyNavigationEnabled
-            : false Accessible.role : Accessible.List Accessible.name : root.title
+        id: list
+        anchors.top: icon.bottom
+        anchors.topMargin: 10
+        anchors.left: parent.left
+        anchors.leftMargin: -6
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        topMargin: 6
+        bottomMargin: 14
+        leftMargin: 6
+        rightMargin: 12
+        clip: true
+        focus: true
+        spacing: 8
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.model
+        activeFocusOnTab: true
+        keyNavigationEnabled: false
+        Accessible.role: Accessible.List
+        Accessible.name: root.title
 
-                                                                            Keys.onUpPressed
-            : go(currentIndex - 1) Keys.onDownPressed : go(currentIndex + 1)
+        Keys.onUpPressed: go(currentIndex - 1)
+        Keys.onDownPressed: go(currentIndex + 1)
 
-                                                            function
-                                                            go(index
-                                                               : int) {
+        function go(index: int) {
             if (index < 0 || index >= count)
-                return currentIndex = index positionViewAtIndex(index, ListView.Contain) currentItem
-                                          .forceActiveFocus()
-                                      // The list has moved the focus already, without the reason
-                                      // that makes it seen.
-                                      currentItem.focusReason = Qt.TabFocusReason
+                return
+            currentIndex = index
+            positionViewAtIndex(index, ListView.Contain)
+            currentItem.forceActiveFocus()
+            // The list has moved the focus already, without the reason that makes it seen.
+            currentItem.focusReason = Qt.TabFocusReason
         }
 
-        T.ScrollBar.vertical : ScrollHandle {}
+        T.ScrollBar.vertical: ScrollHandle {}
 
-    delegate:
-        ItemChip {
-            required property int index required title required detail required size required isOn
-                    required badge
+        delegate: ItemChip {
+            required property int index
+            required title
+            required detail
+            required size
+            required isOn
+            required badge
 
-                        width : list.width -
-                list.leftMargin -
-                list.rightMargin
-                    // The keyboard comes to the list once, and goes through it with the arrows.
-                    focusPolicy : Qt.ClickFocus onClicked : root.toggled(index) onActiveFocusChanged
-                : if (activeFocus) list.currentIndex = index
+            width: list.width - list.leftMargin - list.rightMargin
+            // The keyboard comes to the list once, and goes through it with the arrows.
+            focusPolicy: Qt.ClickFocus
+            onClicked: root.toggled(index)
+            onActiveFocusChanged: if (activeFocus) list.currentIndex = index
         }
     }
 }

@@ -1,32 +1,113 @@
-import QtQuick import Tidewell
+import QtQuick
+import Tidewell
 
-    /// What is picked, what it would win, and the button that starts the clean.
-    Item{id:root
+/// What is picked, what it would win, and the button that starts the clean.
+Item {
+    id: root
 
-         property real margin: 34 property bool canClean: false property string selectedSize property string pickedLine
-         /// Said instead of both while nothing is picked; empty: they stay.
-         property string hint property string freeAfterSymbol property string freeAfterLine
-         /// Empty: there is no such button.
-         property string backLabel property string cleanUpSymbol property string cleanUpLabel
+    property real margin: 34
+    property bool canClean: false
+    property string selectedSize
+    property string pickedLine
+    /// Said instead of both while nothing is picked; empty: they stay.
+    property string hint
+    property string freeAfterSymbol
+    property string freeAfterLine
+    /// Empty: there is no such button.
+    property string backLabel
+    property string cleanUpSymbol
+    property string cleanUpLabel
 
-         signal back() signal cleanUp()
+    signal back()
+    signal cleanUp()
 
-             readonly property bool showsHint: !canClean && hint != = ""
+    readonly property bool showsHint: !canClean && hint !== ""
 
-         implicitHeight: 88
+    implicitHeight: 88
 
-         Rectangle{anchors.fill:parent color:Qt.rgba(0, 0, 0, 0.24) } Rectangle{width:parent.width height: 1 color:Qt.rgba(1, 1, 1, 0.07) }
+    Rectangle {
+        anchors.fill: parent
+        color: Qt.rgba(0, 0, 0, 0.24)
+    }
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Qt.rgba(1, 1, 1, 0.07)
+    }
 
-                                                                                Label{anchors.left:parent.left anchors.leftMargin:root.margin anchors.right:buttons.left anchors.rightMargin: 20 anchors.verticalCenter:parent.verticalCenter visible:root.showsHint text:root.hint size: 13 color:Theme.secondary elide:Text.ElideRight }
+    Label {
+        anchors.left: parent.left
+        anchors.leftMargin: root.margin
+        anchors.right: buttons.left
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.showsHint
+        text: root.hint
+        size: 13
+        color: Theme.secondary
+        elide: Text.ElideRight
+    }
 
-                                                                                      Row{anchors.left:parent.left anchors.leftMargin:root.margin anchors.verticalCenter:parent.verticalCenter visible: !root.showsHint spacing: 22
+    Row {
+        anchors.left: parent.left
+        anchors.leftMargin: root.margin
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !root.showsHint
+        spacing: 22
 
-                                                                                          Column{anchors.verticalCenter:parent.verticalCenter spacing: 1
+        Column {
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 1
 
-                                                                                                 FigureText{text:root.selectedSize size: 23 weight:Font.Bold } Label{text:root.pickedLine size: 12 color:Theme.secondary } } InfoPill{anchors.verticalCenter:parent.verticalCenter visible:root.freeAfterLine != = ""
+            FigureText {
+                text: root.selectedSize
+                size: 23
+                weight: Font.Bold
+            }
+            Label {
+                text: root.pickedLine
+                size: 12
+                color: Theme.secondary
+            }
+        }
+        InfoPill {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.freeAfterLine !== ""
 
-                                                                                                                                                                                                                                      Symbol{anchors.verticalCenter:parent.verticalCenter symbol:root.freeAfterSymbol size: 15 tint:Ambient.palette.primary } Label{anchors.verticalCenter:parent.verticalCenter text:root.freeAfterLine size: 12.5 weight:Font.Medium } } }
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: root.freeAfterSymbol
+                size: 15
+                tint: Ambient.palette.primary
+            }
+            Label {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.freeAfterLine
+                size: 12.5
+                weight: Font.Medium
+            }
+        }
+    }
 
-                                                                                                                                                                                                                                      Row{id:buttons anchors.right:parent.right anchors.rightMargin:root.margin anchors.verticalCenter:parent.verticalCenter spacing: 12
+    Row {
+        id: buttons
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 12
 
-                                                                                                                                                                                                                                          GhostPillButton{anchors.verticalCenter:parent.verticalCenter visible:text != = "" text:root.backLabel onClicked:root.back() } PillButton{anchors.verticalCenter:parent.verticalCenter enabled:root.canClean symbol:root.cleanUpSymbol text:root.cleanUpLabel onClicked:root.cleanUp() } } }
+        GhostPillButton {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            text: root.backLabel
+            onClicked: root.back()
+        }
+        PillButton {
+            anchors.verticalCenter: parent.verticalCenter
+            enabled: root.canClean
+            symbol: root.cleanUpSymbol
+            text: root.cleanUpLabel
+            onClicked: root.cleanUp()
+        }
+    }
+}

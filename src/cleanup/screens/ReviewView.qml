@@ -1,107 +1,143 @@
-pragma ComponentBehavior
-    : Bound import QtQuick import Tidewell
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tidewell
 
-          /// What a scan has found: the one place where the user decides what goes.
-          FocusScope {
-id:
-    root
+/// What a scan has found: the one place where the user decides what goes.
+FocusScope {
+    id: root
 
-        required property ReviewScreen screen
+    required property ReviewScreen screen
 
-            readonly property real margin : Theme
-                                                .pageMargin(width)
+    readonly property real margin: Theme.pageMargin(width)
 
-                                                    Component.onCompleted
-        : screen.open()
+    Component.onCompleted: screen.open()
 
-          StartNote{
-              anchors.centerIn : parent visible : root.screen.isEmpty
-              focus : root.screen.isEmpty symbol : root.screen.emptySymbol
-              title : root.screen.emptyTitle line : root.screen.emptyLine
-              buttonLabel : root.screen.scanAgainLabel onStarted : root.screen.scanAgain()
-          }
+    StartNote {
+        anchors.centerIn: parent
+        visible: root.screen.isEmpty
+        focus: root.screen.isEmpty
+        symbol: root.screen.emptySymbol
+        title: root.screen.emptyTitle
+        line: root.screen.emptyLine
+        buttonLabel: root.screen.scanAgainLabel
+        onStarted: root.screen.scanAgain()
+    }
 
-          Item {
-        anchors.fill : parent visible
-            : !root.screen.isEmpty
+    Item {
+        anchors.fill: parent
+        visible: !root.screen.isEmpty
 
-              ScreenHeader{
-                  anchors.left : parent.left anchors.
-                  leftMargin : root.margin anchors.
-                  right : choices.left anchors.rightMargin : 20 y : 30
-                  title : root.screen.headline subtitle : root.screen.subtitle
-              } Row {
-        id:
-            choices anchors.right : parent.right anchors.rightMargin
-                : root.margin y : 36 spacing : 8
+        ScreenHeader {
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin
+            anchors.right: choices.left
+            anchors.rightMargin: 20
+            y: 30
+            title: root.screen.headline
+            subtitle: root.screen.subtitle
+        }
+        Row {
+            id: choices
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin
+            y: 36
+            spacing: 8
 
-                  SmallButton {
-            id:
-                safeOnly text : root.screen.safeOnlyLabel description
-                    : root.screen.safeOnlyTooltip onClicked : root.screen.selectSafeOnly()
+            SmallButton {
+                id: safeOnly
+                text: root.screen.safeOnlyLabel
+                description: root.screen.safeOnlyTooltip
+                onClicked: root.screen.selectSafeOnly()
 
-                                                                  Tip {
-                text:
-                    root.screen.safeOnlyTooltip visible : safeOnly.hovered
+                Tip {
+                    text: root.screen.safeOnlyTooltip
+                    visible: safeOnly.hovered
                 }
             }
-            SmallButton{
-                text : root.screen.allLabel onClicked : root.screen.selectAll()
-            } SmallButton {
-            text:
-                root.screen.noneLabel onClicked : root.screen.selectNone()
+            SmallButton {
+                text: root.screen.allLabel
+                onClicked: root.screen.selectAll()
+            }
+            SmallButton {
+                text: root.screen.noneLabel
+                onClicked: root.screen.selectNone()
             }
         }
 
         Column {
-        id:
-            categories anchors.left : parent.left anchors.leftMargin : root.margin -
-                12 y : 112 width : 258 spacing : 6
+            id: categories
+            anchors.left: parent.left
+            anchors.leftMargin: root.margin - 12
+            y: 112
+            width: 258
+            spacing: 6
 
-                Repeater {
-            model:
-                root.screen.categories
+            Repeater {
+                model: root.screen.categories
 
-                    CategoryRow {
-                    required property int index required symbol required title required line
-                        required mark required isViewing
+                CategoryRow {
+                    required property int index
+                    required symbol
+                    required title
+                    required line
+                    required mark
+                    required isViewing
 
-                            width : categories.width onClicked
-                        : root.screen.viewCategory(index) onToggled
-                        : root.screen.toggleCategory(index)
+                    width: categories.width
+                    onClicked: root.screen.viewCategory(index)
+                    onToggled: root.screen.toggleCategory(index)
                 }
             }
         }
 
-        Rectangle{
-            id : divider anchors.left : categories.right anchors.
-            leftMargin : 18 anchors.top : categories.top anchors.
-            bottom : bar.top anchors.bottomMargin : 14 width : 1 color : Qt.rgba(1, 1, 1, 0.07)
+        Rectangle {
+            id: divider
+            anchors.left: categories.right
+            anchors.leftMargin: 18
+            anchors.top: categories.top
+            anchors.bottom: bar.top
+            anchors.bottomMargin: 14
+            width: 1
+            color: Qt.rgba(1, 1, 1, 0.07)
         }
 
-        ItemList{
-            anchors.left : divider.right anchors.leftMargin : 22 anchors.
-                right : parent.right anchors.rightMargin : root.margin -
-                12 anchors.top : categories.top anchors.bottom : bar.top
-                focus : !root.screen.isEmpty symbol : root.screen.viewingSymbol
-                title : root.screen.viewingTitle smartLabel : root.screen.smartLabel
-                allLabel : root.screen.allLabel noneLabel : root.screen.noneLabel
-                model : root.screen.chips
-                onSmartPicked : root.screen.selectSmartInView() onAllPicked :
-                    root.screen.selectAllInView() onNonePicked : root.screen.selectNoneInView()
-                onToggled : row = > root.screen.toggleChip(row)
+        ItemList {
+            anchors.left: divider.right
+            anchors.leftMargin: 22
+            anchors.right: parent.right
+            anchors.rightMargin: root.margin - 12
+            anchors.top: categories.top
+            anchors.bottom: bar.top
+            focus: !root.screen.isEmpty
+            symbol: root.screen.viewingSymbol
+            title: root.screen.viewingTitle
+            smartLabel: root.screen.smartLabel
+            allLabel: root.screen.allLabel
+            noneLabel: root.screen.noneLabel
+            model: root.screen.chips
+            onSmartPicked: root.screen.selectSmartInView()
+            onAllPicked: root.screen.selectAllInView()
+            onNonePicked: root.screen.selectNoneInView()
+            onToggled: row => root.screen.toggleChip(row)
         }
 
         PickedBar {
-        id:
-            bar anchors.left : parent.left anchors.right : parent.right anchors.bottom
-                : parent.bottom margin : root.margin canClean
-                : root.screen.canClean selectedSize : root.screen.selectedSize pickedLine
-                : root.screen.pickedLine hint : root.screen.hint freeAfterSymbol
-                : root.screen.freeAfterSymbol freeAfterLine
-                : root.screen.freeAfterLine backLabel : root.screen.backLabel cleanUpSymbol
-                : root.screen.cleanUpSymbol cleanUpLabel : root.screen.cleanUpLabel onBack
-                : root.screen.back() onCleanUp : root.screen.cleanUp()
+            id: bar
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            margin: root.margin
+            canClean: root.screen.canClean
+            selectedSize: root.screen.selectedSize
+            pickedLine: root.screen.pickedLine
+            hint: root.screen.hint
+            freeAfterSymbol: root.screen.freeAfterSymbol
+            freeAfterLine: root.screen.freeAfterLine
+            backLabel: root.screen.backLabel
+            cleanUpSymbol: root.screen.cleanUpSymbol
+            cleanUpLabel: root.screen.cleanUpLabel
+            onBack: root.screen.back()
+            onCleanUp: root.screen.cleanUp()
         }
     }
 }

@@ -1,48 +1,74 @@
-import QtQuick import Tidewell
+import QtQuick
+import Tidewell
 
-    /// The Clean tool's first screen: invites a scan, then shows how far it is.
-    FocusScope{id:root
+/// The Clean tool's first screen: invites a scan, then shows how far it is.
+FocusScope {
+    id: root
 
-               required property ScanScreen screen
+    required property ScanScreen screen
 
-               Column{anchors.horizontalCenter:parent.horizontalCenter y:Theme.ringCentre(parent.height) - 100 spacing: 0
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Theme.ringCentre(parent.height) - 100
+        spacing: 0
 
-                                                                                          Item{anchors.horizontalCenter:parent.horizontalCenter width: 200 height: 200
+        Item {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 200
+            height: 200
 
-                                                                                               ScanCircleButton{anchors.centerIn:parent visible: !root.screen.isScanning focus: true symbol:root.screen.scanSymbol title:root.screen.scanLabel onClicked:root.screen.startScan() } ProgressRing{anchors.centerIn:parent visible:root.screen.isScanning diameter: 200 share:root.screen.progress percent:root.screen.percent symbol:root.screen.scanSymbol caption:root.screen.scanningWord } }
+            ScanCircleButton {
+                anchors.centerIn: parent
+                visible: !root.screen.isScanning
+                focus: true
+                symbol: root.screen.scanSymbol
+                title: root.screen.scanLabel
+                onClicked: root.screen.startScan()
+            }
+            ProgressRing {
+                anchors.centerIn: parent
+                visible: root.screen.isScanning
+                diameter: 200
+                share: root.screen.progress
+                percent: root.screen.percent
+                symbol: root.screen.scanSymbol
+                caption: root.screen.scanningWord
+            }
+        }
 
-                                                                                                                Item{width: 1;
-height : 34
-}
+        Item { width: 1; height: 34 }
 
-Label{
-    anchors.horizontalCenter : parent.horizontalCenter
-    text : root.screen.caption size : 13 color : Theme.secondary
-}
+        Label {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.screen.caption
+            size: 13
+            color: Theme.secondary
+        }
 
-Item {
-width:
-    1;
-height:
-    22
-}
+        Item { width: 1; height: 22 }
 
-Item {
-    anchors.horizontalCenter : parent.horizontalCenter width : pill.implicitWidth height
-        : pill.implicitHeight
+        Item {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: pill.implicitWidth
+            height: pill.implicitHeight
 
-              InfoPill {
-    id:
-        pill visible : root.screen.soFar != = ""
+            InfoPill {
+                id: pill
+                visible: root.screen.soFar !== ""
 
-        Symbol{
-            anchors.verticalCenter : parent.verticalCenter
-            symbol : root.screen.soFarSymbol size : 15 tint : Ambient.palette.primary
-        } Label {
-            anchors.verticalCenter : parent.verticalCenter text
-                : root.screen.soFar size : 12.5 weight : Font.Medium
+                Symbol {
+                    anchors.verticalCenter: parent.verticalCenter
+                    symbol: root.screen.soFarSymbol
+                    size: 15
+                    tint: Ambient.palette.primary
+                }
+                Label {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: root.screen.soFar
+                    size: 12.5
+                    weight: Font.Medium
+                }
+            }
         }
     }
-}
-}
 }

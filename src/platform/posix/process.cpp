@@ -153,7 +153,7 @@ std::optional<ToolRun> runTool(const std::string& path, const std::vector<std::s
     const auto process =
         start(path, arguments, pipe.writing, limit ? Group::itsOwn : Group::ofThisProgram);
     if (!process) return std::nullopt;
-    const auto end = limit ? std::optional(Clock::now() + *limit) : std::nullopt;
+    const auto end = limit ? Clock::now() + *limit : Clock::time_point::max();
 
     pipe.writing = posix::Descriptor();
     ToolRun run;
@@ -162,7 +162,7 @@ std::optional<ToolRun> runTool(const std::string& path, const std::vector<std::s
             pipe.reading = posix::Descriptor();
         if (!pipe.reading && !end) break;
         waitForOutput(pipe.reading);
-        if (end && Clock::now() >= *end) ::kill(-*process, SIGKILL);
+        if (Clock::now() >= end) ::kill(-*process, SIGKILL);
     }
     if (pipe.reading) takeOutput(pipe.reading, run.output);
     run.exitStatus = waitForExit(*process);
