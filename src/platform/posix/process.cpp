@@ -160,7 +160,7 @@ std::optional<ToolRun> runTool(const std::string& path, const std::vector<std::s
     while (!hasEnded(*process)) {
         if (pipe.reading && takeOutput(pipe.reading, run.output) == Source::ended)
             pipe.reading = posix::Descriptor();
-        if (!pipe.reading && !end) break;
+        if (!pipe.reading && !limit) break;
         waitForOutput(pipe.reading);
         if (Clock::now() >= end) ::kill(-*process, SIGKILL);
     }
