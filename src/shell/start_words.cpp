@@ -9,15 +9,15 @@ namespace tidewell {
 namespace {
 
 constexpr std::string_view usage =
-    "Usage: tidewell [--root DIR] [--home DIR] [--system NAME] [--timings] [URL]\n"
+    "Usage: tidewell [--root DIR] [--home DIR] [--system {macos,linux}] [--timings] [URL]\n"
     "\n"
-    "  --root DIR     Work on a machine that lies in this folder, and run the tools in it\n"
-    "  --home DIR     Work on this home folder\n"
-    "  --system NAME  The system that the machine is of, macos or linux; seen from its folders if\n"
-    "                 not given\n"
-    "  --timings      Tell on standard error what keeps the window from moving smoothly\n"
-    "  --help         Print this and end\n"
-    "  URL            tidewell://scan scans everything\n";
+    "  --root DIR              Work on a machine that lies in this folder, and run the tools in "
+    "it\n"
+    "  --home DIR              Work on this home folder\n"
+    "  --system {macos,linux}  The system of that machine; seen from its folders if not given\n"
+    "  --timings               Tell on standard error what keeps the window from moving smoothly\n"
+    "  --help                  Print this and end\n"
+    "  URL                     tidewell://scan scans everything\n";
 
 StartEnding wrongCall(const std::string& problem) {
     return {StartEnding::Reason::wrongCall, "tidewell: " + problem + "\n" + std::string(usage)};
