@@ -75,7 +75,7 @@ QColor over(const QColor& ground, const QColor& ink) {
 }
 
 double contrast(const QColor& ground, const QColor& ink) {
-    const auto [darker, lighter] = std::minmax(luminance(ground), luminance(over(ground, ink)));
+    const auto [darker, lighter] = std::minmax({luminance(ground), luminance(over(ground, ink))});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -16,7 +16,7 @@ Item {
     SequentialAnimation on opacity {
         running: root.Motion.hasPassages
         PropertyAction { value: 0 }
-        PauseAnimation { duration: 140 * root.order }
+        PauseAnimation { duration: 140 * Math.max(root.order, 0) }
         NumberAnimation { to: 1; duration: 220; easing.type: Easing.OutCubic }
     }
 
