@@ -18,6 +18,10 @@ void* operator new(std::size_t size) {
     return place;
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return std::malloc(size == 0 ? 1 : size);
+}
+
 void operator delete(void* place) noexcept {
     std::free(place);
 }
