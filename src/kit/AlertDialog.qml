@@ -14,12 +14,12 @@ Modal {
 
     Column {
         width: parent.width
-        spacing: 10
+        spacing: Theme.gap
 
         Label {
             width: parent.width
             text: root.title
-            size: 17
+            size: Theme.sizeHeading
             weight: Font.Bold
             wrapMode: Text.Wrap
             Accessible.role: Accessible.Heading
@@ -27,7 +27,7 @@ Modal {
         Label {
             width: parent.width
             text: root.text
-            size: 13
+            size: Theme.sizeText
             lineHeight: 1.25
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -40,7 +40,7 @@ Modal {
                 id: buttons
                 anchors.right: parent.right
                 anchors.bottom: parent.bottom
-                spacing: 10
+                spacing: Theme.gap
 
                 GhostPillButton {
                     id: cancelButton
@@ -50,7 +50,7 @@ Modal {
                 }
                 PillButton {
                     anchors.verticalCenter: parent.verticalCenter
-                    fontSize: 13
+                    fontSize: Theme.sizeText
                     verticalPadding: 10
                     tint: Theme.destructive
                     text: root.confirmLabel

@@ -30,7 +30,7 @@ Item {
 
     GlowBox {
         anchors.fill: parent
-        cornerRadius: 15
+        cornerRadius: Theme.radius
         shade: 0.6
         fillTop: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.18))
         fillBottom: Qt.tint(Theme.base, Theme.withOpacity(root.tint, 0.12))
@@ -45,22 +45,22 @@ Item {
         x: 16
         anchors.verticalCenter: parent.verticalCenter
         symbol: root.symbol
-        size: 20
+        size: Theme.symbolLarge
         tint: root.tint
     }
     Column {
         id: words
         anchors.left: icon.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.gap
         anchors.right: undo.visible ? undo.left : dismiss.visible ? dismiss.left : parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: Theme.gapHair
 
         Label {
             width: parent.width
             text: root.title
-            size: 13
+            size: Theme.sizeText
             weight: Font.Medium
             wrapMode: Text.Wrap
             Accessible.ignored: true
@@ -69,7 +69,7 @@ Item {
             width: parent.width
             visible: text !== ""
             text: root.line
-            size: 12
+            size: Theme.sizeNote
             color: Theme.secondary
             wrapMode: Text.Wrap
             Accessible.ignored: true
@@ -78,7 +78,7 @@ Item {
     SmallButton {
         id: undo
         anchors.right: dismiss.visible ? dismiss.left : parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         visible: root.undoLabel !== ""
         text: root.undoLabel
@@ -87,7 +87,7 @@ Item {
     IconButton {
         id: dismiss
         anchors.right: parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         visible: root.dismissLabel !== ""
         size: 26

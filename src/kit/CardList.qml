@@ -19,7 +19,7 @@ ListView {
     bottomMargin: 20 + roomBelow
     leftMargin: 6
     rightMargin: 12
-    spacing: 10
+    spacing: Theme.gap
     clip: true
     cacheBuffer: 400
     boundsBehavior: Flickable.StopAtBounds

@@ -15,17 +15,17 @@ Rectangle {
 
     implicitWidth: 19
     implicitHeight: 19
-    radius: 6
-    color: isFilled ? accent : Qt.rgba(1, 1, 1, 0.03 + 0.05 * lift)
+    radius: Theme.radiusTag
+    color: isFilled ? accent : Theme.hover(0.5 + lift)
     border.width: isFilled ? 1 : 1.5
-    border.color: isFilled ? Ambient.palette.soft : Qt.rgba(1, 1, 1, 0.28 + 0.22 * lift)
+    border.color: isFilled ? Ambient.palette.soft : Theme.outline(0.4 + lift)
     Accessible.ignored: true
 
     Symbol {
         anchors.centerIn: parent
         visible: root.isFilled
         symbol: root.mark === CheckControl.Mixed ? "minus" : "checkmark"
-        size: 14
+        size: Theme.symbolSmall
         tint: Theme.textOn(root.accent)
     }
 }

@@ -7,7 +7,7 @@ Row {
     id: root
 
     property string text
-    property real size: 13
+    property real size: Theme.sizeText
     property int weight: Font.Normal
     property bool isRounded: false
     property color color: Theme.text

@@ -7,8 +7,8 @@ Pressable {
 
     property string symbol
     property bool isSymbolLast: false
-    property color textColor: Theme.withOpacity(Theme.text, 0.78 + 0.22 * lift)
-    property real fontSize: 13
+    property color textColor: Theme.quiet(lift)
+    property real fontSize: Theme.sizeText
 
     horizontalPadding: 18
     verticalPadding: 9

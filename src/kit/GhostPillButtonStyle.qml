@@ -7,7 +7,7 @@ Rectangle {
     property real lift: 0
 
     radius: height / 2
-    color: Qt.rgba(1, 1, 1, 0.05 * lift)
+    color: Theme.hover(lift)
     border.width: 1
-    border.color: Qt.rgba(1, 1, 1, 0.20 + 0.16 * lift)
+    border.color: Theme.outline(lift)
 }

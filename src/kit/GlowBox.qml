@@ -6,11 +6,11 @@ import Tidewell
 Item {
     id: root
 
-    property real cornerRadius: 20
+    property real cornerRadius: Theme.radiusCard
     property color fillTop
     property color fillBottom: fillTop
     /// Its opacity is that of the lower half; the top is lit.
-    property color rim: Qt.rgba(1, 1, 1, 0.07)
+    property color rim: Theme.hairline
     /// Its opacity is the strength.
     property color glow: "transparent"
     property real reach: 36

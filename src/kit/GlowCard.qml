@@ -9,7 +9,7 @@ Item {
     property color glow: Ambient.palette.primary
     property bool featured: false
     property bool vivid: false
-    property real cornerRadius: 20
+    property real cornerRadius: Theme.radiusCard
     property real padding: 20
     /// From 0 to 1 while the pointer is over a card that can be pressed.
     property real lift: 0

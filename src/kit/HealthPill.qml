@@ -6,10 +6,8 @@ InfoPill {
     id: root
 
     property string label
-    property color tint
 
-    color: Theme.withOpacity(tint, 0.14)
-    border.color: Theme.withOpacity(tint, 0.34)
+    strength: 2
     Accessible.role: Accessible.StaticText
     Accessible.name: label
 
@@ -23,7 +21,7 @@ InfoPill {
     Label {
         anchors.verticalCenter: parent.verticalCenter
         text: root.label
-        size: 12
+        size: Theme.sizeNote
         weight: Font.Medium
         Accessible.ignored: true
     }

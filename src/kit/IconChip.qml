@@ -8,7 +8,7 @@ Rectangle {
     property string symbol
     property real size: 34
     property color tint: Ambient.palette.primary
-    property color symbolColor: Qt.tint(tint, Qt.rgba(1, 1, 1, 0.30))
+    property color symbolColor: Theme.ink(tint)
 
     implicitWidth: size
     implicitHeight: size

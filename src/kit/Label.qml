@@ -3,7 +3,7 @@ import Tidewell
 
 /// Text in the program's own faces.
 Text {
-    property real size: 13
+    property real size: Theme.sizeText
     property int weight: Font.Normal
     property bool isRounded: false
 

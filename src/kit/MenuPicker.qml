@@ -12,7 +12,7 @@ GhostPillButton {
 
     signal chosen(int row)
 
-    fontSize: 12.5
+    fontSize: Theme.sizeControl
     horizontalPadding: 14
     verticalPadding: 7
     onClicked: list.visible ? list.close() : list.open()
@@ -29,10 +29,10 @@ GhostPillButton {
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
         background: Rectangle {
-            radius: 13
+            radius: Theme.radius
             color: Theme.panelTop(root.Ambient.palette.primary)
             border.width: 1
-            border.color: Qt.rgba(1, 1, 1, 0.13)
+            border.color: Theme.panelRim
         }
         contentItem: Column {
             id: rows
@@ -63,7 +63,7 @@ GhostPillButton {
 
                     width: list.availableWidth
                     implicitHeight: 32
-                    cornerRadius: 8
+                    cornerRadius: Theme.radiusSmall
                     focusGap: -1
                     focus: isChosen
                     text: label
@@ -76,7 +76,7 @@ GhostPillButton {
 
                     background: Rectangle {
                         radius: choice.cornerRadius
-                        color: Qt.rgba(1, 1, 1, 0.09 * choice.lift)
+                        color: Theme.hover(1.5 * choice.lift)
                     }
                     contentItem: Item {
                         Symbol {
@@ -84,14 +84,14 @@ GhostPillButton {
                             anchors.verticalCenter: parent.verticalCenter
                             visible: choice.isChosen
                             symbol: "checkmark"
-                            size: 14
+                            size: Theme.symbolSmall
                             tint: root.Ambient.palette.primary
                         }
                         Label {
                             x: 30
                             anchors.verticalCenter: parent.verticalCenter
                             text: choice.label
-                            size: 12.5
+                            size: Theme.sizeControl
                             Accessible.ignored: true
                         }
                     }

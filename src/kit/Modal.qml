@@ -61,15 +61,15 @@ T.Popup {
     }
 
     T.Overlay.modal: Rectangle {
-        color: Qt.rgba(0, 0, 0, 0.58)
+        color: Theme.scrim
     }
     background: GlowBox {
-        cornerRadius: 22
+        cornerRadius: Theme.radiusPanel
         reach: 60
         shade: 0.7
         fillTop: Theme.panelTop(root.sectionPalette.primary)
         fillBottom: Theme.panelBottom(root.sectionPalette.primary)
-        rim: Qt.rgba(1, 1, 1, 0.13)
+        rim: Theme.panelRim
         glow: Theme.withOpacity(root.sectionPalette.primary, 0.10)
         cornerLight: 0.5
     }

@@ -9,7 +9,7 @@ Pressable {
     property bool isSymbolLast: false
     property color tint: Ambient.palette.primary
     property color textColor: Theme.textOn(tint)
-    property real fontSize: 13.5
+    property real fontSize: Theme.sizeRow
 
     horizontalPadding: 22
     verticalPadding: 11

@@ -10,8 +10,8 @@ GlowBox {
     cornerRadius: height / 2
     reach: 26
     glow: Theme.withOpacity(tint, 0.26 + 0.22 * lift)
-    fillTop: Qt.tint(tint, Qt.rgba(1, 1, 1, 0.18 + 0.10 * lift))
-    fillBottom: Qt.tint(tint, Qt.rgba(0, 0, 0, 0.10 - 0.04 * lift))
-    rim: Qt.rgba(1, 1, 1, 0.24)
+    fillTop: Theme.raisedTop(tint, lift)
+    fillBottom: Theme.raisedBottom(tint, lift)
+    rim: Theme.raisedRim
     shade: 0.3
 }

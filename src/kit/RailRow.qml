@@ -18,7 +18,7 @@ Pressable {
     readonly property bool hasSquare: symbolBackground.a > 0
 
     implicitHeight: 58
-    cornerRadius: 13
+    cornerRadius: Theme.radius
     pressedScale: 0.985
     text: title
     description: line
@@ -28,7 +28,7 @@ Pressable {
     background: Rectangle {
         radius: root.cornerRadius
         color: root.isViewing ? Theme.withOpacity(Ambient.palette.primary, 0.15)
-                              : Qt.rgba(1, 1, 1, 0.06 * root.lift)
+                              : Theme.hover(root.lift)
         border.width: 1
         border.color: root.isViewing ? Theme.withOpacity(Ambient.palette.primary, 0.38) : "transparent"
     }
@@ -40,28 +40,28 @@ Pressable {
             anchors.verticalCenter: parent.verticalCenter
             width: root.hasSquare ? 34 : 20
             height: width
-            radius: 10
+            radius: Theme.radiusSmall
             color: root.symbolBackground
 
             Symbol {
                 anchors.centerIn: parent
                 symbol: root.symbol
-                size: 20
+                size: Theme.symbolLarge
                 tint: root.symbolColor
             }
         }
         Column {
             anchors.left: square.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.gap
             anchors.right: chevron.left
-            anchors.rightMargin: 6
+            anchors.rightMargin: Theme.gapSmall
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
+            spacing: Theme.gapHair
 
             Label {
                 width: parent.width
                 text: root.title
-                size: 13.5
+                size: Theme.sizeRow
                 weight: Font.DemiBold
                 elide: Text.ElideRight
                 Accessible.ignored: true
@@ -69,7 +69,7 @@ Pressable {
             Label {
                 width: parent.width
                 text: root.line
-                size: 11.5
+                size: Theme.sizeDetail
                 color: Theme.secondary
                 elide: Text.ElideRight
                 Accessible.ignored: true
@@ -78,10 +78,10 @@ Pressable {
         Symbol {
             id: chevron
             anchors.right: parent.right
-            anchors.rightMargin: 10
+            anchors.rightMargin: Theme.gap
             anchors.verticalCenter: parent.verticalCenter
             symbol: "chevron.right"
-            size: 15
+            size: Theme.symbolSmall
             tint: Theme.withOpacity(Theme.text, root.isViewing ? 0.7 : 0.32)
         }
     }

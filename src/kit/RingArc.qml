@@ -58,7 +58,7 @@ Item {
         visible: !root.hasShaders
 
         ShapePath {
-            strokeColor: Qt.rgba(1, 1, 1, root.track)
+            strokeColor: Theme.withOpacity(Theme.track, root.track)
             strokeWidth: root.lineWidth
             fillColor: "transparent"
             capStyle: ShapePath.FlatCap

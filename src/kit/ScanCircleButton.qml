@@ -17,15 +17,15 @@ Pressable {
         cornerRadius: width / 2
         reach: 60
         glow: Theme.withOpacity(root.sectionPalette.primary, 0.20 + 0.16 * root.lift)
-        fillTop: Qt.tint("#151c19", Theme.withOpacity(root.sectionPalette.primary, 0.24))
-        fillBottom: Qt.tint("#0a0e0c", Theme.withOpacity(root.sectionPalette.deep, 0.30))
+        fillTop: Qt.tint(Theme.panelTop(root.sectionPalette.primary), Theme.withOpacity(root.sectionPalette.primary, 0.24))
+        fillBottom: Qt.tint(Theme.panelBottom(root.sectionPalette.primary), Theme.withOpacity(root.sectionPalette.deep, 0.30))
         rim: Theme.withOpacity(root.sectionPalette.soft, 0.34 + 0.20 * root.lift)
     }
 
     contentItem: Item {
         Column {
             anchors.centerIn: parent
-            spacing: 18
+            spacing: Theme.gapWide
 
             GlossyBlob {
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -38,7 +38,7 @@ Pressable {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, 164)
                 text: root.title
-                size: 15.5
+                size: Theme.sizeCard
                 weight: Font.DemiBold
                 elide: Text.ElideRight
                 Accessible.ignored: true

@@ -24,7 +24,7 @@ Column {
     Label {
         anchors.horizontalCenter: parent.horizontalCenter
         text: root.title
-        size: 17
+        size: Theme.sizeHeading
         weight: Font.DemiBold
         Accessible.role: Accessible.Heading
     }
@@ -33,7 +33,7 @@ Column {
         visible: text !== ""
         topPadding: 5
         text: root.line
-        size: 12
+        size: Theme.sizeNote
         color: Theme.secondary
     }
     Item { width: 1; height: 22 }

@@ -8,12 +8,12 @@ Column {
     property string title
     property string subtitle
 
-    spacing: 3
+    spacing: Theme.gapTight
 
     Label {
         width: root.width > 0 ? root.width : implicitWidth
         text: root.title
-        size: 27
+        size: Theme.sizeTitle
         weight: Font.Bold
         font.letterSpacing: -0.4
         elide: Text.ElideRight
@@ -24,7 +24,7 @@ Column {
         width: root.width > 0 ? root.width : implicitWidth
         visible: text !== ""
         text: root.subtitle
-        size: 13.5
+        size: Theme.sizeRow
         color: Theme.secondary
         elide: Text.ElideRight
     }

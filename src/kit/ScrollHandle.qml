@@ -14,6 +14,6 @@ T.ScrollBar {
 
     contentItem: Rectangle {
         radius: width / 2
-        color: Qt.rgba(1, 1, 1, root.pressed ? 0.40 : root.hovered ? 0.30 : 0.16)
+        color: Theme.outline(root.pressed ? 1 : root.hovered ? 0.4 : 0)
     }
 }

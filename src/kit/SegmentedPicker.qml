@@ -4,7 +4,7 @@ import Tidewell
 
 /// A choice among a few, all in sight: one of them is lit. The model's rows have `label` and
 /// `isChosen`. The keyboard comes to it once and chooses with the arrows.
-Rectangle {
+Surface {
     id: root
 
     property alias model: segments.model
@@ -14,9 +14,6 @@ Rectangle {
     implicitWidth: row.width + 6
     implicitHeight: 36
     radius: height / 2
-    color: Qt.rgba(1, 1, 1, 0.05)
-    border.width: 1
-    border.color: Qt.rgba(1, 1, 1, 0.08)
     Accessible.role: Accessible.PageTabList
 
     Keys.onLeftPressed: step(-1)
@@ -64,9 +61,9 @@ Rectangle {
                         cornerRadius: height / 2
                         reach: 18
                         glow: Theme.withOpacity(segment.Ambient.palette.primary, 0.22)
-                        fillTop: Qt.tint(segment.Ambient.palette.primary, Qt.rgba(1, 1, 1, 0.12))
-                        fillBottom: Qt.tint(segment.Ambient.palette.primary, Qt.rgba(0, 0, 0, 0.14))
-                        rim: Qt.rgba(1, 1, 1, 0.20)
+                        fillTop: Theme.raisedTop(segment.Ambient.palette.primary, 0)
+                        fillBottom: Theme.raisedBottom(segment.Ambient.palette.primary, 0)
+                        rim: Theme.raisedRim
                         shade: 0.2
                     }
                     Rectangle {
@@ -79,10 +76,10 @@ Rectangle {
                 }
                 contentItem: SymbolLabel {
                     text: segment.label
-                    size: 12.5
+                    size: Theme.sizeControl
                     weight: segment.isChosen ? Font.DemiBold : Font.Medium
                     tint: segment.isChosen ? Theme.textOn(segment.Ambient.palette.primary)
-                                           : Theme.withOpacity(Theme.text, 0.74 + 0.20 * segment.lift)
+                                           : Theme.quiet(segment.lift)
                 }
             }
         }

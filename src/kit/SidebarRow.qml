@@ -27,9 +27,9 @@ Pressable {
             cornerRadius: root.cornerRadius
             reach: 24
             glow: Theme.withOpacity(root.sectionPalette.primary, 0.45)
-            fillTop: Qt.tint(root.sectionPalette.primary, Qt.rgba(1, 1, 1, 0.10))
-            fillBottom: Qt.tint(root.sectionPalette.primary, Qt.rgba(0, 0, 0, 0.19))
-            rim: Qt.rgba(1, 1, 1, 0.20)
+            fillTop: Theme.raisedTop(root.sectionPalette.primary, 0)
+            fillBottom: Theme.raisedBottom(root.sectionPalette.primary, 0)
+            rim: Theme.raisedRim
         }
         Rectangle {
             anchors.fill: parent
@@ -54,10 +54,10 @@ Pressable {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: root.label
-            size: 13.5
+            size: Theme.sizeRow
             weight: root.isActive ? Font.DemiBold : Font.Medium
             color: root.isActive ? Theme.textOn(root.sectionPalette.primary)
-                                 : Theme.withOpacity(Theme.text, 0.74 + 0.20 * root.lift)
+                                 : Theme.quiet(root.lift)
             elide: Text.ElideRight
             Accessible.ignored: true
         }

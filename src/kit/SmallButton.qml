@@ -2,7 +2,7 @@ import Tidewell
 
 /// A secondary button among several in a row.
 GhostPillButton {
-    fontSize: 12.5
+    fontSize: Theme.sizeControl
     horizontalPadding: 15
     verticalPadding: 7
 }

@@ -35,7 +35,7 @@ FocusScope {
             visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
             text: root.title
-            size: 21
+            size: Theme.sizePlacard
             weight: Font.Bold
             font.letterSpacing: -0.3
             wrapMode: Text.Wrap
@@ -48,7 +48,7 @@ FocusScope {
             visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
             text: root.line
-            size: 14
+            size: Theme.sizeRow
             lineHeight: 1.25
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -63,7 +63,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             focus: true
             horizontalPadding: 32
-            fontSize: 14.5
+            fontSize: Theme.sizeCard
             visible: root.buttonLabel !== ""
             symbol: root.buttonSymbol
             text: root.buttonLabel

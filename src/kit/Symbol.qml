@@ -6,7 +6,7 @@ Item {
     id: root
 
     property string symbol
-    property real size: 16
+    property real size: Theme.symbolRow
     property color tint: Theme.text
     /// What a cut-out shows of what lies behind.
     property color hole: Qt.rgba(0, 0, 0, 0.72)

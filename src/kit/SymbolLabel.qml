@@ -8,7 +8,7 @@ Item {
     property string symbol
     property string text
     property color tint: Theme.text
-    property real size: 13.5
+    property real size: Theme.sizeRow
     property int weight: Font.DemiBold
     property bool isSymbolLast: false
 

@@ -12,14 +12,14 @@ Rectangle {
 
     implicitWidth: label.implicitWidth + 14
     implicitHeight: 18
-    radius: 6
+    radius: Theme.radiusTag
     color: Theme.withOpacity(tint, strength)
 
     Label {
         id: label
         anchors.centerIn: parent
         text: root.text
-        size: 10.5
+        size: Theme.sizeTag
         weight: Font.DemiBold
         color: root.textColor
         Accessible.ignored: true

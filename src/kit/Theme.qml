@@ -3,12 +3,61 @@ import QtQuick
 import Tidewell
 
 /// The colours and measures that all components share. Lengths are in points, times in milliseconds.
+/// What stands on a page takes its sizes from here; a figure of its own is left to what has one place
+/// in the whole program, such as a gauge.
 QtObject {
+    // Text, from the smallest, each size by what it is for.
+    readonly property real sizeTiny: 10      // an identifier below a name
+    readonly property real sizeTag: 10.5     // a word in a box
+    readonly property real sizeMinor: 11     // marks and captions
+    readonly property real sizeDetail: 11.5  // what is told of a row
+    readonly property real sizeNote: 12      // notes, headings in small print
+    readonly property real sizeControl: 12.5 // small buttons, pills, rows that are no list
+    readonly property real sizeText: 13      // running text
+    readonly property real sizeRow: 13.5     // the name of a row, a line below a title, a button
+    readonly property real sizeCard: 15.5    // the name of a card
+    readonly property real sizeHeading: 17   // of a part of a page
+    readonly property real sizeUnit: 18      // of a large figure
+    readonly property real sizePlacard: 20   // what stands alone on a page
+    readonly property real sizeTotal: 23     // a sum
+    readonly property real sizeTitle: 27     // of a page
+    readonly property real sizeRing: 30      // a figure in a ring
+    readonly property real sizeHero: 38      // the one thing that counts right now
+    readonly property real sizeFigure: 54    // a page's one large figure
+
+    // Symbols beside text.
+    readonly property real symbolTiny: 12
+    readonly property real symbolSmall: 14
+    readonly property real symbolRow: 16
+    readonly property real symbolLarge: 20
+
+    // Between things, from those that are one to those that are apart.
+    readonly property real gapHair: 2
+    readonly property real gapTight: 4
+    readonly property real gapSmall: 8
+    readonly property real gap: 12
+    readonly property real gapWide: 16
+    readonly property real gapLarge: 20
+    readonly property real gapHuge: 26
+
+    readonly property real radiusTag: 6
+    readonly property real radiusSmall: 9
+    readonly property real radius: 14
+    readonly property real radiusCard: 20
+    readonly property real radiusPanel: 24
+
     readonly property color base: "#060909"
     readonly property color text: "#f3f6f4"
     readonly property color secondary: Kit.secondary
     readonly property color faint: Qt.rgba(1, 1, 1, 0.56)
     readonly property color track: Qt.rgba(1, 1, 1, 0.07)
+    /// A line between things, and the edge of what hardly stands out.
+    readonly property color hairline: Qt.rgba(1, 1, 1, 0.07)
+    readonly property color panelRim: Qt.rgba(1, 1, 1, 0.13)
+    readonly property color raisedRim: Qt.rgba(1, 1, 1, 0.22)
+    /// Over a bar or a column that stands back, and over all that does not react for a while.
+    readonly property color shade: Qt.rgba(0, 0, 0, 0.25)
+    readonly property color scrim: Qt.rgba(0, 0, 0, 0.58)
     readonly property color hoverFill: Qt.rgba(1, 1, 1, 0.06)
     readonly property color destructive: Kit.destructive
     readonly property color success: "#33d682"
@@ -24,6 +73,27 @@ QtObject {
     readonly property int hoverTime: 170
     readonly property int pressTime: 110
     readonly property int accentTime: 450
+
+    /// The outline of what can be pressed. `lift` goes from 0 to 1 while the pointer is over it, here
+    /// and below.
+    function outline(lift: real): color {
+        return Qt.rgba(1, 1, 1, 0.22 + 0.18 * lift)
+    }
+    function hover(lift: real): color {
+        return withOpacity(hoverFill, hoverFill.a * lift)
+    }
+    /// Words that can be pressed and are not in their button's colour.
+    function quiet(lift: real): color {
+        return withOpacity(text, 0.76 + 0.24 * lift)
+    }
+
+    // What stands out in a colour: lit from above.
+    function raisedTop(tint: color, lift: real): color {
+        return Qt.tint(tint, Qt.rgba(1, 1, 1, 0.14 + 0.10 * lift))
+    }
+    function raisedBottom(tint: color, lift: real): color {
+        return Qt.tint(tint, Qt.rgba(0, 0, 0, 0.13 - 0.04 * lift))
+    }
 
     /// Opaque, in the hue of a section: what sheets, menus and tips are drawn on.
     function panelTop(tint: color): color {

@@ -18,12 +18,12 @@ T.ToolTip {
 
     contentItem: Label {
         text: root.text
-        size: 12
+        size: Theme.sizeNote
     }
     background: Rectangle {
-        radius: 9
+        radius: Theme.radiusSmall
         color: Theme.panelTop(root.parent ? root.parent.Ambient.palette.primary : Theme.base)
         border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.14)
+        border.color: Theme.panelRim
     }
 }

@@ -102,7 +102,7 @@ TEST(Components, WhatIsWrittenCanBeReadOnWhateverItStandsOn) {
          "Theme.withOpacity(Theme.destructive, 0.90)", symbol},
         {"a button that destroys", "Theme.destructive", "Theme.textOn(Theme.destructive)", text},
         {"a button that is disabled", "lit",
-         "Theme.withOpacity(Theme.text, 0.78 * Theme.disabledOpacity)", text},
+         "Theme.withOpacity(Theme.text, Theme.quiet(0).a * Theme.disabledOpacity)", text},
     };
     Stage stage;
     for (const auto* accent : {"green", "blue", "violet", "amber", "cyan", "teal"}) {

@@ -31,9 +31,9 @@ GlowCard {
     Column {
         id: column
         anchors.left: icon.right
-        anchors.leftMargin: 16
+        anchors.leftMargin: Theme.gapWide
         anchors.right: parent.right
-        spacing: 6
+        spacing: Theme.gapSmall
 
         Item {
             width: parent.width
@@ -43,9 +43,9 @@ GlowCard {
                 id: name
                 anchors.left: parent.left
                 anchors.right: figure.left
-                anchors.rightMargin: 14
+                anchors.rightMargin: Theme.gap
                 text: root.title
-                size: 15.5
+                size: Theme.sizeCard
                 weight: Font.DemiBold
                 elide: Text.ElideRight
                 Accessible.ignored: true
@@ -55,7 +55,7 @@ GlowCard {
                 anchors.right: parent.right
                 anchors.verticalCenter: name.verticalCenter
                 text: root.size
-                size: 15.5
+                size: Theme.sizeCard
                 weight: Font.Bold
                 color: Ambient.palette.soft
                 Accessible.ignored: true
@@ -64,7 +64,7 @@ GlowCard {
         Label {
             width: Math.min(Theme.longestLine, parent.width)
             text: root.body
-            size: 12.5
+            size: Theme.sizeControl
             lineHeight: 1.25
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -84,7 +84,7 @@ GlowCard {
                 id: button
                 anchors.bottom: parent.bottom
                 visible: !root.isBusy
-                fontSize: 12.5
+                fontSize: Theme.sizeControl
                 horizontalPadding: 18
                 verticalPadding: 8
                 textColor: Qt.rgba(0.04, 0.05, 0.08, 1)

@@ -34,7 +34,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
         anchors.right: rescan.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         y: 30
         visible: root.isList
         title: root.screen.headline
@@ -57,7 +57,7 @@ FocusScope {
         anchors.leftMargin: root.margin
         anchors.rightMargin: root.margin
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 20
+        anchors.bottomMargin: Theme.gapLarge
         visible: root.isList && root.screen.message !== ""
         symbol: root.screen.messageSymbol
         title: root.screen.message
@@ -85,7 +85,7 @@ FocusScope {
         anchors.topMargin: 104
         visible: root.isList && !root.screen.isAllClear
         topMargin: 8
-        spacing: 14
+        spacing: Theme.gap
         roomBelow: message.room
         model: root.screen.cards
         Accessible.name: root.screen.headline

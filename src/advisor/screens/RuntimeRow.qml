@@ -24,30 +24,30 @@ Item {
     Rectangle {
         width: parent.width
         height: 1
-        color: Qt.rgba(1, 1, 1, 0.07)
+        color: Theme.hairline
     }
     Column {
         id: words
         anchors.left: parent.left
         anchors.right: figure.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: Theme.gapHair
 
         Row {
-            spacing: 8
+            spacing: Theme.gapSmall
 
             Label {
                 id: name
                 text: root.title
-                size: 13.5
+                size: Theme.sizeRow
                 weight: Font.DemiBold
                 Accessible.ignored: true
             }
             Label {
                 y: name.baselineOffset - baselineOffset
                 text: root.build
-                size: 11.5
+                size: Theme.sizeDetail
                 color: Theme.faint
                 Accessible.ignored: true
             }
@@ -56,7 +56,7 @@ Item {
             width: parent.width
             visible: text !== ""
             text: root.lastUsed
-            size: 12
+            size: Theme.sizeNote
             color: Theme.secondary
             elide: Text.ElideRight
             Accessible.ignored: true
@@ -64,7 +64,7 @@ Item {
         Label {
             width: parent.width
             text: root.usedBy
-            size: 12
+            size: Theme.sizeNote
             color: Theme.secondary
             wrapMode: Text.Wrap
             Accessible.ignored: true
@@ -73,10 +73,10 @@ Item {
     FigureText {
         id: figure
         anchors.right: control.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
         text: root.size
-        size: 13.5
+        size: Theme.sizeRow
         weight: Font.Bold
         Accessible.ignored: true
     }

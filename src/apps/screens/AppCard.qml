@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// An application, what it occupies, and whether it is used at all.
-Rectangle {
+Surface {
     id: root
 
     property string icon
@@ -18,23 +18,10 @@ Rectangle {
     signal uninstalled()
 
     implicitHeight: 152
-    radius: 16
-    border.width: 1
-    border.color: hover.hovered ? Theme.withOpacity(Ambient.palette.primary, 0.45) : Qt.rgba(1, 1, 1, 0.07)
-    gradient: Gradient {
-        GradientStop { position: 0; color: Qt.rgba(1, 1, 1, 0.060) }
-        GradientStop { position: 1; color: Qt.rgba(1, 1, 1, 0.032) }
-    }
+    reacts: true
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: size + ". " + line + (mark === "" ? "" : ". " + mark)
-
-    Behavior on border.color {
-        enabled: root.Motion.hasPassages
-        ColorAnimation { duration: Theme.hoverTime }
-    }
-
-    HoverHandler { id: hover }
 
     AppIconView {
         id: picture
@@ -44,12 +31,12 @@ Rectangle {
     }
     Label {
         anchors.left: picture.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.gap
         anchors.right: trash.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.gapSmall
         anchors.verticalCenter: picture.verticalCenter
         text: root.title
-        size: 14
+        size: Theme.sizeRow
         weight: Font.DemiBold
         lineHeight: 1.1
         wrapMode: Text.Wrap
@@ -60,7 +47,7 @@ Rectangle {
     IconButton {
         id: trash
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: picture.verticalCenter
         symbol: root.trashSymbol
         tint: Theme.destructive
@@ -73,7 +60,7 @@ Rectangle {
         width: parent.width - 32
         height: 36
         text: root.line
-        size: 12
+        size: Theme.sizeNote
         lineHeight: 1.15
         color: Theme.secondary
         wrapMode: Text.Wrap
@@ -86,7 +73,7 @@ Rectangle {
         x: 16
         anchors.verticalCenter: marks.verticalCenter
         text: root.size
-        size: 14
+        size: Theme.sizeRow
         weight: Font.Bold
         Accessible.ignored: true
     }
@@ -94,10 +81,10 @@ Rectangle {
         id: marks
         height: 18
         anchors.right: parent.right
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 14
-        spacing: 8
+        anchors.bottomMargin: Theme.gap
+        spacing: Theme.gapSmall
 
         Label {
             anchors.verticalCenter: parent.verticalCenter
@@ -105,7 +92,7 @@ Rectangle {
             width: Math.min(implicitWidth,
                             root.width - 40 - figure.width - (tag.visible ? tag.width + marks.spacing : 0))
             text: root.version
-            size: 11.5
+            size: Theme.sizeDetail
             color: Theme.faint
             elide: Text.ElideRight
             Accessible.ignored: true

@@ -31,7 +31,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
         anchors.right: sort.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         y: 30
         visible: root.screen.phase !== AppsScreen.Idle
         title: root.screen.title
@@ -71,7 +71,7 @@ FocusScope {
             anchors.leftMargin: root.margin
             anchors.rightMargin: root.margin
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 20
+            anchors.bottomMargin: Theme.gapLarge
             visible: root.screen.hasBanner
             symbol: root.screen.bannerSymbol
             tint: root.screen.isBannerWarning ? Theme.caution : Theme.success
@@ -141,7 +141,8 @@ FocusScope {
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24 + banner.room
             visible: root.screen.isHuntingLeftovers
-            color: Theme.panelTop(root.Ambient.palette.primary)
+            fillTop: Theme.panelTop(root.Ambient.palette.primary)
+            fillBottom: fillTop
 
             Spinner {
                 anchors.verticalCenter: parent.verticalCenter
@@ -150,7 +151,7 @@ FocusScope {
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.screen.huntingLine
-                size: 12.5
+                size: Theme.sizeControl
                 weight: Font.Medium
             }
         }

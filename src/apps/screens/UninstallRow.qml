@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// The application itself, or one thing that it has left elsewhere.
-Rectangle {
+Surface {
     id: root
 
     property string symbol
@@ -11,8 +11,7 @@ Rectangle {
     property string size
 
     implicitHeight: 50
-    radius: 12
-    color: Qt.rgba(1, 1, 1, 0.045)
+    strength: 0.8
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: label + ". " + size
@@ -22,21 +21,21 @@ Rectangle {
         x: 14
         anchors.verticalCenter: parent.verticalCenter
         symbol: root.symbol
-        size: 18
+        size: Theme.symbolRow
         tint: Ambient.palette.soft
     }
     Column {
         anchors.left: icon.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.gap
         anchors.right: figure.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 1
+        spacing: Theme.gapHair
 
         Label {
             width: parent.width
             text: root.title
-            size: 13
+            size: Theme.sizeText
             weight: Font.Medium
             elide: Text.ElideMiddle
             Accessible.ignored: true
@@ -44,7 +43,7 @@ Rectangle {
         Label {
             width: parent.width
             text: root.label
-            size: 11
+            size: Theme.sizeMinor
             color: Theme.secondary
             elide: Text.ElideRight
             Accessible.ignored: true
@@ -53,10 +52,10 @@ Rectangle {
     FigureText {
         id: figure
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         text: root.size
-        size: 12.5
+        size: Theme.sizeControl
         weight: Font.DemiBold
         Accessible.ignored: true
     }

@@ -31,12 +31,12 @@ Modal {
         ListView {
             id: list
             anchors.top: header.bottom
-            anchors.topMargin: 16
+            anchors.topMargin: Theme.gapWide
             anchors.bottom: undo.top
-            anchors.bottomMargin: 14
+            anchors.bottomMargin: Theme.gap
             width: parent.width
             clip: true
-            spacing: 6
+            spacing: Theme.gapSmall
             boundsBehavior: Flickable.StopAtBounds
             model: root.screen.sheetRows
             activeFocusOnTab: contentHeight > height
@@ -63,16 +63,16 @@ Modal {
             visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
             text: root.screen.sheetEmptyNote
-            size: 12.5
+            size: Theme.sizeControl
             color: Theme.secondary
         }
         SymbolLabel {
             id: undo
             anchors.bottom: buttons.top
-            anchors.bottomMargin: 16
+            anchors.bottomMargin: Theme.gapWide
             symbol: root.screen.undoSymbol
             text: root.screen.undoLine
-            size: 12
+            size: Theme.sizeNote
             weight: Font.Normal
             tint: Theme.secondary
             Accessible.role: Accessible.StaticText
@@ -82,7 +82,7 @@ Modal {
             id: buttons
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            spacing: 10
+            spacing: Theme.gap
 
             GhostPillButton {
                 id: cancelButton
@@ -92,7 +92,7 @@ Modal {
             }
             PillButton {
                 anchors.verticalCenter: parent.verticalCenter
-                fontSize: 13
+                fontSize: Theme.sizeText
                 verticalPadding: 10
                 tint: Theme.destructive
                 text: root.screen.confirmLabel

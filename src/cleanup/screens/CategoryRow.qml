@@ -16,7 +16,7 @@ RailRow {
         z: 2
         width: 44
         height: parent.height
-        cornerRadius: 10
+        cornerRadius: Theme.radiusSmall
         pressedScale: 0.94
         text: root.title
         description: root.line

@@ -33,7 +33,7 @@ FocusScope {
 
             Column {
                 anchors.centerIn: parent
-                spacing: 4
+                spacing: Theme.gapTight
 
                 Item {
                     anchors.horizontalCenter: parent.horizontalCenter
@@ -46,14 +46,14 @@ FocusScope {
                         anchors.horizontalCenter: parent.horizontalCenter
                         target: root.screen.reclaimedBytes
                         duration: 1.8
-                        size: 32
+                        size: Theme.sizeRing
                         scale: Math.min(1, parent.width / Math.max(1, implicitWidth))
                     }
                 }
                 Label {
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: root.screen.ringLine
-                    size: root.screen.hasReclaimed ? 13 : 22
+                    size: root.screen.hasReclaimed ? Theme.sizeText : Theme.sizePlacard
                     weight: root.screen.hasReclaimed ? Font.Normal : Font.Bold
                     color: root.screen.hasReclaimed ? Theme.secondary : Theme.text
                 }
@@ -65,7 +65,7 @@ FocusScope {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.screen.doneTitle
-            size: 27
+            size: Theme.sizeTitle
             weight: Font.Bold
             font.letterSpacing: -0.4
             Accessible.role: Accessible.Heading
@@ -76,7 +76,7 @@ FocusScope {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.screen.doneLine
-            size: 13.5
+            size: Theme.sizeRow
             color: Theme.secondary
         }
 
@@ -88,19 +88,19 @@ FocusScope {
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.screen.freeBefore
-                size: 12.5
+                size: Theme.sizeControl
                 color: Theme.secondary
             }
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: root.screen.freeSpaceSymbol
-                size: 14
+                size: Theme.symbolSmall
                 tint: Ambient.palette.primary
             }
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.screen.freeAfter
-                size: 12.5
+                size: Theme.sizeControl
                 weight: Font.DemiBold
             }
         }

@@ -11,7 +11,7 @@ FocusScope {
         anchors.horizontalCenter: parent.horizontalCenter
         y: Theme.ringCentre(parent.height) - 95
         visible: root.screen.isCleaning
-        spacing: 28
+        spacing: Theme.gapHuge
 
         ProgressRing {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -24,7 +24,7 @@ FocusScope {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.screen.cleaningTitle
-            size: 22
+            size: Theme.sizePlacard
             weight: Font.Bold
             font.letterSpacing: -0.3
             Accessible.role: Accessible.Heading

@@ -2,20 +2,15 @@ import QtQuick
 import Tidewell
 
 /// A calm note about what a removal left behind.
-Rectangle {
+Surface {
     id: root
 
     property string symbol
     property string title
     property string text
 
-    readonly property color warning: "#ffb84d"
-
     implicitHeight: column.implicitHeight + 28
-    radius: 14
-    color: Theme.withOpacity(warning, 0.08)
-    border.width: 1
-    border.color: Theme.withOpacity(warning, 0.24)
+    tint: Theme.caution
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title
     Accessible.description: text
@@ -24,27 +19,27 @@ Rectangle {
         x: 16
         y: 15
         symbol: root.symbol
-        size: 18
-        tint: root.warning
+        size: Theme.symbolRow
+        tint: root.tint
     }
     Column {
         id: column
         x: 46
         y: 14
         width: parent.width - x - 16
-        spacing: 4
+        spacing: Theme.gapTight
 
         Label {
             width: parent.width
             text: root.title
-            size: 13
+            size: Theme.sizeText
             weight: Font.DemiBold
             Accessible.ignored: true
         }
         Label {
             width: parent.width
             text: root.text
-            size: 12
+            size: Theme.sizeNote
             lineHeight: 1.25
             color: Theme.secondary
             wrapMode: Text.Wrap

@@ -12,35 +12,20 @@ Pressable {
     /// Said beside the title of what can cost the user something; empty for all else.
     property string badge
 
-    readonly property color accent: Ambient.palette.primary
-
     implicitHeight: contentItem.implicitHeight + 26
     leftPadding: 16
     rightPadding: 18
-    cornerRadius: 14
+    cornerRadius: Theme.radius
     pressedScale: 0.995
     text: title
     description: (badge === "" ? "" : badge + ". ") + size + ". " + detail
     checkable: true
     checked: isOn
 
-    background: Rectangle {
+    background: Surface {
         radius: root.cornerRadius
-        border.width: 1
-        border.color: root.isOn ? Theme.withOpacity(root.accent, 0.22 + 0.20 * root.lift)
-                                : Qt.rgba(1, 1, 1, 0.05 + 0.08 * root.lift)
-        gradient: Gradient {
-            GradientStop {
-                position: 0
-                color: root.isOn ? Theme.withOpacity(root.accent, 0.070 + 0.04 * root.lift)
-                                 : Qt.rgba(1, 1, 1, 0.050 + 0.03 * root.lift)
-            }
-            GradientStop {
-                position: 1
-                color: root.isOn ? Theme.withOpacity(root.accent, 0.038 + 0.03 * root.lift)
-                                 : Qt.rgba(1, 1, 1, 0.030 + 0.02 * root.lift)
-            }
-        }
+        tint: root.isOn ? Ambient.palette.primary : Theme.text
+        lift: root.lift
     }
 
     contentItem: Item {
@@ -66,22 +51,22 @@ Pressable {
         Column {
             id: column
             anchors.left: check.right
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.gap
             anchors.right: figure.left
-            anchors.rightMargin: 18
+            anchors.rightMargin: Theme.gapWide
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 4
+            spacing: Theme.gapTight
 
             Row {
                 width: parent.width
-                spacing: 8
+                spacing: Theme.gapSmall
 
                 Label {
                     anchors.verticalCenter: parent.verticalCenter
                     width: Math.min(implicitWidth,
                                     parent.width - (mark.visible ? mark.width + parent.spacing : 0))
                     text: root.title
-                    size: 13.5
+                    size: Theme.sizeRow
                     weight: Font.Medium
                     elide: Text.ElideRight
                     Accessible.ignored: true
@@ -97,7 +82,7 @@ Pressable {
             Label {
                 width: parent.width
                 text: root.detail
-                size: 11.5
+                size: Theme.sizeDetail
                 lineHeight: 1.15
                 color: Theme.secondary
                 wrapMode: Text.Wrap
@@ -111,7 +96,7 @@ Pressable {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
-            size: 13.5
+            size: Theme.sizeRow
             weight: Font.DemiBold
             Accessible.ignored: true
         }

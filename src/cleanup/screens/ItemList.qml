@@ -27,12 +27,12 @@ FocusScope {
     }
     Label {
         anchors.left: icon.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.gap
         anchors.right: choices.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: icon.verticalCenter
         text: root.title
-        size: 17
+        size: Theme.sizeHeading
         weight: Font.DemiBold
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
@@ -40,9 +40,9 @@ FocusScope {
     Row {
         id: choices
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: icon.verticalCenter
-        spacing: 8
+        spacing: Theme.gapSmall
 
         SmallButton {
             text: root.smartLabel
@@ -61,7 +61,7 @@ FocusScope {
     ListView {
         id: list
         anchors.top: icon.bottom
-        anchors.topMargin: 10
+        anchors.topMargin: Theme.gap
         anchors.left: parent.left
         anchors.leftMargin: -6
         anchors.right: parent.right
@@ -72,7 +72,7 @@ FocusScope {
         rightMargin: 12
         clip: true
         focus: true
-        spacing: 8
+        spacing: Theme.gapSmall
         boundsBehavior: Flickable.StopAtBounds
         model: root.model
         activeFocusOnTab: true

@@ -27,23 +27,23 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        color: Qt.rgba(0, 0, 0, 0.24)
+        color: Theme.shade
     }
     Rectangle {
         width: parent.width
         height: 1
-        color: Qt.rgba(1, 1, 1, 0.07)
+        color: Theme.hairline
     }
 
     Label {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
         anchors.right: buttons.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         anchors.verticalCenter: parent.verticalCenter
         visible: root.showsHint
         text: root.hint
-        size: 13
+        size: Theme.sizeText
         color: Theme.secondary
         elide: Text.ElideRight
     }
@@ -53,20 +53,20 @@ Item {
         anchors.leftMargin: root.margin
         anchors.verticalCenter: parent.verticalCenter
         visible: !root.showsHint
-        spacing: 22
+        spacing: Theme.gapLarge
 
         Column {
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 1
+            spacing: Theme.gapHair
 
             FigureText {
                 text: root.selectedSize
-                size: 23
+                size: Theme.sizeTotal
                 weight: Font.Bold
             }
             Label {
                 text: root.pickedLine
-                size: 12
+                size: Theme.sizeNote
                 color: Theme.secondary
             }
         }
@@ -77,13 +77,13 @@ Item {
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: root.freeAfterSymbol
-                size: 15
+                size: Theme.symbolSmall
                 tint: Ambient.palette.primary
             }
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.freeAfterLine
-                size: 12.5
+                size: Theme.sizeControl
                 weight: Font.Medium
             }
         }
@@ -94,7 +94,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: root.margin
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 12
+        spacing: Theme.gap
 
         GhostPillButton {
             anchors.verticalCenter: parent.verticalCenter

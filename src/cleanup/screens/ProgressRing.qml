@@ -24,7 +24,7 @@ RingGauge {
 
     Column {
         anchors.centerIn: parent
-        spacing: 4
+        spacing: Theme.gapTight
 
         Symbol {
             id: glimmer
@@ -45,7 +45,7 @@ RingGauge {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.percent
             moves: true
-            size: 38
+            size: Theme.sizeHero
             weight: Font.Bold
             Accessible.ignored: true
         }
@@ -53,7 +53,7 @@ RingGauge {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: text !== ""
             text: root.caption
-            size: 13
+            size: Theme.sizeText
             color: Theme.secondary
             Accessible.ignored: true
         }

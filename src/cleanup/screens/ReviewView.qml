@@ -31,7 +31,7 @@ FocusScope {
             anchors.left: parent.left
             anchors.leftMargin: root.margin
             anchors.right: choices.left
-            anchors.rightMargin: 20
+            anchors.rightMargin: Theme.gapLarge
             y: 30
             title: root.screen.headline
             subtitle: root.screen.subtitle
@@ -41,7 +41,7 @@ FocusScope {
             anchors.right: parent.right
             anchors.rightMargin: root.margin
             y: 36
-            spacing: 8
+            spacing: Theme.gapSmall
 
             SmallButton {
                 id: safeOnly
@@ -70,7 +70,7 @@ FocusScope {
             anchors.leftMargin: root.margin - 12
             y: 112
             width: 258
-            spacing: 6
+            spacing: Theme.gapTight
 
             Repeater {
                 model: root.screen.categories
@@ -93,17 +93,17 @@ FocusScope {
         Rectangle {
             id: divider
             anchors.left: categories.right
-            anchors.leftMargin: 18
+            anchors.leftMargin: Theme.gapWide
             anchors.top: categories.top
             anchors.bottom: bar.top
-            anchors.bottomMargin: 14
+            anchors.bottomMargin: Theme.gap
             width: 1
-            color: Qt.rgba(1, 1, 1, 0.07)
+            color: Theme.hairline
         }
 
         ItemList {
             anchors.left: divider.right
-            anchors.leftMargin: 22
+            anchors.leftMargin: Theme.gapLarge
             anchors.right: parent.right
             anchors.rightMargin: root.margin - 12
             anchors.top: categories.top

@@ -41,7 +41,7 @@ FocusScope {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.screen.caption
-            size: 13
+            size: Theme.sizeText
             color: Theme.secondary
         }
 
@@ -59,13 +59,13 @@ FocusScope {
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
                     symbol: root.screen.soFarSymbol
-                    size: 15
+                    size: Theme.symbolSmall
                     tint: Ambient.palette.primary
                 }
                 Label {
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.screen.soFar
-                    size: 12.5
+                    size: Theme.sizeControl
                     weight: Font.Medium
                 }
             }

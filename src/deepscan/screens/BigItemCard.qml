@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// One big item: what it is, what removing it would cost, and what may be done with it.
-Rectangle {
+Surface {
     id: root
 
     property string symbol
@@ -24,21 +24,11 @@ Rectangle {
     signal trashed()
     signal copied()
 
-    readonly property real lift: hover.hovered ? 1 : 0
-
     implicitHeight: Math.max(88, words.implicitHeight + 28)
-    radius: 15
-    border.width: 1
-    border.color: Qt.rgba(1, 1, 1, 0.06 + 0.08 * lift)
-    gradient: Gradient {
-        GradientStop { position: 0; color: Qt.rgba(1, 1, 1, 0.055 + 0.015 * root.lift) }
-        GradientStop { position: 1; color: Qt.rgba(1, 1, 1, 0.030 + 0.010 * root.lift) }
-    }
+    reacts: true
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: size + ". " + badge + ". " + note
-
-    HoverHandler { id: hover }
 
     IconChip {
         id: icon
@@ -50,21 +40,21 @@ Rectangle {
     Column {
         id: words
         anchors.left: icon.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.gap
         anchors.right: side.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
+        spacing: Theme.gapTight
 
         Row {
             width: parent.width
-            spacing: 8
+            spacing: Theme.gapSmall
 
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(implicitWidth, parent.width - mark.width - parent.spacing)
                 text: root.title
-                size: 14
+                size: Theme.sizeRow
                 weight: Font.DemiBold
                 elide: Text.ElideMiddle
                 Accessible.ignored: true
@@ -80,7 +70,7 @@ Rectangle {
             width: parent.width
             visible: text !== ""
             text: root.place
-            size: 11.5
+            size: Theme.sizeDetail
             color: Theme.faint
             elide: Text.ElideMiddle
             Accessible.ignored: true
@@ -88,7 +78,7 @@ Rectangle {
         Label {
             width: Math.min(Theme.longestLine, parent.width)
             text: root.note
-            size: 12
+            size: Theme.sizeNote
             lineHeight: 1.15
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -98,7 +88,7 @@ Rectangle {
     Item {
         id: side
         anchors.right: parent.right
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         y: 14
         width: Math.max(figure.width, buttons.width)
         height: parent.height - 28
@@ -107,7 +97,7 @@ Rectangle {
             id: figure
             anchors.right: parent.right
             text: root.size
-            size: 14
+            size: Theme.sizeRow
             weight: Font.Bold
             Accessible.ignored: true
         }
@@ -115,7 +105,7 @@ Rectangle {
             id: buttons
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            spacing: 8
+            spacing: Theme.gapSmall
 
             SmallButton {
                 id: command

@@ -30,7 +30,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
         anchors.right: rescan.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         y: 30
         visible: !root.screen.isStart
         title: root.screen.title
@@ -75,7 +75,7 @@ FocusScope {
             anchors.leftMargin: root.margin
             anchors.rightMargin: root.margin
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 20
+            anchors.bottomMargin: Theme.gapLarge
             visible: root.screen.hasBanner
             symbol: root.screen.bannerSymbol
             tint: root.screen.bannerColor
@@ -90,7 +90,7 @@ FocusScope {
             anchors.leftMargin: root.margin - 12
             y: 8
             width: 240
-            spacing: 6
+            spacing: Theme.gapTight
 
             Repeater {
                 model: root.screen.rail
@@ -113,24 +113,24 @@ FocusScope {
         Rectangle {
             id: divider
             anchors.left: rail.right
-            anchors.leftMargin: 18
+            anchors.leftMargin: Theme.gapWide
             anchors.top: rail.top
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 24
+            anchors.bottomMargin: Theme.gapHuge
             width: 1
-            color: Qt.rgba(1, 1, 1, 0.07)
+            color: Theme.hairline
         }
 
         Label {
             id: advice
             anchors.left: divider.right
-            anchors.leftMargin: 22
+            anchors.leftMargin: Theme.gapLarge
             anchors.right: parent.right
             anchors.rightMargin: root.margin
             anchors.top: rail.top
-            anchors.topMargin: 4
+            anchors.topMargin: Theme.gapTight
             text: root.screen.bucketSubtitle
-            size: 12.5
+            size: Theme.sizeControl
             lineHeight: 1.2
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -138,11 +138,11 @@ FocusScope {
         CardList {
             id: list
             anchors.left: divider.right
-            anchors.leftMargin: 16
+            anchors.leftMargin: Theme.gapWide
             anchors.right: parent.right
             anchors.rightMargin: root.margin - 12
             anchors.top: advice.bottom
-            anchors.topMargin: 6
+            anchors.topMargin: Theme.gapSmall
             anchors.bottom: parent.bottom
             roomBelow: banner.room
             model: root.screen.cards

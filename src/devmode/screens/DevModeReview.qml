@@ -14,7 +14,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
         anchors.right: choices.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         y: 30
         title: root.screen.headline
         subtitle: root.screen.reviewSubtitle
@@ -24,7 +24,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: root.margin
         y: 36
-        spacing: 8
+        spacing: Theme.gapSmall
 
         SmallButton {
             visible: !root.screen.isEmpty
@@ -73,7 +73,7 @@ FocusScope {
             Column {
                 id: rail
                 width: railArea.width - 12
-                spacing: 6
+                spacing: Theme.gapTight
 
                 Repeater {
                     model: root.screen.rail
@@ -102,17 +102,17 @@ FocusScope {
         Rectangle {
             id: divider
             anchors.left: railArea.right
-            anchors.leftMargin: 8
+            anchors.leftMargin: Theme.gapSmall
             anchors.top: parent.top
             anchors.bottom: bar.top
-            anchors.bottomMargin: 14
+            anchors.bottomMargin: Theme.gap
             width: 1
-            color: Qt.rgba(1, 1, 1, 0.07)
+            color: Theme.hairline
         }
 
         ItemList {
             anchors.left: divider.right
-            anchors.leftMargin: 22
+            anchors.leftMargin: Theme.gapLarge
             anchors.right: parent.right
             anchors.rightMargin: root.margin - 12
             anchors.top: parent.top
@@ -134,13 +134,13 @@ FocusScope {
         Label {
             id: modelsLine
             anchors.left: divider.right
-            anchors.leftMargin: 22
+            anchors.leftMargin: Theme.gapLarge
             anchors.right: parent.right
             anchors.rightMargin: root.margin
             y: 4
             visible: root.screen.isViewingModels
             text: root.screen.modelsLine
-            size: 12.5
+            size: Theme.sizeControl
             lineHeight: 1.2
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -148,11 +148,11 @@ FocusScope {
         CardList {
             id: stores
             anchors.left: divider.right
-            anchors.leftMargin: 16
+            anchors.leftMargin: Theme.gapWide
             anchors.right: parent.right
             anchors.rightMargin: root.margin - 12
             anchors.top: modelsLine.bottom
-            anchors.topMargin: 8
+            anchors.topMargin: Theme.gapSmall
             anchors.bottom: bar.top
             visible: root.screen.isViewingModels
             model: root.screen.models

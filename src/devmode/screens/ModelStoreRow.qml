@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// A model store. It is never removed from here, so it can only be shown where it lies.
-Rectangle {
+Surface {
     id: root
 
     property string symbol
@@ -15,10 +15,6 @@ Rectangle {
     signal revealed()
 
     implicitHeight: Math.max(words.implicitHeight + 28, 64)
-    radius: 14
-    color: Qt.rgba(1, 1, 1, 0.042)
-    border.width: 1
-    border.color: Qt.rgba(1, 1, 1, 0.06)
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: size + ". " + note
@@ -32,16 +28,16 @@ Rectangle {
     Column {
         id: words
         anchors.left: icon.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.gap
         anchors.right: figure.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
+        spacing: Theme.gapTight
 
         Label {
             width: parent.width
             text: root.title
-            size: 13.5
+            size: Theme.sizeRow
             weight: Font.Medium
             elide: Text.ElideRight
             Accessible.ignored: true
@@ -49,7 +45,7 @@ Rectangle {
         Label {
             width: parent.width
             text: root.note
-            size: 11.5
+            size: Theme.sizeDetail
             lineHeight: 1.15
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -59,17 +55,17 @@ Rectangle {
     FigureText {
         id: figure
         anchors.right: reveal.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
         text: root.size
-        size: 13.5
+        size: Theme.sizeRow
         weight: Font.DemiBold
         Accessible.ignored: true
     }
     SmallButton {
         id: reveal
         anchors.right: parent.right
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
         symbol: root.revealSymbol
         text: root.revealLabel

@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// What Dev Mode keeps its hands off, whatever is picked.
-Rectangle {
+Surface {
     id: root
 
     property string symbol
@@ -10,10 +10,7 @@ Rectangle {
     property string lines
 
     implicitHeight: column.implicitHeight + 28
-    radius: 14
-    color: Theme.withOpacity(Ambient.palette.primary, 0.07)
-    border.width: 1
-    border.color: Theme.withOpacity(Ambient.palette.primary, 0.18)
+    tint: Ambient.palette.primary
     Accessible.role: Accessible.Grouping
     Accessible.name: title
     Accessible.description: lines
@@ -23,22 +20,22 @@ Rectangle {
         x: 16
         y: 14
         width: parent.width - 32
-        spacing: 7
+        spacing: Theme.gapSmall
 
         Row {
-            spacing: 8
+            spacing: Theme.gapSmall
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: root.symbol
-                size: 16
+                size: Theme.symbolRow
                 tint: Ambient.palette.soft
                 hole: Theme.base
             }
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.title
-                size: 12.5
+                size: Theme.sizeControl
                 weight: Font.DemiBold
                 Accessible.ignored: true
             }
@@ -46,7 +43,7 @@ Rectangle {
         Label {
             width: parent.width
             text: root.lines
-            size: 11.5
+            size: Theme.sizeDetail
             lineHeight: 1.3
             color: Theme.secondary
             wrapMode: Text.Wrap

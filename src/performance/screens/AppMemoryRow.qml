@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// An application with the memory that it holds.
-Rectangle {
+Surface {
     id: root
 
     property string icon
@@ -15,13 +15,11 @@ Rectangle {
     signal quit()
 
     implicitHeight: 50
-    radius: 13
-    color: Qt.rgba(1, 1, 1, hover.hovered ? 0.07 : 0.035)
+    strength: 0.6
+    reacts: true
     Accessible.role: Accessible.ListItem
     Accessible.name: name
     Accessible.description: size
-
-    HoverHandler { id: hover }
 
     AppIconView {
         id: picture
@@ -32,12 +30,12 @@ Rectangle {
     }
     Label {
         anchors.left: picture.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.gap
         anchors.right: bar.left
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
-        size: 13
+        size: Theme.sizeText
         weight: Font.Medium
         maximumLineCount: 1
         elide: Text.ElideRight
@@ -46,7 +44,7 @@ Rectangle {
     GradientBar {
         id: bar
         anchors.right: figure.left
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         width: 90
         fraction: root.fraction
@@ -55,7 +53,7 @@ Rectangle {
     Item {
         id: figure
         anchors.right: action.left
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.gapWide
         width: 66
         height: parent.height
 
@@ -63,7 +61,7 @@ Rectangle {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
-            size: 12.5
+            size: Theme.sizeControl
             weight: Font.Medium
             Accessible.ignored: true
         }
@@ -71,7 +69,7 @@ Rectangle {
     QuitButton {
         id: action
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         width: 58
         text: root.quitLabel

@@ -2,7 +2,7 @@ import QtQuick
 import Tidewell
 
 /// Something that starts by itself, and whose it is.
-Rectangle {
+Surface {
     id: root
 
     property string symbol
@@ -14,34 +14,32 @@ Rectangle {
     signal reveal()
 
     implicitHeight: 54
-    radius: 13
-    color: Qt.rgba(1, 1, 1, hover.hovered ? 0.07 : 0.035)
+    strength: 0.6
+    reacts: true
     Accessible.role: Accessible.ListItem
     Accessible.name: label
     Accessible.description: program + ". " + scope
-
-    HoverHandler { id: hover }
 
     Symbol {
         id: icon
         x: 18
         anchors.verticalCenter: parent.verticalCenter
         symbol: root.symbol
-        size: 18
+        size: Theme.symbolRow
         tint: Ambient.palette.soft
     }
     Column {
         anchors.left: icon.right
-        anchors.leftMargin: 16
+        anchors.leftMargin: Theme.gapWide
         anchors.right: capsule.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
+        spacing: Theme.gapTight
 
         Label {
             width: parent.width
             text: root.label
-            size: 13
+            size: Theme.sizeText
             weight: Font.Medium
             maximumLineCount: 1
             elide: Text.ElideRight
@@ -50,7 +48,7 @@ Rectangle {
         Label {
             width: parent.width
             text: root.program
-            size: 10
+            size: Theme.sizeTiny
             color: Theme.secondary
             maximumLineCount: 1
             elide: Text.ElideMiddle
@@ -60,18 +58,18 @@ Rectangle {
     Rectangle {
         id: capsule
         anchors.right: action.left
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         width: scopeLabel.implicitWidth + 18
         height: 20
-        radius: 10
-        color: Qt.rgba(1, 1, 1, 0.08)
+        radius: Theme.radiusSmall
+        color: Theme.hover(1.4)
 
         Label {
             id: scopeLabel
             anchors.centerIn: parent
             text: root.scope
-            size: 10.5
+            size: Theme.sizeTag
             weight: Font.Medium
             color: Theme.withOpacity(Theme.text, 0.78)
             Accessible.ignored: true
@@ -80,9 +78,9 @@ Rectangle {
     SmallButton {
         id: action
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
-        fontSize: 12
+        fontSize: Theme.sizeNote
         horizontalPadding: 13
         verticalPadding: 6
         text: root.revealLabel

@@ -10,7 +10,7 @@ GlowCard {
     padding: 26
     vivid: true
     featured: true
-    cornerRadius: 24
+    cornerRadius: Theme.radiusPanel
     implicitHeight: 178
 
     DotGauge {
@@ -31,10 +31,10 @@ GlowCard {
         anchors.leftMargin: 34
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 4
+        spacing: Theme.gapTight
 
         Row {
-            spacing: 1
+            spacing: Theme.gapHair
             Accessible.role: Accessible.StaticText
             Accessible.name: root.screen.memoryPercent + root.screen.memoryUnit
             Accessible.description: root.screen.memoryLine
@@ -42,14 +42,14 @@ GlowCard {
             FigureText {
                 id: figure
                 text: root.screen.memoryPercent
-                size: 50
+                size: Theme.sizeFigure
                 weight: Font.Bold
                 Accessible.ignored: true
             }
             Label {
                 y: figure.ascent - baselineOffset
                 text: root.screen.memoryUnit
-                size: 18
+                size: Theme.sizeUnit
                 weight: Font.DemiBold
                 color: Theme.withOpacity(Theme.text, 0.62)
                 Accessible.ignored: true
@@ -57,7 +57,7 @@ GlowCard {
         }
         Label {
             text: root.screen.memoryLine
-            size: 14
+            size: Theme.sizeRow
             weight: Font.Medium
             Accessible.ignored: true
         }
@@ -65,7 +65,7 @@ GlowCard {
             width: Math.min(Theme.longestLine, parent.width)
             topPadding: 8
             text: root.screen.memoryFootnote
-            size: 12
+            size: Theme.sizeNote
             lineHeight: 1.2
             color: Theme.secondary
             wrapMode: Text.Wrap

@@ -18,7 +18,7 @@ Item {
         x: root.margin
         y: 24
         width: parent.width - 2 * root.margin
-        spacing: 14
+        spacing: Theme.gap
 
         MemoryCard {
             width: parent.width
@@ -27,7 +27,7 @@ Item {
         Label {
             topPadding: 10
             text: root.screen.appsHeading
-            size: 12
+            size: Theme.sizeNote
             weight: Font.DemiBold
             color: Theme.secondary
             Accessible.role: Accessible.Heading
@@ -37,7 +37,7 @@ Item {
         id: banner
         x: root.margin
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 20
+        anchors.bottomMargin: Theme.gapLarge
         width: parent.width - 2 * root.margin
         visible: root.screen.message !== ""
         symbol: root.screen.messageSymbol
@@ -56,9 +56,9 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: root.margin - rightMargin
         anchors.top: column.bottom
-        anchors.topMargin: 6
+        anchors.topMargin: Theme.gapSmall
         anchors.bottom: parent.bottom
-        spacing: 4
+        spacing: Theme.gapTight
         roomBelow: banner.room
         model: root.screen.apps
         Accessible.name: root.screen.appsHeading

@@ -15,7 +15,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: root.margin
         y: 35
-        spacing: 12
+        spacing: Theme.gap
 
         SegmentedPicker {
             model: root.screen.panels

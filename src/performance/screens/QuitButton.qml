@@ -20,9 +20,9 @@ Pressable {
             anchors.centerIn: parent
             visible: !root.isBusy
             text: root.text
-            size: 12
+            size: Theme.sizeNote
             weight: Font.Medium
-            color: Theme.withOpacity(Theme.text, 0.78 + 0.22 * root.lift)
+            color: Theme.quiet(root.lift)
             Accessible.ignored: true
         }
         Spinner {

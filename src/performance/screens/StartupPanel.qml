@@ -15,7 +15,7 @@ Item {
         y: 24
         width: Math.min(Theme.longestLine, parent.width - 2 * root.margin)
         text: root.screen.startupExplanation
-        size: 13
+        size: Theme.sizeText
         lineHeight: 1.25
         color: Theme.secondary
         wrapMode: Text.Wrap
@@ -24,7 +24,7 @@ Item {
         x: root.margin
         anchors.verticalCenter: settings.verticalCenter
         text: root.screen.startupHeading
-        size: 12
+        size: Theme.sizeNote
         weight: Font.DemiBold
         color: Theme.secondary
         Accessible.role: Accessible.Heading
@@ -34,7 +34,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: root.margin
         anchors.top: explanation.bottom
-        anchors.topMargin: 20
+        anchors.topMargin: Theme.gapLarge
         text: root.screen.openSettingsLabel
         visible: text !== ""
         onClicked: root.screen.openLoginSettings()
@@ -46,9 +46,9 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: root.margin - rightMargin
         anchors.top: settings.bottom
-        anchors.topMargin: 8
+        anchors.topMargin: Theme.gapSmall
         anchors.bottom: parent.bottom
-        spacing: 4
+        spacing: Theme.gapTight
         model: root.screen.loginItems
         Accessible.name: root.screen.startupHeading
 

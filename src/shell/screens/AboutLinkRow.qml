@@ -11,7 +11,7 @@ Pressable {
     implicitHeight: 40
     leftPadding: 12
     rightPadding: 12
-    cornerRadius: 10
+    cornerRadius: Theme.radiusSmall
     focusGap: 0
     pressedScale: 0.99
 
@@ -25,22 +25,22 @@ Pressable {
             id: icon
             anchors.verticalCenter: parent.verticalCenter
             symbol: root.symbol
-            size: 17
+            size: Theme.symbolRow
             tint: root.Ambient.palette.primary
         }
         Label {
             anchors.left: icon.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.gap
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
-            size: 13
+            size: Theme.sizeText
             Accessible.ignored: true
         }
         Symbol {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             symbol: root.outwardSymbol
-            size: 14
+            size: Theme.symbolSmall
             tint: Theme.withOpacity(Theme.text, 0.34 + 0.40 * root.lift)
         }
     }

@@ -43,7 +43,7 @@ Modal {
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.screen.version
-                size: 12
+                size: Theme.sizeNote
                 color: Theme.faint
             }
             Item { width: 1; height: 20 }
@@ -56,7 +56,7 @@ Modal {
                     width: column.width
                     bottomPadding: 8
                     text: modelData
-                    size: 13
+                    size: Theme.sizeText
                     lineHeight: 1.3
                     color: Theme.secondary
                     wrapMode: Text.Wrap
@@ -66,29 +66,25 @@ Modal {
             Item { width: 1; height: 8 }
             Row {
                 anchors.horizontalCenter: parent.horizontalCenter
-                spacing: 7
+                spacing: Theme.gapSmall
 
                 Symbol {
                     id: shield
                     symbol: root.screen.privacySymbol
-                    size: 16
+                    size: Theme.symbolRow
                     tint: root.sectionPalette.primary
                 }
                 Label {
                     anchors.verticalCenter: shield.verticalCenter
                     text: root.screen.privacy
-                    size: 11.5
+                    size: Theme.sizeDetail
                     weight: Font.Medium
                 }
             }
             Item { width: 1; height: 18 }
-            Rectangle {
+            Surface {
                 width: parent.width
                 height: links.height + 12
-                radius: 14
-                color: Qt.rgba(1, 1, 1, 0.04)
-                border.width: 1
-                border.color: Theme.track
 
                 Column {
                     id: links
@@ -116,7 +112,7 @@ Modal {
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.screen.footer
-                size: 11.5
+                size: Theme.sizeDetail
                 color: Theme.faint
             }
         }

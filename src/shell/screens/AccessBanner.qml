@@ -8,7 +8,7 @@ GlowCard {
     required property HomeScreen screen
 
     padding: 18
-    cornerRadius: 18
+    cornerRadius: Theme.radiusCard
     implicitHeight: Math.max(words.implicitHeight, buttons.implicitHeight) + 2 * padding
 
     IconChip {
@@ -20,21 +20,21 @@ GlowCard {
     Column {
         id: words
         anchors.left: icon.right
-        anchors.leftMargin: 16
+        anchors.leftMargin: Theme.gapWide
         anchors.right: buttons.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 4
+        spacing: Theme.gapTight
 
         Label {
             text: root.screen.accessTitle
-            size: 14.5
+            size: Theme.sizeCard
             weight: Font.DemiBold
         }
         Label {
             width: parent.width
             text: root.screen.accessLine
-            size: 12
+            size: Theme.sizeNote
             lineHeight: 1.15
             color: Theme.secondary
             wrapMode: Text.WordWrap
@@ -44,17 +44,17 @@ GlowCard {
         id: buttons
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 10
+        spacing: Theme.gap
 
         PillButton {
-            fontSize: 12.5
+            fontSize: Theme.sizeControl
             horizontalPadding: 18
             verticalPadding: 9
             text: root.screen.openSettingsLabel
             onClicked: root.screen.openSettings()
         }
         GhostPillButton {
-            fontSize: 12.5
+            fontSize: Theme.sizeControl
             text: root.screen.revealAppLabel
             onClicked: root.screen.revealApp()
         }

@@ -21,7 +21,7 @@ Item {
             x: 12
             anchors.verticalCenter: parent.verticalCenter
             symbol: root.screen.accessSymbol
-            size: 16
+            size: Theme.symbolRow
             tint: root.Ambient.palette.primary
         }
         Label {
@@ -29,7 +29,7 @@ Item {
             x: 38
             anchors.verticalCenter: parent.verticalCenter
             text: root.screen.accessTitle
-            size: 12.5
+            size: Theme.sizeControl
             color: Theme.secondary
             Accessible.ignored: true
         }
@@ -39,34 +39,34 @@ Item {
         id: missing
         width: parent.width
         visible: !root.screen.hasFullDiskAccess
-        cornerRadius: 16
+        cornerRadius: Theme.radius
         padding: 14
         implicitHeight: column.implicitHeight + 2 * padding
 
         Column {
             id: column
             width: parent.width
-            spacing: 8
+            spacing: Theme.gapSmall
 
             Row {
-                spacing: 9
+                spacing: Theme.gapSmall
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
                     symbol: root.screen.accessSymbol
-                    size: 18
+                    size: Theme.symbolRow
                     tint: root.Ambient.palette.primary
                 }
                 Label {
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.screen.accessTitle
-                    size: 13
+                    size: Theme.sizeText
                     weight: Font.DemiBold
                 }
             }
             Label {
                 width: parent.width
                 text: root.screen.accessLine
-                size: 11.5
+                size: Theme.sizeDetail
                 lineHeight: 1.2
                 color: Theme.secondary
                 wrapMode: Text.WordWrap
@@ -75,7 +75,7 @@ Item {
                 width: parent.width
                 topPadding: 8
                 bottomPadding: 8
-                fontSize: 12.5
+                fontSize: Theme.sizeControl
                 text: root.screen.enableAccessLabel
                 onClicked: root.screen.enableAccess()
             }

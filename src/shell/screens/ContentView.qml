@@ -68,7 +68,7 @@ Item {
                 anchors.top: parent.top
                 anchors.bottom: parent.bottom
                 width: 1
-                color: Qt.rgba(1, 1, 1, 0.06)
+                color: Theme.hairline
             }
 
             DetailArea {

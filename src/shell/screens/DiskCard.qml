@@ -15,13 +15,13 @@ GlowCard {
     padding: 26
     vivid: true
     featured: true
-    cornerRadius: 24
+    cornerRadius: Theme.radiusPanel
     implicitHeight: isLarge ? 276 : 236
 
     Label {
         id: caption
         text: root.screen.freeFigureLabel
-        size: 11
+        size: Theme.sizeMinor
         weight: Font.DemiBold
         font.letterSpacing: 1.5
         color: Theme.secondary
@@ -29,36 +29,36 @@ GlowCard {
     CountUpBytes {
         id: figure
         anchors.top: caption.bottom
-        anchors.topMargin: 2
+        anchors.topMargin: Theme.gapHair
         anchors.left: parent.left
         anchors.leftMargin: -2
         target: root.screen.freeBytes
-        size: 54
+        size: Theme.sizeFigure
     }
     Label {
         id: health
         anchors.top: figure.bottom
-        anchors.topMargin: 1
+        anchors.topMargin: Theme.gapHair
         text: root.screen.healthMessage
-        size: 12.5
+        size: Theme.sizeControl
         weight: Font.Medium
         color: Ambient.palette.soft
     }
     Row {
         anchors.top: health.bottom
-        anchors.topMargin: 4
-        spacing: 7
+        anchors.topMargin: Theme.gapTight
+        spacing: Theme.gapSmall
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
             symbol: root.screen.winningsSymbol
-            size: 16
+            size: Theme.symbolRow
             tint: Theme.success
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
             text: root.screen.winnings
-            size: 12.5
+            size: Theme.sizeControl
             color: Theme.secondary
         }
     }
@@ -75,20 +75,20 @@ GlowCard {
                 required property string label
                 required property string value
 
-                spacing: 2
+                spacing: Theme.gapHair
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label
                 Accessible.description: value
 
                 Label {
                     text: cell.label
-                    size: 11.5
+                    size: Theme.sizeDetail
                     color: Theme.faint
                     Accessible.ignored: true
                 }
                 FigureText {
                     text: cell.value
-                    size: 16
+                    size: Theme.sizeCard
                     weight: Font.DemiBold
                     Accessible.ignored: true
                 }
@@ -98,7 +98,7 @@ GlowCard {
 
     DotGauge {
         anchors.right: parent.right
-        anchors.rightMargin: 4
+        anchors.rightMargin: Theme.gapTight
         anchors.verticalCenter: parent.verticalCenter
         diameter: root.isLarge ? 224 : 190
         used: root.screen.usedFraction
@@ -114,7 +114,7 @@ GlowCard {
             FigureText {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.screen.usedPercent
-                size: 30
+                size: Theme.sizeRing
                 weight: Font.Bold
                 isRounded: true
                 Accessible.ignored: true
@@ -122,7 +122,7 @@ GlowCard {
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.screen.gaugeCaption
-                size: 12
+                size: Theme.sizeNote
                 color: Theme.secondary
                 Accessible.ignored: true
             }

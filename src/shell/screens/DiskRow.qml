@@ -18,43 +18,43 @@ Item {
         FigureText {
             anchors.centerIn: parent
             text: root.screen.usedPercent
-            size: 17
+            size: Theme.sizeHeading
             weight: Font.Bold
             isRounded: true
         }
     }
     Column {
         anchors.left: ring.right
-        anchors.leftMargin: 18
+        anchors.leftMargin: Theme.gapWide
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 1
+        spacing: Theme.gapHair
 
         CountUpBytes {
             duration: 0
             target: root.screen.freeBytes
-            size: 27
+            size: Theme.sizeTitle
         }
         Label {
             text: root.screen.freeOf
-            size: 11
+            size: Theme.sizeMinor
             color: Theme.secondary
         }
         Row {
             topPadding: 5
-            spacing: 4
+            spacing: Theme.gapTight
             visible: root.screen.reclaimed !== ""
 
             Symbol {
                 anchors.verticalCenter: words.verticalCenter
                 symbol: root.screen.reclaimedSymbol
-                size: 13
+                size: Theme.symbolTiny
                 tint: Ambient.palette.primary
             }
             Label {
                 id: words
                 text: root.screen.reclaimed
-                size: 11
+                size: Theme.sizeMinor
                 weight: Font.Medium
                 color: Ambient.palette.soft
             }

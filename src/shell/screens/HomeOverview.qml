@@ -20,7 +20,7 @@ FocusScope {
             anchors.left: parent.left
             anchors.leftMargin: root.margin
             anchors.right: actions.left
-            anchors.rightMargin: 20
+            anchors.rightMargin: Theme.gapLarge
             y: 30
             title: root.screen.title
             subtitle: root.screen.subtitle
@@ -30,7 +30,7 @@ FocusScope {
             anchors.right: parent.right
             anchors.rightMargin: root.margin
             y: 33
-            spacing: 14
+            spacing: Theme.gap
 
             HealthPill {
                 anchors.verticalCenter: parent.verticalCenter
@@ -50,7 +50,7 @@ FocusScope {
             x: root.margin
             y: 108
             width: parent.width - 2 * root.margin
-            spacing: 14
+            spacing: Theme.gap
 
             AccessBanner {
                 width: parent.width
@@ -68,8 +68,8 @@ FocusScope {
 
                 width: parent.width
                 columns: 2
-                columnSpacing: 14
-                rowSpacing: 14
+                columnSpacing: Theme.gap
+                rowSpacing: Theme.gap
 
                 Repeater {
                     model: root.screen.tools

@@ -11,7 +11,7 @@ Pressable {
 
     implicitHeight: 108
     padding: 20
-    cornerRadius: 20
+    cornerRadius: Theme.radiusCard
     pressedScale: 0.985
     description: lines.replace("\n", " ") + ". " + value
 
@@ -29,19 +29,19 @@ Pressable {
         }
         Column {
             anchors.left: blob.right
-            anchors.leftMargin: 18
+            anchors.leftMargin: Theme.gapWide
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 3
+            spacing: Theme.gapTight
 
             Label {
                 text: root.text
-                size: 15.5
+                size: Theme.sizeCard
                 weight: Font.DemiBold
                 Accessible.ignored: true
             }
             Label {
                 text: root.lines
-                size: 12
+                size: Theme.sizeNote
                 lineHeight: 1.15
                 color: Theme.secondary
                 Accessible.ignored: true
@@ -52,12 +52,12 @@ Pressable {
             anchors.rightMargin: -4
             anchors.bottom: parent.bottom
             anchors.bottomMargin: -4
-            spacing: 3
+            spacing: Theme.gapTight
 
             Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.value
-                size: 12.5
+                size: Theme.sizeControl
                 weight: Font.DemiBold
                 color: Ambient.palette.soft
                 Accessible.ignored: true
@@ -65,7 +65,7 @@ Pressable {
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: "chevron.right"
-                size: 15
+                size: Theme.symbolSmall
                 tint: Ambient.palette.soft
             }
         }

@@ -24,7 +24,7 @@ Item {
         id: icon
         anchors.verticalCenter: parent.verticalCenter
         symbol: root.symbol
-        size: 15
+        size: Theme.symbolSmall
         tint: Ambient.palette.primary
     }
     Label {
@@ -33,7 +33,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: root.width - x
         text: root.text
-        size: 12.5
+        size: Theme.sizeControl
         elide: Text.ElideRight
     }
 }

@@ -21,10 +21,10 @@ FocusScope {
     GlowBox {
         anchors.fill: parent
         reach: 20
-        cornerRadius: 16
-        fillTop: "#171d1a"
-        fillBottom: "#0b0f0d"
-        rim: Qt.rgba(1, 1, 1, 0.12)
+        cornerRadius: Theme.radius
+        fillTop: Theme.panelTop(root.Ambient.palette.primary)
+        fillBottom: Theme.panelBottom(root.Ambient.palette.primary)
+        rim: Theme.panelRim
         glow: Theme.withOpacity(root.Ambient.palette.primary, 0.10)
         cornerLight: 0.6
     }
@@ -34,7 +34,7 @@ FocusScope {
         x: root.padding
         y: root.padding
         width: parent.width - 2 * root.padding
-        spacing: 16
+        spacing: Theme.gapWide
 
         Item {
             width: parent.width
@@ -62,8 +62,8 @@ FocusScope {
 
             width: parent.width
             columns: 2
-            columnSpacing: 8
-            rowSpacing: 8
+            columnSpacing: Theme.gapSmall
+            rowSpacing: Theme.gapSmall
 
             Repeater {
                 model: root.screen.cards
@@ -98,7 +98,7 @@ FocusScope {
 
             contentItem: Label {
                 text: openApp.text
-                size: 12
+                size: Theme.sizeNote
                 weight: Font.Medium
                 color: Theme.withOpacity(Theme.text, 0.62 + 0.38 * openApp.lift)
                 Accessible.ignored: true

@@ -42,7 +42,7 @@ FocusScope {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.screen.title
-            size: 38
+            size: Theme.sizeHero
             weight: Font.Bold
             font.letterSpacing: -0.8
             Accessible.role: Accessible.Heading
@@ -51,7 +51,7 @@ FocusScope {
         Label {
             width: parent.width
             text: root.screen.line
-            size: 15
+            size: Theme.sizeCard
             lineHeight: 1.35
             color: Theme.secondary
             wrapMode: Text.Wrap
@@ -62,7 +62,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             width: 220
             verticalPadding: 14
-            fontSize: 15
+            fontSize: Theme.sizeCard
             focus: true
             text: root.screen.getStartedLabel
             onClicked: {

@@ -8,19 +8,17 @@ Pressable {
     property string symbol
 
     implicitHeight: 66
-    cornerRadius: 13
+    cornerRadius: Theme.radius
     focusGap: 1
 
-    background: Rectangle {
+    background: Surface {
         radius: root.cornerRadius
-        color: Qt.rgba(1, 1, 1, 0.05 + 0.05 * root.lift)
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.07 + 0.09 * root.lift)
+        lift: root.lift
     }
     contentItem: Item {
         Column {
             anchors.centerIn: parent
-            spacing: 4
+            spacing: Theme.gapTight
 
             Item {
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -30,14 +28,14 @@ Pressable {
                 Symbol {
                     anchors.centerIn: parent
                     symbol: root.symbol
-                    size: 21
+                    size: Theme.symbolLarge
                     tint: root.Ambient.palette.primary
                 }
             }
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.text
-                size: 12
+                size: Theme.sizeNote
                 weight: Font.Medium
                 Accessible.ignored: true
             }

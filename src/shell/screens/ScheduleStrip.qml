@@ -2,43 +2,39 @@ import QtQuick
 import Tidewell
 
 /// When the last clean was, and when the next scan would be worth it.
-Rectangle {
+Surface {
     id: root
 
     required property HomeScreen screen
 
     implicitHeight: 46
-    radius: 15
-    color: Qt.rgba(1, 1, 1, 0.04)
-    border.width: 1
-    border.color: Qt.rgba(1, 1, 1, 0.06)
 
     Symbol {
         id: icon
         x: 18
         anchors.verticalCenter: parent.verticalCenter
         symbol: root.screen.scheduleSymbol
-        size: 16
+        size: Theme.symbolRow
         tint: Ambient.palette.primary
     }
     Label {
         anchors.left: icon.right
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.gap
         anchors.right: next.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.gapLarge
         anchors.verticalCenter: parent.verticalCenter
         text: root.screen.lastCleanup
-        size: 12.5
+        size: Theme.sizeControl
         weight: Font.Medium
         elide: Text.ElideRight
     }
     Label {
         id: next
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
         text: root.screen.nextScan
-        size: 12.5
+        size: Theme.sizeControl
         color: Theme.secondary
     }
 }

@@ -10,7 +10,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        color: Qt.rgba(0, 0, 0, 0.26)
+        color: Theme.shade
     }
 
     BrandLogo {
@@ -24,7 +24,7 @@ Item {
         x: 14
         y: 84
         width: parent.width - 28
-        spacing: 5
+        spacing: Theme.gapTight
         Accessible.role: Accessible.PageTabList
         Accessible.name: root.screen.title
 
@@ -62,7 +62,7 @@ Item {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: 14
-        spacing: 6
+        spacing: Theme.gapSmall
 
         AccessCard {
             width: parent.width
@@ -73,7 +73,7 @@ Item {
             visible: root.screen.showsAccess
             width: parent.width
             height: 1
-            color: Qt.rgba(1, 1, 1, 0.06)
+            color: Theme.hairline
         }
         SidebarLink {
             width: parent.width

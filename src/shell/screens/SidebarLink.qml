@@ -10,7 +10,7 @@ Pressable {
     implicitHeight: 34
     leftPadding: 12
     rightPadding: 12
-    cornerRadius: 10
+    cornerRadius: Theme.radiusSmall
 
     background: Rectangle {
         radius: root.cornerRadius
@@ -22,16 +22,16 @@ Pressable {
             id: icon
             anchors.verticalCenter: parent.verticalCenter
             symbol: root.symbol
-            size: 16
+            size: Theme.symbolRow
             tint: Theme.withOpacity(Theme.text, 0.62 + 0.30 * root.lift)
         }
         Label {
             anchors.left: icon.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.gap
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
-            size: 12.5
+            size: Theme.sizeControl
             color: Theme.withOpacity(Theme.text, 0.62 + 0.30 * root.lift)
             elide: Text.ElideRight
             Accessible.ignored: true

@@ -48,13 +48,13 @@ FocusScope {
 
                 Column {
                     anchors.centerIn: parent
-                    spacing: 3
+                    spacing: Theme.gapTight
 
                     Symbol {
                         anchors.horizontalCenter: parent.horizontalCenter
                         visible: symbol !== ""
                         symbol: root.screen.centreSymbol
-                        size: root.isRunning ? 17 : 34
+                        size: root.isRunning ? Theme.symbolRow : 34
                         tint: root.Ambient.palette.soft
                     }
                     FigureText {
@@ -62,7 +62,7 @@ FocusScope {
                         visible: text !== ""
                         text: root.screen.centreFigure
                         moves: root.isRunning
-                        size: 30
+                        size: Theme.sizeRing
                         weight: Font.Bold
                         Accessible.ignored: true
                     }
@@ -70,7 +70,7 @@ FocusScope {
                         anchors.horizontalCenter: parent.horizontalCenter
                         visible: text !== ""
                         text: root.screen.centreCaption
-                        size: 13
+                        size: Theme.sizeText
                         color: Theme.secondary
                         Accessible.ignored: true
                     }
@@ -82,7 +82,7 @@ FocusScope {
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.screen.title
-                size: 20
+                size: Theme.sizePlacard
                 weight: Font.Bold
                 font.letterSpacing: -0.3
                 Accessible.role: Accessible.Heading
@@ -95,7 +95,7 @@ FocusScope {
                 width: Math.min(implicitWidth, parent.width)
                 height: 17
                 text: root.screen.line
-                size: root.isRunning ? 10.5 : 12.5
+                size: root.isRunning ? Theme.sizeTag : Theme.sizeControl
                 color: Theme.secondary
                 elide: Text.ElideMiddle
             }
@@ -104,7 +104,7 @@ FocusScope {
 
             Row {
                 anchors.horizontalCenter: parent.horizontalCenter
-                spacing: 14
+                spacing: Theme.gap
 
                 Repeater {
                     model: root.screen.cards
@@ -138,7 +138,7 @@ FocusScope {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: parent.width
                 height: 3 * 22 + 2 * spacing
-                spacing: 7
+                spacing: Theme.gapSmall
 
                 Repeater {
                     model: root.screen.insights
@@ -163,7 +163,7 @@ FocusScope {
             Row {
                 anchors.horizontalCenter: parent.horizontalCenter
                 height: 44
-                spacing: 12
+                spacing: Theme.gap
 
                 GhostPillButton {
                     id: stopButton

@@ -18,7 +18,7 @@ Pressable {
     width: 150
     implicitHeight: 132
     padding: 14
-    cornerRadius: 18
+    cornerRadius: Theme.radiusCard
     pressedScale: opens ? 0.97 : 1
     description: line
     opacity: dimming
@@ -41,21 +41,21 @@ Pressable {
         Label {
             id: name
             anchors.top: blob.bottom
-            anchors.topMargin: 9
+            anchors.topMargin: Theme.gapSmall
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.text
-            size: 13.5
+            size: Theme.sizeRow
             weight: Font.DemiBold
             Accessible.ignored: true
         }
         Label {
             id: words
             anchors.top: name.bottom
-            anchors.topMargin: 2
+            anchors.topMargin: Theme.gapHair
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: root.line
-            size: 12
+            size: Theme.sizeNote
             weight: root.isDone ? Font.Medium : Font.Normal
             color: root.isDone ? Ambient.palette.soft : Theme.secondary
             elide: Text.ElideRight
@@ -63,7 +63,7 @@ Pressable {
         }
         Item {
             anchors.top: words.bottom
-            anchors.topMargin: 3
+            anchors.topMargin: Theme.gapTight
             anchors.horizontalCenter: parent.horizontalCenter
             width: done.width
             height: done.height
@@ -71,19 +71,19 @@ Pressable {
 
             Row {
                 id: done
-                spacing: 4
+                spacing: Theme.gapTight
                 opacity: root.opens ? 1 - hovering.opacity : 1
 
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
                     symbol: root.finishedSymbol
-                    size: 12
+                    size: Theme.symbolTiny
                     tint: Ambient.palette.primary
                 }
                 Label {
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.mark
-                    size: 11
+                    size: Theme.sizeMinor
                     color: Theme.secondary
                     Accessible.ignored: true
                 }
@@ -92,7 +92,7 @@ Pressable {
                 id: hovering
                 anchors.centerIn: parent
                 text: root.hoverMark
-                size: 11
+                size: Theme.sizeMinor
                 color: Ambient.palette.soft
                 opacity: root.opens && root.hovered ? 1 : 0
                 Accessible.ignored: true
