@@ -19,6 +19,11 @@ struct Search {
     std::vector<CleanupTarget> artifacts;
 };
 
+struct Measured {
+    std::optional<CleanupItem> item;
+    UnreadThings unread;
+};
+
 constexpr auto hasPrograms = [](const CleanupItem& item) { return item.target.hasPrograms(); };
 
 double fraction(std::size_t part, std::size_t whole) {
@@ -54,30 +59,35 @@ Task<CleanupItems> CleaningSession::measured(std::vector<CleanupTarget> targets,
         return Search{.silentMounts = std::move(silent), .artifacts = findProjectArtifacts(host)};
     });
     auto search = co_await searching;
-    silentMounts = std::move(search.silentMounts);
     std::ranges::move(search.artifacts, std::back_inserter(targets));
 
-    BackgroundGroup<std::optional<CleanupItem>> measuring;
+    BackgroundGroup<Measured> measuring;
     auto next = targets.cbegin();
     const auto startNext = [this, &measuring, &next, &known] {
         measuring.start([scanner = scanner_, target = *next, known] {
-            return scanner.measure(target, known.get());
+            Measured measure;
+            measure.item = scanner.measure(target, known.get(), &measure.unread);
+            return measure;
         });
         ++next;
     };
     while (next != targets.cend() && measuring.running() < measuringWidth) startNext();
 
     CleanupItems found;
+    UnreadThings unread;
     std::size_t finished = 0;
     while (measuring.running() > 0) {
-        auto item = co_await measuring.next();
-        if (item) found.push_back(std::move(*item));
+        auto measure = co_await measuring.next();
+        unread.add(measure.unread);
+        if (measure.item) found.push_back(std::move(*measure.item));
         scanProgress = fraction(++finished, targets.size());
         if (next == targets.cend()) continue;
         currentTarget = next->title;
         startNext();
     }
     currentTarget = std::nullopt;
+    leftOut =
+        LeftOut{.silentMounts = std::move(search.silentMounts), .unreadFolders = unread.count()};
     sortBySize(found);
     if (std::ranges::any_of(found, hasPrograms)) {
         auto marking = background([items = std::move(found), host = scanner_.host()]() mutable {

@@ -11,6 +11,7 @@
 #include "async/task.h"
 #include "cleanup/disk_scanner.h"
 #include "cleanup/item_selection.h"
+#include "kit/left_out.h"
 #include "platform/user_defaults.h"
 
 namespace tidewell {
@@ -60,8 +61,7 @@ class CleaningSession : public std::enable_shared_from_this<CleaningSession> {
     Published<double> cleanProgress{willChange, 0.0};
     /// The title of the target whose measure began last, beyond the first lot.
     Published<std::optional<std::string>> currentTarget{willChange};
-    /// The mounts that the last scan passed over, since they did not answer.
-    Published<std::vector<std::string>> silentMounts{willChange};
+    Published<LeftOut> leftOut{willChange};  ///< of the last scan
     /// What the last clean did.
     Published<ByteCount> freedBytes{willChange, 0};
     Published<std::vector<std::string>> failedTitles{willChange};  ///< in the order of the items

@@ -25,9 +25,11 @@ struct Found {
     std::vector<DiskUsage> measures;
     ByteCount size = 0;
     ByteCount linked = 0;
+    UnreadThings unread;
 
     void add(std::string path, MeasuredFolders* known) {
         auto usage = known ? diskUsage(path, *known) : diskUsage(path);
+        unread.add(usage.unread);
         if (usage.bytes < 1) return;
         size = addSaturating(size, usage.bytes);
         linked = addSaturating(linked, usage.linkedBytes);
@@ -103,8 +105,8 @@ ByteCount mayBeLeft(const DiskUsage& now, const DiskUsage& atScan) {
 
 DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 
-std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target,
-                                                MeasuredFolders* known) const {
+std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target, MeasuredFolders* known,
+                                                UnreadThings* unread) const {
     Found found;
     for (auto& path : existingPlaces(target.paths, host_)) {
         switch (target.kind) {
@@ -118,6 +120,7 @@ std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target,
                 break;
         }
     }
+    if (unread) unread->add(found.unread);
     if (found.paths.empty()) return std::nullopt;
     FreedUsage together{.freedBytes = found.size};
     if (host_.system == System::linux && found.linked > 0) together = freedByRemoving(found.paths);

@@ -26,9 +26,11 @@ class DiskScanner {
 
     explicit DiskScanner(Host host);
 
-    /// Absent for a target that holds nothing on this machine. What `known` knows is taken over.
+    /// Absent for a target that holds nothing on this machine. What `known` knows is taken over; to
+    /// `unread` comes what could not be read, also of an absent one.
     std::optional<CleanupItem> measure(const CleanupTarget& target,
-                                       MeasuredFolders* known = nullptr) const;
+                                       MeasuredFolders* known = nullptr,
+                                       UnreadThings* unread = nullptr) const;
 
     /// Empties the folders and removes the files at the item's resolved paths, for good. Folders at
     /// a resolved path stay, empty. A path of which something could be read at the scan and cannot

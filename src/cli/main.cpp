@@ -4,7 +4,7 @@
 #include "async/failure.h"
 #include "cli/arguments.h"
 #include "cli/context.h"
-#include "kit/silent_mounts_note.h"
+#include "kit/left_out.h"
 #include "platform/silent_mounts.h"
 #include "platform/terminal.h"
 #include "platform/text.h"

@@ -53,6 +53,11 @@ void printLine(std::string_view line) {
     std::cout << line << '\n';
 }
 
+void tellUnread(const LeftOut& leftOut, System system) {
+    if (const auto note = unreadNote(leftOut, system))
+        std::cerr << "tidewell-cli: " << *note << '\n';
+}
+
 void printDocument(const Value& document) {
     std::cout << writeJson(document, JsonLayout::indented) << '\n';
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "kit/left_out.h"
 #include "platform/value.h"
 
 namespace tidewell::cli {
@@ -20,6 +21,9 @@ std::string leftAligned(std::string_view text, int columns);
 std::string rightAligned(std::string_view text, int columns);
 
 void printLine(std::string_view line = {});
+
+/// Says on standard error, behind a list, how much of the machine could not be read.
+void tellUnread(const LeftOut& leftOut, System system);
 
 /// The one document of a call with --json.
 void printDocument(const Value& document);

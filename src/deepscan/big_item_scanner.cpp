@@ -121,16 +121,18 @@ BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
     return item;
 }
 
-std::vector<BigItem> BigItemScanner::scan(const Progress& progress, MeasuredFolders* known) const {
+std::vector<BigItem> BigItemScanner::scan(const Progress& progress, MeasuredFolders* known,
+                                          UnreadThings* unread) const {
     const KeptPlaces kept(host_);
     const auto paths = candidates();
     std::vector<BigItem> items;
     std::size_t measured = 0;
     for (const auto& path : paths) {
-        const auto size = (known ? diskUsage(path, *known) : diskUsage(path)).bytes;
+        const auto usage = known ? diskUsage(path, *known) : diskUsage(path);
+        if (unread) unread->add(usage.unread);
         ++measured;
         if (progress) progress(static_cast<double>(measured) / static_cast<double>(paths.size()));
-        if (isBigItem(size)) items.push_back(describe(path, size, kept));
+        if (isBigItem(usage.bytes)) items.push_back(describe(path, usage.bytes, kept));
     }
     sortBySize(items);
     return items;

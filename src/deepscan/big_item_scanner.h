@@ -57,9 +57,9 @@ class BigItemScanner {
     /// container's disks, is opened in its stead, so that nothing is counted twice. Largest first;
     /// of equal size in the order of the walk. An entry is one item however deep it goes.
     /// `progress` is called on the caller's thread after each measure. What `known` knows is taken
-    /// over.
-    std::vector<BigItem> scan(const Progress& progress = {},
-                              MeasuredFolders* known = nullptr) const;
+    /// over; to `unread` comes what could not be read.
+    std::vector<BigItem> scan(const Progress& progress = {}, MeasuredFolders* known = nullptr,
+                              UnreadThings* unread = nullptr) const;
 
     /// Refuses what the guard refuses. Nothing is measured again: a moved item frees its size as it
     /// was found.

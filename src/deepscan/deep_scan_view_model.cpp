@@ -14,7 +14,7 @@ namespace tidewell {
 namespace {
 
 struct Found {
-    std::vector<std::string> silentMounts;
+    LeftOut leftOut;
     std::vector<BigItem> items;
 };
 
@@ -54,16 +54,18 @@ Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
             background([walk = scanner_, installers = installerScanner_,
                         containers = containerScanner_, progress = progressHop(), known] {
                 auto silent = findSilentMounts();
-                auto walked = walk.scan(progress, known.get());
+                UnreadThings unread;
+                auto walked = walk.scan(progress, known.get(), &unread);
                 auto foundInstallers = installers.scan(walked);
                 auto foundContainers = containers.scan();
                 auto merged =
                     mergeDeepScan(std::move(walked), std::move(foundInstallers),
                                   std::move(foundContainers), containers.walkExclusionPaths());
-                return Found{.silentMounts = std::move(silent), .items = std::move(merged)};
+                return Found{.leftOut = {std::move(silent), unread.count()},
+                             .items = std::move(merged)};
             });
         auto found = co_await scanning;
-        silentMounts = std::move(found.silentMounts);
+        leftOut = std::move(found.leftOut);
         items = std::move(found.items);
         phase = Phase::list;
     } catch (...) {

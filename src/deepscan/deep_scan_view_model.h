@@ -11,6 +11,7 @@
 #include "deepscan/big_item_scanner.h"
 #include "deepscan/container_scanner.h"
 #include "deepscan/installer_scanner.h"
+#include "kit/left_out.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -45,8 +46,7 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     /// The share of the walk's candidates that are measured; installers and containers come after
     /// the walk and move nothing.
     Published<double> scanProgress{willChange, 0.0};
-    /// The mounts that the last scan passed over, since they did not answer.
-    Published<std::vector<std::string>> silentMounts{willChange};
+    Published<LeftOut> leftOut{willChange};  ///< of the last scan
     /// How the last move to the Trash ended, until the next scan.
     Published<std::optional<BigItemScanner::TrashOutcome>> lastResult{willChange};
 

@@ -23,6 +23,7 @@ constexpr Words macOSWords{
 
     .readingApplications = "reading /Applications…",
     .askingTools = "asking simctl and tmutil…",
+    .couldNotBeRead = {},
     .reveal = "Reveal in Finder",
     .notMovedAdvice = "It may need Full Disk Access or admin rights.",
 
@@ -57,6 +58,7 @@ constexpr Words linuxWords{
 
     .readingApplications = "reading your applications…",
     .askingTools = "asking your system's own tools…",
+    .couldNotBeRead = "could not be read.",
     .reveal = "Reveal in Files",
     .notMovedAdvice = "It may be in use, or need admin rights.",
 

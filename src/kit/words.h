@@ -23,7 +23,8 @@ struct Words {
 
     std::string_view readingApplications;
     std::string_view askingTools;
-    std::string_view reveal;  ///< shows an entry in the file manager
+    std::string_view couldNotBeRead;  ///< behind a number of folders; empty where it is not said
+    std::string_view reveal;          ///< shows an entry in the file manager
     std::string_view notMovedAdvice;
 
     std::string_view memoryFootnote;

@@ -8,8 +8,6 @@ namespace tidewell {
 
 namespace {
 
-constexpr std::size_t mostThings = 4096;
-
 constexpr std::uint64_t unknownBit = 1;
 
 std::uint64_t nextUnknown() {
@@ -31,15 +29,17 @@ void UnreadThings::addUnknown() {
 
 void UnreadThings::add(const UnreadThings& others) {
     for (const auto thing : others.things_) addThing(thing);
+    isOverfull_ = isOverfull_ || others.isOverfull_;
 }
 
 void UnreadThings::addThing(std::uint64_t thing) {
     const auto place = std::ranges::lower_bound(things_, thing);
     if (place != things_.end() && *place == thing) return;
-    if (things_.size() < mostThings) {
+    if (things_.size() + 1 < most) {
         things_.insert(place, thing);
     } else {
         things_ = {nextUnknown()};
+        isOverfull_ = true;
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,9 @@ namespace tidewell {
 /// memory: beyond that it is like nothing else.
 class UnreadThings {
  public:
+    /// From so many on they are not told apart any more.
+    static constexpr std::size_t most = 4096;
+
     /// Something that is known by a place and a name, both only compared.
     void add(std::uint64_t place, std::string_view name);
     /// Something of which no more is known; it counts as different from all others.
@@ -18,6 +22,7 @@ class UnreadThings {
     void add(const UnreadThings& others);
 
     bool isEmpty() const { return things_.empty(); }
+    std::size_t count() const { return isOverfull_ ? most : things_.size(); }
     /// Whether others has all that is in here.
     bool areAmong(const UnreadThings& others) const;
 
@@ -25,6 +30,7 @@ class UnreadThings {
     void addThing(std::uint64_t thing);
 
     std::vector<std::uint64_t> things_;  ///< ascending
+    bool isOverfull_ = false;
 };
 
 }  // namespace tidewell

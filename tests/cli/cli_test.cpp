@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <future>
@@ -10,6 +11,7 @@
 #include "support/program_run.h"
 #include "support/running_program.h"
 #include "support/sample_machine.h"
+#include "support/separate_process.h"
 
 namespace tidewell {
 
@@ -143,6 +145,25 @@ TEST(CommandLine, StopsACleanBehindTheItemInHandOnAFirstInterrupt) {
     }
     EXPECT_GT(left, 0);
     EXPECT_EQ(*at(document, "freedBytes").integer(), megabyte + (count - left) * 10 * 4096);
+}
+
+TEST(CommandLine, TellsHowMuchCouldNotBeReadWhereThatIsTold) {
+    test::expectInSeparateProcess([] {
+        test::becomeOrdinaryUser();
+        for (const auto system : {System::macOS, System::linux}) {
+            const SampleMachine machine(system);
+            machine.file("~/.npm/_cacache/open/one");
+            for (const auto* closed : {"~/.npm/_cacache/a", "~/.gradle/caches"}) {
+                machine.folder(closed);
+                ASSERT_EQ(::chmod(machine.path(closed).c_str(), 0), 0);
+            }
+            for (const auto* command : {"clean", "dev", "deep-scan"})
+                EXPECT_EQ(
+                    run(machine, {command}).errors,
+                    system == System::macOS ? "" : "tidewell-cli: 2 folders could not be read.\n")
+                    << command;
+        }
+    });
 }
 
 TEST(CommandLine, CleansExactlyWhatTheCallPicks) {

@@ -171,6 +171,7 @@ TEST(DiskUsage, LeavesOutWhatItMayNotRead) {
         ASSERT_EQ(::chmod(machine.path("~/t/listed").c_str(), 0400), 0);
         EXPECT_EQ(allocatedSize(machine.path("~/t")), block);
         EXPECT_EQ(allocatedSize(machine.path("~/t/closed")), 0);
+        EXPECT_EQ(diskUsage(machine.path("~/t")).unread.count(), 2U);
     });
 }
 

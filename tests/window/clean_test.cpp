@@ -115,5 +115,18 @@ TEST_F(CleanTest, WhatStaysBehindIsNamed) {
     EXPECT_TRUE(shows("All done")) << "nothing was freed";
 }
 
+TEST_F(CleanTest, WhatWasLeftOutIsSaidWhetherThereIsAListOrNot) {
+    start();
+    view->mode = Mode::clean;
+    view->cleanupModel->leftOut = LeftOut{.silentMounts = {"/a"}};
+    view->cleanupModel->phase = Phase::review;
+    ASSERT_TRUE(comesTo([&] { return shows("/a does not answer and was left out."); }));
+    click("Scan Again");
+    ASSERT_TRUE(comesTo([&] { return shows(chip("npm-cache")); }));
+    EXPECT_FALSE(shows("/a does not answer and was left out."));
+    view->cleanupModel->leftOut = LeftOut{.silentMounts = {"/a", "/b"}};
+    EXPECT_TRUE(comesTo([&] { return shows("/a, /b do not answer and were left out."); }));
+}
+
 }  // namespace
 }  // namespace tidewell::test

@@ -108,6 +108,7 @@ FocusScope {
             anchors.rightMargin: root.margin - 12
             anchors.top: categories.top
             anchors.bottom: bar.top
+            anchors.bottomMargin: leftOut.height
             focus: !root.screen.isEmpty
             symbol: root.screen.viewingSymbol
             title: root.screen.viewingTitle
@@ -139,5 +140,16 @@ FocusScope {
             onBack: root.screen.back()
             onCleanUp: root.screen.cleanUp()
         }
+    }
+
+    LeftOutNote {
+        id: leftOut
+        anchors.left: parent.left
+        anchors.leftMargin: root.screen.isEmpty ? root.margin : divider.x + Theme.gapLarge
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: root.screen.isEmpty ? Theme.gapWide : bar.height
+        text: root.screen.leftOutNote
     }
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "kit/byte_text.h"
-#include "kit/silent_mounts_note.h"
+#include "kit/left_out.h"
 
 namespace tidewell {
 
@@ -112,7 +112,7 @@ ReviewContent reviewContent(const CleanupViewModel& model, std::optional<Cleanup
         .pickedLine =
             std::to_string(selected) + " of " + std::to_string(model.items().size()) + " picked",
         .freeAfterLine = byteText(addSaturating(freeBytes, selectedBytes)) + " free after this",
-        .leftOutNote = silentMountsNote(model.silentMounts()),
+        .leftOutNote = leftOutNote(model.leftOut(), model.servedSystem()),
         .isEmpty = model.items().empty(),
         .canClean = selected > 0,
     };

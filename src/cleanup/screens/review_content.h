@@ -86,7 +86,7 @@ struct ReviewContent {
     std::optional<std::string> selectedSize;  ///< absent while nothing is picked
     std::string pickedLine;                   ///< "2 of 5 picked"
     std::string freeAfterLine;                ///< "120 GB free after this"
-    std::optional<std::string> leftOutNote = std::nullopt;  ///< of mounts that do not answer
+    std::optional<std::string> leftOutNote = std::nullopt;
     bool isEmpty = false;
     bool canClean = false;
 };

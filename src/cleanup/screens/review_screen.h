@@ -30,6 +30,7 @@ class ReviewScreen final : public Screen {
     Q_PROPERTY(QString selectedSize READ selectedSize NOTIFY changed)
     Q_PROPERTY(QString pickedLine READ pickedLine NOTIFY changed)
     Q_PROPERTY(QString freeAfterLine READ freeAfterLine NOTIFY changed)
+    Q_PROPERTY(QString leftOutNote READ leftOutNote NOTIFY changed)
     Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT)
     Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT)
     Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT)
@@ -61,6 +62,8 @@ class ReviewScreen final : public Screen {
     QString selectedSize() const { return toText(content_.selectedSize.value_or("")); }
     QString pickedLine() const { return toText(content_.pickedLine); }
     QString freeAfterLine() const { return toText(content_.freeAfterLine); }
+    /// Empty where nothing was left out.
+    QString leftOutNote() const { return toText(content_.leftOutNote.value_or("")); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
     QString emptyLine() const { return toText(wordsOf(model_->servedSystem()).nothingToClean); }
     static QString emptySymbol() { return toText(nothingToCleanSymbol); }

@@ -87,6 +87,7 @@ Outcome runClean(const Context& context, const CleanCall& call) {
     } else if (model->phase() == CleanupViewModel::Phase::done) {
         printResult(model);
     }
+    tellUnread(model->leftOut(), context.host.system);
     return status;
 }
 

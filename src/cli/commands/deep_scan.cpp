@@ -130,6 +130,7 @@ Outcome runDeepScan(const Context& context, const DeepScanCall&) {
     } else {
         printList(*model);
     }
+    tellUnread(model->leftOut(), model->system);
     return ExitStatus::done;
 }
 

@@ -91,6 +91,7 @@ Outcome runDev(const Context& context, const DevCall& call) {
         printLine(inked(devDoneTitle(*model), Ink::good));
         printFailures(model->failedTitles(), model->servedSystem());
     }
+    tellUnread(model->leftOut(), context.host.system);
     return status;
 }
 

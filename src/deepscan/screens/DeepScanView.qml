@@ -75,7 +75,7 @@ FocusScope {
             anchors.leftMargin: root.margin
             anchors.rightMargin: root.margin
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: Theme.gapLarge
+            anchors.bottomMargin: Math.max(Theme.gapLarge, leftOut.height + Theme.gapSmall)
             visible: root.screen.hasBanner
             symbol: root.screen.bannerSymbol
             tint: root.screen.bannerColor
@@ -144,6 +144,7 @@ FocusScope {
             anchors.top: advice.bottom
             anchors.topMargin: Theme.gapSmall
             anchors.bottom: parent.bottom
+            anchors.bottomMargin: leftOut.height > 0 ? leftOut.height + Theme.gapSmall : 0
             roomBelow: banner.room
             model: root.screen.cards
             Accessible.name: root.screen.bucketTitle
@@ -170,6 +171,17 @@ FocusScope {
                 onCopied: root.screen.copyCommand(index)
             }
         }
+    }
+
+    LeftOutNote {
+        id: leftOut
+        anchors.left: parent.left
+        anchors.leftMargin: root.screen.isList ? divider.x + Theme.gapLarge : root.margin
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.gapSmall
+        text: root.screen.isList || root.screen.foundNothing ? root.screen.leftOutNote : ""
     }
 
     AlertDialog {

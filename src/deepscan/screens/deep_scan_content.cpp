@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "kit/byte_text.h"
-#include "kit/silent_mounts_note.h"
+#include "kit/left_out.h"
 #include "kit/words.h"
 
 namespace tidewell {
@@ -270,7 +270,7 @@ DeepScanContent deepScanContent(const DeepScanViewModel& model, const DeepScanSc
     content.header = "Deep Scan";
     fillPage(content, model, state);
     if (state.pendingTrash) content.confirmation = trashConfirmation(*state.pendingTrash);
-    content.leftOutNote = silentMountsNote(model.silentMounts());
+    content.leftOutNote = leftOutNote(model.leftOut(), model.system);
     if (model.lastResult()) content.banner = trashBanner(*model.lastResult(), model.system);
     if (model.lastPutBack()) {
         const auto undoLabel = content.banner ? content.banner->undoLabel : std::string_view();

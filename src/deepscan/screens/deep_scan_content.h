@@ -147,7 +147,7 @@ struct DeepScanContent {
     double progress = 0;
     std::string_view scanLabel;              ///< empty while scanning: there is no such button
     std::string summary;                     ///< of the list alone, as are the next three
-    std::optional<std::string> leftOutNote;  ///< of mounts that do not answer, on each page
+    std::optional<std::string> leftOutNote;  ///< on each page
     std::vector<RiskRow> rail;
     std::string_view bucketSubtitle;
     std::vector<BigItemCard> cards;

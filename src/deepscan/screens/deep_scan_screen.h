@@ -34,6 +34,7 @@ class DeepScanScreen final : public Screen {
     Q_PROPERTY(QString bucketTitle READ bucketTitle NOTIFY changed)
     Q_PROPERTY(QString bucketSubtitle READ bucketSubtitle NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* cards READ cards CONSTANT)
+    Q_PROPERTY(QString leftOutNote READ leftOutNote NOTIFY changed)
     Q_PROPERTY(bool hasBanner READ hasBanner NOTIFY changed)
     Q_PROPERTY(QString bannerSymbol READ bannerSymbol NOTIFY changed)
     Q_PROPERTY(QColor bannerColor READ bannerColor NOTIFY changed)
@@ -63,6 +64,8 @@ class DeepScanScreen final : public Screen {
     QString bucketTitle() const;
     QString bucketSubtitle() const { return toText(content_.bucketSubtitle); }
     QAbstractItemModel* cards() { return &cards_; }
+    /// Empty where nothing was left out.
+    QString leftOutNote() const { return toText(content_.leftOutNote.value_or("")); }
     bool hasBanner() const { return content_.banner.has_value(); }
     QString bannerSymbol() const { return toText(banner_.symbol); }
     QColor bannerColor() const { return toQColor(banner_.color); }

@@ -117,6 +117,7 @@ FocusScope {
             anchors.rightMargin: root.margin - 12
             anchors.top: parent.top
             anchors.bottom: bar.top
+            anchors.bottomMargin: leftOut.height
             visible: !root.screen.isViewingModels
             focus: visible && !root.screen.isEmpty
             symbol: root.screen.viewingSymbol
@@ -154,6 +155,7 @@ FocusScope {
             anchors.top: modelsLine.bottom
             anchors.topMargin: Theme.gapSmall
             anchors.bottom: bar.top
+            anchors.bottomMargin: leftOut.height
             visible: root.screen.isViewingModels
             model: root.screen.models
             Accessible.name: root.screen.viewingTitle
@@ -185,5 +187,16 @@ FocusScope {
             cleanUpLabel: root.screen.cleanUpLabel
             onCleanUp: root.screen.cleanUp()
         }
+    }
+
+    LeftOutNote {
+        id: leftOut
+        anchors.left: parent.left
+        anchors.leftMargin: root.screen.isEmpty ? root.margin : divider.x + Theme.gapLarge
+        anchors.right: parent.right
+        anchors.rightMargin: root.margin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: root.screen.isEmpty ? Theme.gapWide : bar.height
+        text: root.screen.leftOutNote
     }
 }

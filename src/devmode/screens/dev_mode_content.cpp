@@ -174,7 +174,8 @@ DevReviewContent devReviewContent(const DevModeViewModel& model) {
     return {.headline = "Found " + byteText(model.itemsBytes()) + " to clear.",
             .pickedLine = std::to_string(selected.size()) + " picked",
             .selectedSize = byteText(totalBytes(selected)),
-            .canClean = !selected.empty()};
+            .canClean = !selected.empty(),
+            .leftOutNote = leftOutNote(model.leftOut(), model.servedSystem())};
 }
 
 std::string devDoneTitle(const DevModeViewModel& model) {

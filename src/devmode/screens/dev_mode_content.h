@@ -66,6 +66,7 @@ struct DevReviewContent {
     std::string pickedLine;    ///< "3 picked"
     std::string selectedSize;  ///< "2.1 GB"
     bool canClean = false;
+    std::optional<std::string> leftOutNote = std::nullopt;
 };
 
 DevReviewContent devReviewContent(const DevModeViewModel& model);

@@ -39,6 +39,7 @@ class DevModeScreen final : public Screen {
     Q_PROPERTY(double cleanProgress READ cleanProgress NOTIFY changed)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
+    Q_PROPERTY(QString leftOutNote READ leftOutNote NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* rail READ rail CONSTANT)
     Q_PROPERTY(QString viewingTitle READ viewingTitle NOTIFY changed)
     Q_PROPERTY(QString viewingSymbol READ viewingSymbol NOTIFY changed)
@@ -90,6 +91,8 @@ class DevModeScreen final : public Screen {
     double scanProgress() const { return model_->scanProgress(); }
     double cleanProgress() const { return model_->cleanProgress(); }
     bool isEmpty() const { return groups_.empty(); }
+    /// Empty where nothing was left out.
+    QString leftOutNote() const { return toText(review_.leftOutNote.value_or("")); }
     QString headline() const { return toText(review_.headline); }
     QAbstractItemModel* rail() { return &rail_; }
     QString viewingTitle() const { return viewing() ? toText(viewing()->label) : QString(); }

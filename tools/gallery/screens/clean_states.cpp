@@ -36,6 +36,12 @@ const std::vector<ScreenState> states = {
          sample.view->cleanupModel->selectAll(Tick::off);
          sample.view->mode = Mode::clean;
      }},
+    {"clean-review-left-out",
+     [](Sample& sample) {
+         findJunk(*sample.view);
+         sample.view->cleanupModel->leftOut = someLeftOut();
+         sample.view->mode = Mode::clean;
+     }},
     {"clean-review-empty",
      [](Sample& sample) {
          sample.view->cleanupModel->phase = Phase::review;

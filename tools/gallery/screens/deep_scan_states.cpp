@@ -27,6 +27,11 @@ const std::vector<ScreenState> states = {
      }},
     {"deep-scan-safe", find},
     {"deep-scan-containers", find, "Containers & VMs"},
+    {"deep-scan-left-out",
+     [](Sample& sample) {
+         find(sample);
+         sample.view->deepScanModel->leftOut = someLeftOut();
+     }},
     {"deep-scan-moved",
      [](Sample& sample) {
          find(sample);

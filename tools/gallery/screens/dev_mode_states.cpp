@@ -26,6 +26,11 @@ const std::vector<ScreenState> states = {
      }},
     {"dev-mode-review", find},
     {"dev-mode-build-output", find, "Build output"},
+    {"dev-mode-left-out",
+     [](Sample& sample) {
+         find(sample);
+         sample.view->devModeModel->leftOut = someLeftOut();
+     }},
     {"dev-mode-models", find, "Large AI models"},
     {"dev-mode-nothing", [](Sample& sample) { show(sample, Phase::review); }},
     {"dev-mode-cleaning",

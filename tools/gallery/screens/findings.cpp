@@ -106,6 +106,10 @@ void findDevItems(const ContentView& view) {
     view.devModeModel->phase = DevModeViewModel::Phase::review;
 }
 
+LeftOut someLeftOut() {
+    return {.silentMounts = {"/home/ada/Server"}, .unreadFolders = 3};
+}
+
 void findApps(const ContentView& view) {
     const auto& host = view.host();
     std::vector<InstalledApp> apps = {

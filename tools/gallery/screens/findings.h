@@ -12,6 +12,8 @@ void findJunk(const ContentView& view);
 void findDevItems(const ContentView& view);
 void findApps(const ContentView& view);
 void findBigItems(const ContentView& view);
+/// What a scan could have had to pass over.
+LeftOut someLeftOut();
 void findAdvisorWins(const ContentView& view);
 
 }  // namespace tidewell::gallery
