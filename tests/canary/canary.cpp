@@ -68,8 +68,9 @@ std::string copyForAll(const std::string& program, const std::string& folder) {
 
 Findings tryMachine(Trial& trial, unsigned seed, bool mounts) {
     const bool isSuperuser = mounts && seed % 3 == 0;
-    static const auto places = trial.cataloguePaths();
-    RandomMachine random(seed, isSuperuser ? User::superuser : User::ordinary, places);
+    const auto system = seed % 2 == 0 ? tidewell::System::linux : tidewell::System::macOS;
+    RandomMachine random(seed, system, isSuperuser ? User::superuser : User::ordinary,
+                         trial.cataloguePaths(system));
     auto findings = trial.look(random);
     for (int i = 0; i < 2 && findings.empty(); ++i) {
         const auto verb = random.chance.oneOf(verbs);
@@ -81,8 +82,8 @@ Findings tryMachine(Trial& trial, unsigned seed, bool mounts) {
 
 bool hasProvenSomething(const Trial::Tally& tally, unsigned machines) {
     return machines < 50 ||
-           (tally.removedEntries > 0 && tally.trashed > 0 && tally.uninstalled > 0 &&
-            tally.swaps > 0 && tally.thefts > 0 && tally.kills > 0);
+           (tally.removedEntries > 0 && tally.trashed > 0 && tally.putBack > 0 &&
+            tally.uninstalled > 0 && tally.swaps > 0 && tally.thefts > 0 && tally.kills > 0);
 }
 
 }  // namespace
@@ -108,8 +109,8 @@ int main(int count, char** words) {
     const auto& tally = trial.tally();
     std::cout << "canary: removed " << tally.removedEntries << " entries with " << tally.freedBytes
               << " bytes, moved " << tally.trashed << " items and " << tally.uninstalled
-              << " applications to the Trash, met " << tally.swaps << " swaps and " << tally.thefts
-              << " thefts, was killed " << tally.kills << " times; " << bad
-              << " machines with losses\n";
+              << " applications to the Trash, put " << tally.putBack << " back, met " << tally.swaps
+              << " swaps and " << tally.thefts << " thefts, was killed " << tally.kills
+              << " times; " << bad << " machines with losses\n";
     return bad == 0 && hasProvenSomething(tally, call.machines) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -7,32 +7,41 @@
 
 namespace tidewell::test {
 
-/// Another program that takes a folder away while it is being emptied, to where nothing may go, and
-/// puts another one in its place. Waits for its moment from its making to its end.
+/// Another program that takes a folder away as soon as something in it is removed, to where nothing
+/// may go. Waits for its moment from its making to its end.
 class Kidnapper {
  public:
-    /// `prey` holds `size` files and nothing else; `refuge` is a folder of the user's own on the
-    /// same disk. Nothing happens without a prey.
-    Kidnapper(std::string prey, std::size_t size, const std::string& refuge);
+    enum class Then {
+        putAnother,  ///< in its place
+        bringBack,   ///< at once
+    };
+
+    /// `prey` holds files and nothing else; `refuge` is a folder on the same disk.
+    Kidnapper(std::string prey, const std::string& refuge, Then then);
     Kidnapper(const Kidnapper&) = delete;
     Kidnapper& operator=(const Kidnapper&) = delete;
     ~Kidnapper() { stop(); }
 
     void stop();
     /// After the end: whether it was taken away when a part of it was gone.
-    bool hasStruck() const { return !taken_.empty(); }
-    /// After the end: how much of it went after that, beyond what was under way at that moment.
+    bool hasStruck() const { return hasStruck_; }
+    /// After the end: how much of it went after that, beyond what was under way at that moment. Of
+    /// what was brought back all may go.
     std::size_t losses() const;
-    /// What the folder is called in its refuge, of which a mount may show another name.
-    static constexpr const char* takenName = "/taken away";
+    /// Whether an entry is the refuge, or what was taken there, by whatever name a mount shows it.
+    bool changes(const std::string& path) const;
 
  private:
     void lieInWait();
 
+    void strike();
+
     const std::string prey_;
-    const std::size_t size_;
     const std::string refuge_;
-    std::set<std::string> taken_;  ///< the names that were left when it was taken
+    const Then then_;
+    int watch_ = -1;
+    bool hasStruck_ = false;
+    std::set<std::string> taken_;  ///< the names that were left when it was taken for good
     std::atomic<bool> isOver_ = false;
     std::thread thread_;
 };

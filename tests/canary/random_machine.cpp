@@ -1,5 +1,8 @@
 #include "random_machine.h"
 
+#include <fcntl.h>
+#include <linux/btrfs.h>
+#include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,6 +19,16 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr unsigned nobody = 65534;
+
+/// Nothing happens on a disk that has no such.
+void makeSubvolume(const std::string& path) {
+    const int parent = ::open(fs::path(path).parent_path().c_str(), O_RDONLY | O_CLOEXEC);
+    btrfs_ioctl_vol_args call = {};
+    fs::path(path).filename().string().copy(call.name, sizeof call.name - 1);
+    if (::ioctl(parent, BTRFS_IOC_SUBVOL_CREATE, &call) == 0)
+        std::ofstream(path + "/in a subvolume") << "made again";
+    ::close(parent);
+}
 
 /// What a link may lead to, as it is written into the link. "%" stands for the home folder.
 constexpr std::array<const char*, 12> linkTargets = {
@@ -38,44 +51,6 @@ constexpr std::array<const char*, 10> oddNames = {
     "caf\xc3\xa9",   "cafe\xcc\x81",   "%s%n",
 };
 
-/// The user's own, at places and under names that resemble what is cleaned.
-constexpr std::array<const char*, 16> treasurePaths = {
-    "~/Documents/Thesis/thesis.tex",
-    "~/Documents/Thesis/figures/one.pdf",
-    "~/Documents/Thesis/caches/results.csv",
-    "~/Documents/build/my only novel.txt",
-    "~/Documents/target/goals 2027.txt",
-    "~/Documents/caches/list of caches.txt",
-    "~/Pictures/Photos Library.photoslibrary/originals/1.heic",
-    "~/Desktop/notes.txt",
-    "~/Desktop/build/garden shed.txt",
-    "~/Movies/birthday.mov",
-    "~/Downloads/invoice.pdf",
-    "~/Library/Mail/V10/inbox.mbox",
-    "~/Library/Keychains/login.keychain-db",
-    "~/Library/Caches/CloudKit/records.db",
-    "~/Library/Application Support/AddressBook/people.db",
-    "/Users/Shared/family.txt",
-};
-
-struct Key {
-    const char* path;  ///< a protected one
-    const char* file;  ///< below it, or nothing if it is a file itself
-};
-
-constexpr std::array<Key, 10> keys = {{
-    {"~/.ssh", "/id_ed25519"},
-    {"~/.aws", "/credentials"},
-    {"~/.gnupg", "/private.key"},
-    {"~/.netrc", ""},
-    {"~/.config/gh", "/hosts.yml"},
-    {"~/.cache/huggingface/token", ""},
-    {"~/.cargo/credentials.toml", ""},
-    {"~/.gradle/gradle.properties", ""},
-    {"~/.android/adbkey", ""},
-    {"~/.ollama/id_ed25519", ""},
-}};
-
 constexpr std::array<const char*, 5> projectHomes = {"~/Code", "~/Documents/work", "~/Desktop",
                                                      "~/src/deep/er", "~/Sites"};
 constexpr std::array<const char*, 6> artifactNames = {"node_modules", "build", "target",
@@ -84,17 +59,19 @@ constexpr std::array<const char*, 3> projectMarkers = {"package.json", "Makefile
 
 }  // namespace
 
-RandomMachine::RandomMachine(unsigned seed, User wantedUser,
+RandomMachine::RandomMachine(unsigned seed, System system, User wantedUser,
                              const std::vector<std::string>& cataloguePaths)
-    : user(wantedUser), chance(seed) {
+    : ground(groundOf(system)), user(wantedUser), chance(seed), machine(system) {
     if (chance.percent(25)) keepDocumentsElsewhere();
+    if (system == System::linux)
+        machine.text("~/.config/user-dirs.dirs", "XDG_PICTURES_DIR=\"$HOME/Bilder\"\n");
     layOutTreasures();
     layOutKeys();
     layOutProjects();
     layOutBigItems();
     layOutApplications();
     layOutCaches(cataloguePaths);
-    if (user == User::ordinary) giveToUser();
+    if (user == User::ordinary) giveToUser(machine.root());
     if (user == User::ordinary && chance.percent(5))
         fs::permissions(machine.home(), fs::perms(0555));
     if (user == User::superuser) mountSome();
@@ -113,30 +90,31 @@ void RandomMachine::keepDocumentsElsewhere() {
 }
 
 void RandomMachine::layOutTreasures() {
-    for (const char* path : treasurePaths) keep(path, std::string("only copy of ") + path);
+    for (const char* path : ground.treasures) keep(path, std::string("only copy of ") + path);
 }
 
 /// Some where they belong, some links to where people really keep them: beside caches too.
 void RandomMachine::layOutKeys() {
     constexpr std::array<const char*, 4> places = {"~/Documents/Vault/", "~/Vault/",
                                                    "~/.npm/vault/", "~/.gradle/caches/vault/"};
-    for (const auto& [path, file] : keys) {
+    for (const auto& [name, file] : ground.keys) {
+        const auto path = std::string("~/") + name;
         if (chance.percent(30)) continue;
         const bool isFolder = *file != '\0';
         if (isFolder && chance.percent(20)) {
             // The folder stays, and what it holds is a link to a place among the caches.
-            const auto place = chance.oneOf(places) + std::to_string(chance.below(1000)) + file;
-            keep(place, std::string("secret of ") + path);
-            machine.link(path + std::string(file), machine.path(place));
-            treasures.push_back(machine.path(path + std::string(file)));
+            const auto place = chance.oneOf(places) + std::to_string(treasures.size()) + file;
+            keep(place, "secret of " + path);
+            machine.link(path + file, machine.path(place));
+            treasures.push_back(machine.path(path + file));
             continue;
         }
         if (chance.percent(60)) {
-            keep(path + std::string(file), std::string("secret of ") + path);
+            keep(path + file, "secret of " + path);
             continue;
         }
-        const auto place = chance.oneOf(places) + std::to_string(chance.below(1000));
-        keep(place + file, std::string("secret of ") + path);
+        const auto place = chance.oneOf(places) + std::to_string(treasures.size());
+        keep(place + file, "secret of " + path);
         machine.link(path, machine.path(place));
         treasures.push_back(machine.path(path));
     }
@@ -146,19 +124,37 @@ void RandomMachine::layOutCaches(const std::vector<std::string>& cataloguePaths)
     // A cache that is there on every machine, so that each has something to clean.
     machine.file("~/.npm/_cacache/one", 64 * kilobyte);
     fill(machine.path("~/.npm/_cacache"), 3);
-    if (chance.percent(40)) layOutPrey();
-    for (std::size_t i = 0; i < 14; ++i) layOutCache(chance.oneOf(cataloguePaths));
-    for (const char* swept : {"~/.cache", "~/Library/Caches"})
+    for (std::size_t i = 0; i < 14; ++i) layOutCache(placeOf(chance.oneOf(cataloguePaths)));
+    for (const char* swept : ground.sweptFolders)
         for (std::size_t i = chance.below(4); i > 0; --i)
             layOutCache(swept + std::string("/com.example.") + std::to_string(chance.below(99)));
-    fill(machine.path("/var/folders/zz/ada/T"), 2);
+    fill(machine.path(ground.scratch), 2);
+    // A volume of its own that no table of mounts tells of, where the disk has such.
+    makeSubvolume(machine.path("~/.npm/_cacache/subvolume"));
 }
 
-/// Large enough that somebody can take it away while it is emptied.
-void RandomMachine::layOutPrey() {
-    prey = machine.path("~/.npm/_cacache/prey");
+std::string RandomMachine::layOutPrey() const {
+    const auto prey = machine.path("~/.npm/_cacache/prey");
     fs::create_directories(prey);
     for (std::size_t i = 0; i < preySize; ++i) std::ofstream(prey + "/" + std::to_string(i));
+    if (user == User::ordinary) giveToUser(prey);
+    return prey;
+}
+
+/// With the base folders' usual places for their names, and names for what stands for any.
+std::string RandomMachine::placeOf(std::string cataloguePath) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 4> places = {{
+        {"{cache}", "~/.cache"},
+        {"{config}", "~/.config"},
+        {"{data}", "~/.local/share"},
+        {"{state}", "~/.local/state"},
+    }};
+    for (const auto& [token, place] : places)
+        if (cataloguePath.starts_with(token)) cataloguePath.replace(0, token.size(), place);
+    for (auto star = cataloguePath.find('*'); star != std::string::npos;
+         star = cataloguePath.find('*', star))
+        cataloguePath.replace(star, 1, chance.percent(50) ? "Default" : "one");
+    return cataloguePath;
 }
 
 void RandomMachine::layOutCache(const std::string& place) {
@@ -218,10 +214,12 @@ void RandomMachine::layOutBigItems() {
     // Names that are taken in the Trash already.
     for (const char* taken : {"Tetris", "Paint 3.dmg", "Notes.app", "com.example.notes.plist"})
         if (chance.percent(50))
-            machine.text(std::string("~/.Trash/") + taken, "thrown away earlier");
+            machine.text(ground.trash + std::string("/") + taken, "thrown away earlier");
 }
 
 void RandomMachine::layOutApplications() {
+    machine.folder("~/Applications");
+    if (ground.system != System::macOS) return;
     machine.application("/Applications/Notes.app",
                         {{"CFBundleName", "Notes"}, {"CFBundleIdentifier", "com.example.notes"}});
     machine.application(
@@ -249,13 +247,15 @@ void RandomMachine::mountSome() {
         if (chance.percent(50) || machine.has(place)) continue;
         machine.folder(place);
         const auto where = machine.path(place);
-        if (chance.percent(60) ? !mountDocuments(where)
-                               : ::mount("none", where.c_str(), "tmpfs", 0, "size=1m") != 0)
-            continue;
+        if (!(chance.percent(60) ? mountDocuments(where) : mountVolume(where))) continue;
         mounts.push_back(where);
         std::ofstream(where + "/on the other disk") << "kept there";
         treasures.push_back(where + "/on the other disk");
     }
+}
+
+bool RandomMachine::mountVolume(const std::string& where) {
+    return ::mount("none", where.c_str(), "tmpfs", 0, "size=1m") == 0;
 }
 
 /// All of them, or a part that no other name tells apart from what is expected there. The projects
@@ -265,7 +265,7 @@ bool RandomMachine::mountDocuments(const std::string& where) {
     const auto real = machine.path(source);
     if (::mount(real.c_str(), where.c_str(), nullptr, MS_BIND, nullptr) != 0) return false;
     otherNames.emplace_back(where, fs::canonical(real).string());
-    for (const std::string path : treasurePaths)
+    for (const std::string path : ground.treasures)
         if (path.starts_with(source + "/")) treasures.push_back(where + path.substr(source.size()));
     return true;
 }
@@ -278,11 +278,11 @@ void RandomMachine::fillDiskOfSettings() {
     std::ofstream(folder + "/somebody's") << std::string(8192, 'x');
 }
 
-void RandomMachine::giveToUser() const {
+void RandomMachine::giveToUser(const std::string& folder) const {
     if (::geteuid() != 0) return;
     const auto give = [](const fs::path& path) { ::lchown(path.c_str(), nobody, nobody); };
-    give(machine.root());
-    for (const auto& entry : fs::recursive_directory_iterator(machine.root())) give(entry.path());
+    give(folder);
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) give(entry.path());
 }
 
 void RandomMachine::keep(std::string_view machinePath, std::string_view content) {
@@ -305,7 +305,7 @@ void RandomMachine::addEntry(const std::string& path, int levels) {
         linkToSomewhere(path);
     } else if (kind < 63) {
         std::error_code ignored;
-        fs::create_hard_link(machine.path(chance.oneOf(treasurePaths)), path, ignored);
+        fs::create_hard_link(machine.path(chance.oneOf(ground.treasures)), path, ignored);
     } else if (kind < 68) {
         ::mkfifo(path.c_str(), 0644);
     } else {

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "ground.h"
 #include "support/sample_machine.h"
 
 namespace tidewell::test {
@@ -38,12 +39,19 @@ enum class User {
 /// what must stay.
 struct RandomMachine {
     /// `cataloguePaths` are places that the program cleans, as its catalogue has them.
-    RandomMachine(unsigned seed, User wantedUser, const std::vector<std::string>& cataloguePaths);
+    RandomMachine(unsigned seed, System system, User wantedUser,
+                  const std::vector<std::string>& cataloguePaths);
     RandomMachine(const RandomMachine&) = delete;
     RandomMachine& operator=(const RandomMachine&) = delete;
     /// Takes the mounts away.
     ~RandomMachine();
 
+    /// Lays out a folder in a cache with preySize files and nothing else, large enough that
+    /// somebody can take it away while it is emptied, and says where.
+    std::string layOutPrey() const;
+    static constexpr std::size_t preySize = 2000;
+
+    const Ground& ground;
     User user;
     Chance chance;
     SampleMachine machine;
@@ -53,9 +61,6 @@ struct RandomMachine {
     std::vector<std::string> mounts;
     /// Places at which a folder is mounted that has another name on this disk as well.
     std::vector<std::pair<std::string, std::string>> otherNames;
-    /// A folder in a cache with so many files and nothing else; empty if there is none.
-    std::string prey;
-    static constexpr std::size_t preySize = 3000;
     /// How many descriptors the program may have open.
     int descriptors = 1024;
 
@@ -70,11 +75,12 @@ struct RandomMachine {
     void mountSome();
     bool mountDocuments(const std::string& where);
     void fillDiskOfSettings();
-    void giveToUser() const;
+    bool mountVolume(const std::string& where);
+    void giveToUser(const std::string& folder) const;
 
     void keep(std::string_view machinePath, std::string_view content);
-    void layOutPrey();
     void layOutCache(const std::string& place);
+    std::string placeOf(std::string cataloguePath);
     /// Fills a folder of the disk with so many levels of what folders hold, and worse.
     void fill(const std::string& folder, int levels);
     void addEntry(const std::string& path, int levels);

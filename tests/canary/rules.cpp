@@ -6,6 +6,7 @@
 #include <sstream>
 #include <utility>
 
+#include "platform/path_text.h"
 #include "platform/text.h"
 
 namespace tidewell::test {
@@ -13,30 +14,6 @@ namespace tidewell::test {
 namespace fs = std::filesystem;
 
 namespace {
-
-const char* const keyPaths[] = {
-    ".ssh",
-    ".aws",
-    ".gnupg",
-    ".kube",
-    ".netrc",
-    ".config/gh",
-    ".config/composer/auth.json",
-    ".composer/auth.json",
-    ".cache/huggingface/token",
-    ".cache/huggingface/stored_tokens",
-    ".ollama/id_ed25519",
-    ".ollama/id_ed25519.pub",
-    ".cargo/credentials",
-    ".cargo/credentials.toml",
-    ".gradle/gradle.properties",
-    ".docker/config.json",
-    ".android/adbkey",
-    ".android/debug.keystore",
-};
-
-const std::set<std::string> ownFolders = {"Desktop", "Documents", "Downloads", "Movies",
-                                          "Music",   "Pictures",  "Public",    "Sites"};
 
 const std::set<std::string> buildNames = {
     "node_modules", "Pods",        ".build",        ".dart_tool", ".next",  ".nuxt",
@@ -66,20 +43,11 @@ std::string realPathOf(const std::string& path) {
 
 }  // namespace
 
-Rules::Rules(const Snapshot& machine, const std::string& root, std::string home,
-             const Items& reviewed)
-    : root_(root), home_(std::move(home)) {
-    for (const char* name : keyPaths) {
-        const auto path = home_ + "/" + name;
-        std::error_code missing;
-        const auto target = fs::canonical(path, missing);
-        keys_.insert(path);
-        if (missing) continue;
-        keys_.insert(target.string());
-        keys_.insert(realPathOf(path));
-        addLinksBelow(target);
-    }
-    for (const auto& name : ownFolders) {
+Rules::Rules(const Ground& ground, const Snapshot& machine, const std::string& root,
+             std::string home, const Items& reviewed)
+    : ground_(ground), scratch_(root + ground.scratch), home_(std::move(home)) {
+    addKeys();
+    for (const std::string name : ground.ownFolders) {
         std::error_code missing;
         const auto real = fs::canonical(home_ + "/" + name, missing);
         if (!missing) own_.push_back(real.string());
@@ -110,6 +78,19 @@ bool Rules::mayGo(const std::string& path) const {
     return isReviewed && isOpen(path) && !isKey(path) && !holdsKey(path);
 }
 
+void Rules::addKeys() {
+    for (const auto& key : ground_.keys) {
+        const auto path = home_ + "/" + key.path;
+        std::error_code missing;
+        const auto target = fs::canonical(path, missing);
+        keys_.insert(path);
+        if (missing) continue;
+        keys_.insert(target.string());
+        keys_.insert(realPathOf(path));
+        addLinksBelow(target);
+    }
+}
+
 /// What a link in a folder of keys leads to is a key as well.
 void Rules::addLinksBelow(const std::string& folder) {
     std::error_code unreadable;
@@ -122,10 +103,21 @@ void Rules::addLinksBelow(const std::string& folder) {
 }
 
 bool Rules::isOpen(const std::string& path) const {
-    if (isIn(path, root_ + "/var/folders")) return true;
-    if (!isIn(path, home_)) return false;
+    if (isAtOrBelow(path, scratch_)) return true;
+    if (!isIn(path, home_) || isKeptInProfile(path)) return false;
     return std::ranges::all_of(own_, [&](const auto& folder) {
         return path != folder && (!isIn(path, folder) || isBuildOutput(path, folder));
+    });
+}
+
+bool Rules::isKeptInProfile(const std::string& path) const {
+    const auto isCache = [this](const fs::path& name) {
+        return std::ranges::find(ground_.profileCaches, name) != ground_.profileCaches.end();
+    };
+    return std::ranges::any_of(ground_.profiles, [&](const char* profile) {
+        const auto folder = home_ + "/" + profile;
+        return isAtOrBelow(path, folder) &&
+               std::ranges::none_of(fs::path(path.substr(folder.size())), isCache);
     });
 }
 

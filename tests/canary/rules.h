@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ground.h"
 #include "snapshot.h"
 
 namespace tidewell::test {
@@ -15,7 +16,7 @@ class Rules {
     using Items = std::vector<std::vector<std::string>>;
 
     /// `reviewed` are the paths of each item that the program showed before, as it showed them.
-    Rules(const Snapshot& machine, const std::string& root, std::string home,
+    Rules(const Ground& ground, const Snapshot& machine, const std::string& root, std::string home,
           const Items& reviewed);
 
     /// Whether the entry, by its real path, may be gone afterwards.
@@ -28,12 +29,15 @@ class Rules {
     const Items& items() const { return items_; }
 
  private:
+    void addKeys();
     void addLinksBelow(const std::string& folder);
+    bool isKeptInProfile(const std::string& path) const;
     bool isOpen(const std::string& path) const;
     bool isKey(const std::string& path) const;
     bool holdsKey(const std::string& path) const;
 
-    std::string root_;
+    const Ground& ground_;
+    std::string scratch_;
     std::string home_;
     std::set<std::string> keys_;
     std::vector<std::string> own_;

@@ -47,6 +47,8 @@ Entry entryAt(const std::string& path) {
     entry.owner = status.st_uid;
     entry.group = status.st_gid;
     entry.changed = status.st_mtim.tv_sec * 1'000'000'000LL + status.st_mtim.tv_nsec;
+    entry.file = {status.st_dev, status.st_ino};
+    entry.names = status.st_nlink;
     if (S_ISREG(status.st_mode)) {
         entry.size = status.st_size;
         entry.allocated = status.st_blocks * 512LL;

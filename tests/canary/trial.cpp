@@ -56,20 +56,27 @@ Place inFolder(const RandomMachine& random) {
     return {{}, {"--root", random.machine.root(), "--home", random.machine.home()}};
 }
 
-/// As the user's own machine, started in a folder of his work, with a scratch folder that may be
-/// set to anything.
+/// As the user's own machine, started in a folder of his work, with a scratch folder and base
+/// folders that may be set to anything.
 Place atHome(RandomMachine& random) {
-    const std::vector<std::string> scratch = {".",
-                                              "..",
-                                              "",
-                                              "Documents",
-                                              random.machine.path("~/Documents/Thesis"),
-                                              random.machine.home(),
-                                              random.machine.path("/var/folders/zz/ada/T")};
     const auto work = random.machine.path("~/Documents/Thesis");
-    return {{"env", "--chdir=" + work, "HOME=" + random.machine.home(),
-             "TMPDIR=" + random.chance.oneOf(scratch)},
-            {}};
+    const std::vector<std::string> anything = {".",
+                                               "..",
+                                               "",
+                                               "/",
+                                               "Documents",
+                                               work,
+                                               random.machine.home(),
+                                               random.machine.path("~/.ssh")};
+    auto scratch = anything;
+    scratch.push_back(random.machine.path(random.ground.scratch));
+    Place place = {{"env", "--chdir=" + work, "HOME=" + random.machine.home(),
+                    "TMPDIR=" + random.chance.oneOf(scratch)},
+                   {}};
+    for (const char* variable : {"XDG_CACHE_HOME", "XDG_DATA_HOME"})
+        if (random.chance.percent(30))
+            place.before.push_back(variable + ("=" + random.chance.oneOf(anything)));
+    return place;
 }
 
 /// Only somebody who may not touch this machine's own files works without a root.
@@ -142,10 +149,13 @@ bool isSame(const Entry& before, Entry after, bool isTouched) {
     return before == after;
 }
 
-/// All that is neither as it was nor, by `mayChange`, free to go and to come.
-Findings losses(const Snapshot& before, const Snapshot& after, const Predicate& mayChange) {
+/// All that is neither as it was nor, by `mayChange`, free to go and to come. `touchedBetween` are
+/// folders in which something came and went.
+Findings losses(const Snapshot& before, const Snapshot& after, const Predicate& mayChange,
+                const std::set<std::string>& touchedBetween = {}) {
     Findings found;
-    const auto touched = touchedFolders(before, after);
+    auto touched = touchedFolders(before, after);
+    touched.insert(touchedBetween.begin(), touchedBetween.end());
     for (const auto& [path, entry] : before) {
         const auto now = after.find(path);
         if (now == after.end()) {
@@ -168,7 +178,7 @@ bool isOwnSettings(const RandomMachine& random, const std::string& path) {
 /// What an entry is called where its folder is not mounted a second time.
 std::string otherNameOf(const RandomMachine& random, const std::string& path) {
     for (const auto& [place, name] : random.otherNames)
-        if (isBelow(path, place)) return name + path.substr(place.size());
+        if (isAtOrBelow(path, place)) return name + path.substr(place.size());
     return path;
 }
 
@@ -182,22 +192,26 @@ bool holdsTreasure(const RandomMachine& random, const std::string& path) {
                                [&](const auto& treasure) { return isBelow(treasure, path); });
 }
 
-std::int64_t allocatedBytes(const Snapshot& machine, const std::string& folder) {
+/// Of a Linux machine, a file counts where all of its names are meant, and once.
+std::int64_t allocatedBytes(const Ground& ground, const Snapshot& machine,
+                            const std::vector<std::string>& folders) {
+    std::map<std::pair<dev_t, ino_t>, nlink_t> namesSeen;
     std::int64_t bytes = 0;
-    for (const auto& [path, entry] : below(machine, folder)) bytes += entry.allocated;
+    for (const auto& folder : folders)
+        for (const auto& [path, entry] : below(machine, folder))
+            if (ground.system == System::macOS || ++namesSeen[entry.file] == entry.names)
+                bytes += entry.allocated;
     return bytes;
 }
 
 /// What two measures of each item show to be gone. Items that links make overlap count twice, as
 /// each of them was shown.
-std::int64_t freedBytes(const Snapshot& before, const Snapshot& after, const Rules& rules) {
+std::int64_t freedBytes(const Ground& ground, const Snapshot& before, const Snapshot& after,
+                        const Rules& rules) {
     std::int64_t freed = 0;
-    for (const auto& item : rules.items()) {
-        std::int64_t gone = 0;
-        for (const auto& path : item)
-            gone += allocatedBytes(before, path) - allocatedBytes(after, path);
-        freed += std::max<std::int64_t>(gone, 0);
-    }
+    for (const auto& item : rules.items())
+        freed += std::max<std::int64_t>(
+            allocatedBytes(ground, before, item) - allocatedBytes(ground, after, item), 0);
     return freed;
 }
 
@@ -241,14 +255,22 @@ std::optional<std::size_t> momentOfKill(RandomMachine& random, Verb verb) {
     return 1 + random.chance.below(60);
 }
 
+/// With what a Trash says of its things beside them.
+bool isInATrash(const RandomMachine& random, const std::string& path) {
+    const auto trash = random.machine.path(random.ground.trash);
+    return isAtOrBelow(path, random.ground.system == System::linux
+                                 ? fs::path(trash).parent_path().string()
+                                 : trash);
+}
+
 /// A move to the Trash loses nothing: whatever left its place lies there as it was.
 Findings checkMoves(const RandomMachine& random, const Snapshot& before, const Snapshot& after,
                     const std::vector<std::string>& wanted) {
-    const auto trash = random.machine.path("~/.Trash");
+    const auto trash = random.machine.path(random.ground.trash);
     auto findings = losses(before, after, [&](const std::string& path) {
         const bool isWanted =
             std::ranges::any_of(wanted, [&](const auto& item) { return isAtOrBelow(path, item); });
-        const bool isNewInTrash = isAtOrBelow(path, trash) && !before.contains(path);
+        const bool isNewInTrash = isInATrash(random, path) && !before.contains(path);
         return !isTreasure(random, path) &&
                (isWanted || isNewInTrash || isOwnSettings(random, path));
     });
@@ -262,8 +284,9 @@ Findings checkMoves(const RandomMachine& random, const Snapshot& before, const S
 
 }  // namespace
 
-std::vector<std::string> Trial::cataloguePaths() const {
-    const auto ended = runProgram(program_, {"catalogue", "--json"});
+std::vector<std::string> Trial::cataloguePaths(System system) const {
+    const auto ended = runProgram(
+        program_, {"catalogue", "--json", "--system", system == System::linux ? "linux" : "macos"});
     const auto document = parseJson(ended.output).value_or(Value());
     std::vector<std::string> paths;
     for (const auto& target : listAt(document, "targets"))
@@ -274,9 +297,10 @@ std::vector<std::string> Trial::cataloguePaths() const {
 Findings Trial::look(const RandomMachine& random) const {
     const auto before = takeSnapshot(random.machine.root());
     Findings findings;
-    for (const Words& words :
-         {Words{"scan"}, Words{"clean", "--select", "all"}, Words{"dev"}, Words{"deep-scan"},
-          Words{"uninstall", "com.example.notes"}, Words{"status"}}) {
+    std::vector<Words> calls = {
+        {"scan"}, {"clean", "--select", "all"}, {"dev"}, {"deep-scan"}, {"apps"}, {"status"}};
+    if (random.ground.system == System::macOS) calls.push_back({"uninstall", "com.example.notes"});
+    for (const auto& words : calls) {
         const auto answer = ask(program_, random, words, inFolder(random));
         findings.insert(findings.end(), answer.findings.begin(), answer.findings.end());
     }
@@ -309,18 +333,22 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     const Words words = {verb == Verb::dev ? "dev" : "clean", "--select", "all"};
     const bool isAtHome = verb == Verb::cleanAtHome && canBeAtHome(random);
     const auto place = isAtHome ? atHome(random) : inFolder(random);
+    const auto prey = verb == Verb::cleanStolenFrom ? random.layOutPrey() : std::string();
     const auto shown = ask(program_, random, words, place);
     if (!shown.findings.empty()) return shown.findings;
     const auto before = takeSnapshot(root);
-    const Rules rules(before, root, random.machine.home(), itemsOf(shown.document));
+    const Rules rules(random.ground, before, root, random.machine.home(), itemsOf(shown.document));
 
     auto orders = words;
     orders.push_back("--yes");
     std::unique_ptr<Adversary> others;
     std::unique_ptr<Kidnapper> kidnapper;
     if (verb == Verb::cleanStolenFrom)
-        kidnapper = std::make_unique<Kidnapper>(random.prey, RandomMachine::preySize,
-                                                random.machine.path("~/Documents"));
+        kidnapper = std::make_unique<Kidnapper>(
+            prey,
+            fs::canonical(
+                random.machine.path(random.chance.percent(50) ? "~/Documents" : "~/Applications")),
+            random.chance.percent(25) ? Kidnapper::Then::bringBack : Kidnapper::Then::putAnother);
     if (verb == Verb::cleanAmongOthers)
         others = std::make_unique<Adversary>(static_cast<unsigned>(random.chance.below(1 << 30)),
                                              openGround(random, before, rules),
@@ -334,7 +362,9 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
 
     const auto after = takeSnapshot(root);
     auto findings = losses(before, after, [&](const std::string& path) {
-        if (kidnapper && path.find(Kidnapper::takenName) != std::string::npos) return true;
+        if (kidnapper &&
+            (kidnapper->changes(path) || kidnapper->changes(otherNameOf(random, path))))
+            return true;
         return !isTreasure(random, path) &&
                (rules.mayGo(path) || rules.mayGo(otherNameOf(random, path)) ||
                 isOwnSettings(random, path) || (hasCompany(verb) && rules.isInArea(path)));
@@ -344,7 +374,7 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
             "emptied after it was taken away: " + std::to_string(kidnapper->losses()) + " files");
     if (kidnapper) tally_.thefts += kidnapper->hasStruck();
     const auto said = integerAt(done.document, "freedBytes");
-    const auto freed = freedBytes(before, after, rules);
+    const auto freed = freedBytes(random.ground, before, after, rules);
     // What goes by one of two names is missing by the other as well.
     const bool isForeseeable = !done.wasKilled && !hasCompany(verb) && random.otherNames.empty();
     if (isForeseeable && said != freed)
@@ -367,8 +397,27 @@ Findings Trial::trash(RandomMachine& random) {
     const auto done = ask(program_, random, {"trash", id, "--yes"}, inFolder(random));
     if (!done.findings.empty()) return done.findings;
     const auto after = takeSnapshot(random.machine.root());
-    tally_.trashed += before.contains(id) && !after.contains(id);
-    return checkMoves(random, before, after, {id});
+    const bool isGone = before.contains(id) && !after.contains(id);
+    tally_.trashed += isGone;
+    auto findings = checkMoves(random, before, after, {id});
+    if (isGone && findings.empty() && random.ground.system == System::linux)
+        return putBack(random, before, id);
+    return findings;
+}
+
+/// All is as it was before the move to the Trash.
+Findings Trial::putBack(const RandomMachine& random, const Snapshot& before,
+                        const std::string& origin) {
+    const auto done = ask(program_, random, {"put-back", origin, "--yes"}, inFolder(random));
+    if (!done.findings.empty()) return done.findings;
+    const auto after = takeSnapshot(random.machine.root());
+    tally_.putBack += after.contains(origin);
+    const auto mayChange = [&](const std::string& path) {
+        return (isInATrash(random, path) && !before.contains(path)) || isOwnSettings(random, path);
+    };
+    const auto trash = fs::path(random.machine.path(random.ground.trash));
+    return losses(before, after, mayChange,
+                  {fs::path(origin).parent_path(), trash, trash.parent_path() / "info"});
 }
 
 Findings Trial::uninstall(RandomMachine& random, Verb verb) {

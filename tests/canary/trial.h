@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "random_machine.h"
+#include "snapshot.h"
 
 namespace tidewell::test {
 
@@ -29,7 +30,7 @@ class Trial {
     explicit Trial(std::string program) : program_(std::move(program)) {}
 
     /// As the catalogue has them.
-    std::vector<std::string> cataloguePaths() const;
+    std::vector<std::string> cataloguePaths(System system) const;
 
     /// Looks with every command that only looks; all must stay as it is.
     Findings look(const RandomMachine& random) const;
@@ -40,6 +41,7 @@ class Trial {
         long long freedBytes = 0;
         int removedEntries = 0;
         int trashed = 0;
+        int putBack = 0;
         int uninstalled = 0;
         int swaps = 0;
         int thefts = 0;
@@ -50,6 +52,8 @@ class Trial {
  private:
     Findings clean(RandomMachine& random, Verb verb);
     Findings trash(RandomMachine& random);
+    Findings putBack(const RandomMachine& random, const Snapshot& before,
+                     const std::string& origin);
     Findings uninstall(RandomMachine& random, Verb verb);
 
     std::string program_;
