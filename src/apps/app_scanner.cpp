@@ -7,7 +7,7 @@
 #include "apps/leftover_search.h"
 #include "apps/uninstaller.h"
 #include "platform/bundle.h"
-#include "platform/disk_usage.h"
+#include "platform/freed_usage.h"
 #include "platform/path_text.h"
 #include "platform/uuid.h"
 
@@ -88,7 +88,7 @@ std::optional<InstalledApp> AppScanner::readApp(const std::string& path) const {
         .url = path,
         .bundleID = bundle.identifier,
         .version = firstText(bundle, "CFBundleShortVersionString", "CFBundleVersion"),
-        .sizeBytes = allocatedSize(path),
+        .sizeBytes = freedUsage(path, host_.system).freedBytes,
         .lastUsed = lastUsedDate(path),
     };
 }
@@ -97,7 +97,7 @@ std::vector<LeftoverFile> AppScanner::findLeftovers(const InstalledApp& app) con
     const auto library = joinPath(host_.home, "Library");
     std::vector<LeftoverFile> leftovers;
     for (auto& place : findLeftoverPlaces(app, library)) {
-        const auto size = allocatedSize(place.path);
+        const auto size = freedUsage(place.path, host_.system).freedBytes;
         leftovers.push_back({
             .id = randomUuid(),
             .url = std::move(place.path),

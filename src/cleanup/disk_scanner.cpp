@@ -9,8 +9,8 @@
 #include "cleanup/cache_signs.h"
 #include "cleanup/running_check.h"
 #include "cleanup/target_catalogue.h"
-#include "platform/disk_usage.h"
 #include "platform/files.h"
+#include "platform/freed_usage.h"
 #include "platform/path_text.h"
 #include "platform/trash.h"
 #include "platform/volume.h"
@@ -23,16 +23,14 @@ namespace {
 struct Found {
     std::vector<std::string> paths;
     std::vector<DiskUsage> measures;
-    ByteCount size = 0;
-    ByteCount linked = 0;
-    UnreadThings unread;
+    DiskUsage sum;
 
     void add(std::string path, MeasuredFolders* known) {
         auto usage = known ? diskUsage(path, *known) : diskUsage(path);
-        unread.add(usage.unread);
+        sum.unread.add(usage.unread);
         if (usage.bytes < 1) return;
-        size = addSaturating(size, usage.bytes);
-        linked = addSaturating(linked, usage.linkedBytes);
+        sum.bytes = addSaturating(sum.bytes, usage.bytes);
+        sum.linkedBytes = addSaturating(sum.linkedBytes, usage.linkedBytes);
         paths.push_back(std::move(path));
         measures.push_back(std::move(usage));
     }
@@ -76,13 +74,13 @@ struct Holding {
 
 Holding heldBy(const std::vector<std::string>& paths, System system) {
     Holding holding;
-    ByteCount linked = 0;
+    DiskUsage sum;
     for (const auto& path : paths) {
         const auto& usage = holding.measures.emplace_back(diskUsage(path));
-        linked = addSaturating(linked, usage.linkedBytes);
-        holding.together.freedBytes = addSaturating(holding.together.freedBytes, usage.bytes);
+        sum.bytes = addSaturating(sum.bytes, usage.bytes);
+        sum.linkedBytes = addSaturating(sum.linkedBytes, usage.linkedBytes);
     }
-    if (system == System::linux && linked > 0) holding.together = freedByRemoving(paths);
+    holding.together = freedUsage(paths, sum, system);
     return holding;
 }
 
@@ -120,10 +118,9 @@ std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target, Mea
                 break;
         }
     }
-    if (unread) unread->add(found.unread);
+    if (unread) unread->add(found.sum.unread);
     if (found.paths.empty()) return std::nullopt;
-    FreedUsage together{.freedBytes = found.size};
-    if (host_.system == System::linux && found.linked > 0) together = freedByRemoving(found.paths);
+    const auto together = freedUsage(found.paths, found.sum, host_.system);
     return CleanupItem{.target = target,
                        .resolvedPaths = std::move(found.paths),
                        .measures = std::move(found.measures),

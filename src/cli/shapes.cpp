@@ -76,6 +76,8 @@ std::string_view nameOf(RiskBucket bucket) {
             return "personal";
         case RiskBucket::other:
             return "other";
+        case RiskBucket::inTrash:
+            return "inTrash";
     }
     return {};
 }
@@ -110,6 +112,7 @@ Value bigItemShape(const BigItem& item) {
         {"kind", nameOf(item.kind)},
         {"bucket", nameOf(riskBucket(item.kind))},
     };
+    if (item.sharedBytes > 0) shape.emplace_back("sharedBytes", item.sharedBytes);
     addIfPresent(shape, "note", item.note);
     addIfPresent(shape, "reclaimCommand", item.reclaimCommand);
     return shape;
@@ -162,6 +165,10 @@ Value modelStoreShape(const AIModelStore& store) {
                          {"note", store.note}};
 }
 
+Value trashedThingShape(const TrashedThing& thing) {
+    return trashedItemShape(thing.item, thing.sizeBytes);
+}
+
 Value::Object cleanShape(const CleanupViewModel& model) {
     Value::List categories;
     for (const auto category : model.activeCategories())
@@ -175,7 +182,10 @@ Value::Object cleanShape(const CleanupViewModel& model) {
 }
 
 Value::Object deepScanShape(const DeepScanViewModel& model) {
-    return {{"items", listOf(model.items(), bigItemShape)}, {"totalBytes", model.totalBytes()}};
+    Value::Object shape = {{"items", listOf(model.items(), bigItemShape)},
+                           {"totalBytes", model.totalBytes()}};
+    if (model.listsTrash) shape.emplace_back("inTrash", listOf(model.inTrash(), trashedThingShape));
+    return shape;
 }
 
 Value::Object appsShape(const AppsViewModel& model) {

@@ -25,6 +25,7 @@ struct BigItem {
     std::string name;      ///< the title: the path's last component, or a label
     std::string location;  ///< where it lies, as the user reads it
     ByteCount sizeBytes = 0;
+    ByteCount sharedBytes = 0;  ///< what more of it would stay, since it has names elsewhere
     bool isDirectory = false;
     Kind kind = Kind::other;
     std::optional<std::string> note;

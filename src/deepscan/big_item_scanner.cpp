@@ -105,14 +105,15 @@ std::vector<std::string> BigItemScanner::candidates() const {
     return candidates.take();
 }
 
-BigItem BigItemScanner::describe(const std::string& path, ByteCount size,
+BigItem BigItemScanner::describe(const std::string& path, const FreedUsage& usage,
                                  const KeptPlaces& kept) const {
     const auto name = lastPathComponent(path);
     const auto fact = FolderKnowledge::fact(path, host_);
     BigItem item{.id = path,
                  .name = std::string(name),
                  .location = std::string(host_.relativeToHome(parentPath(path))),
-                 .sizeBytes = size,
+                 .sizeBytes = usage.freedBytes,
+                 .sharedBytes = usage.sharedBytes,
                  .isDirectory = fileKind(path) == FileKind::folder,
                  .kind = finalKind(classifyPlace(path, host_, kept), fact),
                  .note = std::nullopt,
@@ -126,13 +127,14 @@ std::vector<BigItem> BigItemScanner::scan(const Progress& progress, MeasuredFold
     const KeptPlaces kept(host_);
     const auto paths = candidates();
     std::vector<BigItem> items;
-    std::size_t measured = 0;
+    std::size_t done = 0;
     for (const auto& path : paths) {
-        const auto usage = known ? diskUsage(path, *known) : diskUsage(path);
-        if (unread) unread->add(usage.unread);
-        ++measured;
-        if (progress) progress(static_cast<double>(measured) / static_cast<double>(paths.size()));
-        if (isBigItem(usage.bytes)) items.push_back(describe(path, usage.bytes, kept));
+        const auto measured = known ? diskUsage(path, *known) : diskUsage(path);
+        if (unread) unread->add(measured.unread);
+        const auto usage = freedUsage(path, measured, host_.system);
+        ++done;
+        if (progress) progress(static_cast<double>(done) / static_cast<double>(paths.size()));
+        if (isBigItem(usage.freedBytes)) items.push_back(describe(path, usage, kept));
     }
     sortBySize(items);
     return items;

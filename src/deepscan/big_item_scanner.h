@@ -10,6 +10,7 @@
 #include "deepscan/big_item.h"
 #include "deepscan/big_item_trash_guard.h"
 #include "deepscan/folder_knowledge.h"
+#include "platform/freed_usage.h"
 #include "platform/host.h"
 #include "platform/measured_folders.h"
 
@@ -71,7 +72,8 @@ class BigItemScanner {
  private:
     std::vector<std::string> homeEntries() const;
     std::vector<std::string> candidates() const;
-    BigItem describe(const std::string& path, ByteCount size, const KeptPlaces& kept) const;
+    BigItem describe(const std::string& path, const FreedUsage& usage,
+                     const KeptPlaces& kept) const;
 
     Host host_;
     BigItemTrashGuard guard_;

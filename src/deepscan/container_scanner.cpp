@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "deepscan/walk_roots.h"
-#include "platform/disk_usage.h"
 #include "platform/files.h"
+#include "platform/freed_usage.h"
 
 namespace tidewell {
 
@@ -23,11 +23,12 @@ std::optional<BigItem> ContainerScanner::find(const ContainerEngine& engine) con
     const auto measured = firstExisting(engine.measure);
     if (!measured) return std::nullopt;
     const auto usage = diskUsage(*measured);
-    if (usage.bytes < containerMinimumSize) return std::nullopt;
+    const auto size = freedUsage(*measured, usage, host_.system).freedBytes;
+    if (size < containerMinimumSize) return std::nullopt;
     BigItem item{.id = firstExisting(engine.reveal).value_or(*measured),
                  .name = std::string(engine.name) + " data",
                  .location = "Containers & VMs",
-                 .sizeBytes = usage.bytes,
+                 .sizeBytes = size,
                  .isDirectory = true,
                  .kind = BigItem::Kind::container,
                  .note = std::string(engine.note),

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "async/background.h"
+#include "deepscan/knowledge/knowledge.h"
 #include "platform/path_text.h"
 #include "platform/silent_mounts.h"
 
@@ -16,6 +17,7 @@ namespace {
 struct Found {
     LeftOut leftOut;
     std::vector<BigItem> items;
+    std::vector<TrashedThing> inTrash;
 };
 
 }  // namespace
@@ -38,8 +40,12 @@ std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigI
     return std::move(merged);
 }
 
-DeepScanViewModel::DeepScanViewModel(const Host& host)
-    : system{host.system}, scanner_(host), installerScanner_(host), containerScanner_(host) {}
+DeepScanViewModel::DeepScanViewModel(const Host& machine)
+    : host{machine},
+      listsTrash{deepScanKnowledge(machine.system).trash == TrashInList::listed},
+      scanner_(machine),
+      installerScanner_(machine),
+      containerScanner_(machine) {}
 
 Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
     if (phase() == Phase::scanning) co_return;
@@ -50,23 +56,25 @@ Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
     lastPutBack = std::nullopt;
 
     try {
-        auto scanning =
-            background([walk = scanner_, installers = installerScanner_,
-                        containers = containerScanner_, progress = progressHop(), known] {
-                auto silent = findSilentMounts();
-                UnreadThings unread;
-                auto walked = walk.scan(progress, known.get(), &unread);
-                auto foundInstallers = installers.scan(walked);
-                auto foundContainers = containers.scan();
-                auto merged =
-                    mergeDeepScan(std::move(walked), std::move(foundInstallers),
-                                  std::move(foundContainers), containers.walkExclusionPaths());
-                return Found{.leftOut = {std::move(silent), unread.count()},
-                             .items = std::move(merged)};
-            });
+        auto scanning = background([walk = scanner_, installers = installerScanner_,
+                                    containers = containerScanner_, machine = host,
+                                    progress = progressHop(), known] {
+            auto silent = findSilentMounts();
+            UnreadThings unread;
+            auto walked = walk.scan(progress, known.get(), &unread);
+            auto foundInstallers = installers.scan(walked);
+            auto foundContainers = containers.scan();
+            auto merged =
+                mergeDeepScan(std::move(walked), std::move(foundInstallers),
+                              std::move(foundContainers), containers.walkExclusionPaths());
+            return Found{.leftOut = {std::move(silent), unread.count()},
+                         .items = std::move(merged),
+                         .inTrash = findTrashed(machine)};
+        });
         auto found = co_await scanning;
         leftOut = std::move(found.leftOut);
         items = std::move(found.items);
+        inTrash = std::move(found.inTrash);
         phase = Phase::list;
     } catch (...) {
         phase = before;
@@ -82,28 +90,47 @@ Task<> DeepScanViewModel::trash(BigItem item) {
     if (outcome.success)
         std::erase_if(items.mutate(),
                       [&item](const BigItem& listed) { return listed.id == item.id; });
-    lastTrashed_ = std::move(item);
+    if (outcome.moved)
+        addToTrash({.item = *outcome.moved, .sizeBytes = item.sizeBytes, .was = std::move(item)});
     lastPutBack = std::nullopt;
     lastResult = std::move(outcome);
 }
 
-Task<> DeepScanViewModel::putBack() {
-    if (!lastResult() || !lastResult()->moved) co_return;
-    const auto moved = *lastResult()->moved;
-    // A second wish finds nothing to undo.
-    lastResult.mutate()->moved.reset();
-    const auto item = lastTrashed_;
-    auto puttingBack = background([scanner = scanner_, moved] { return scanner.putBack(moved); });
+Task<> DeepScanViewModel::putBack(TrashedItem item) {
+    auto thing = takeFromTrash(item);
+    if (!thing) co_return;
+    auto puttingBack = background([scanner = scanner_, item] { return scanner.putBack(item); });
     PuttingBack failed;
     failed.problem = "Something went wrong inside the program.";
-    const auto outcome = co_await valueOr(puttingBack, failed);
-    if (outcome.place) {
-        items.mutate().push_back(item);
+    auto outcome = co_await valueOr(puttingBack, failed);
+    PutBackOutcome told{.name = thing->name(), .problem = std::move(outcome.problem), .stayed = {}};
+    if (!outcome.place) {
+        addToTrash(std::move(*thing));
+        told.stayed = std::move(item);
+    } else if (thing->was) {
+        items.mutate().push_back(std::move(*thing->was));
         sortBySize(items.mutate());
-    } else if (lastResult()) {
-        lastResult.mutate()->moved = moved;
     }
-    lastPutBack = PutBackOutcome{.name = item.name, .problem = outcome.problem};
+    lastPutBack = std::move(told);
+}
+
+std::optional<TrashedItem> DeepScanViewModel::undoable() const {
+    if (lastPutBack()) return lastPutBack()->stayed;
+    return lastResult() ? lastResult()->moved : std::nullopt;
+}
+
+void DeepScanViewModel::addToTrash(TrashedThing thing) {
+    inTrash.mutate().push_back(std::move(thing));
+    sortBySize(inTrash.mutate());
+}
+
+std::optional<TrashedThing> DeepScanViewModel::takeFromTrash(const TrashedItem& item) {
+    auto& things = inTrash.mutate();
+    const auto place = std::ranges::find(things, item, &TrashedThing::item);
+    if (place == things.end()) return std::nullopt;
+    auto thing = std::move(*place);
+    things.erase(place);
+    return thing;
 }
 
 BigItemScanner::Progress DeepScanViewModel::progressHop() {

@@ -11,6 +11,7 @@
 #include "deepscan/big_item_scanner.h"
 #include "deepscan/container_scanner.h"
 #include "deepscan/installer_scanner.h"
+#include "deepscan/trashed_thing.h"
 #include "kit/left_out.h"
 #include "platform/host.h"
 
@@ -31,10 +32,11 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
 
     struct PutBackOutcome {
         std::string name;
-        std::string problem;  ///< why it stays in the Trash, a sentence; empty if it is back
+        std::string problem;                ///< why it stays in the Trash, a sentence; else empty
+        std::optional<TrashedItem> stayed;  ///< then what stays
     };
 
-    explicit DeepScanViewModel(const Host& host);
+    explicit DeepScanViewModel(const Host& machine);
 
     /// Fired before each change of what follows.
     Signal willChange;
@@ -43,6 +45,9 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     /// What the last scan found, largest first, without what was trashed since. During a scan still
     /// the list of the one before.
     Published<std::vector<BigItem>> items{willChange};
+    /// What lies in the Trash, largest first: what the last scan found there, where it is told of,
+    /// and what was moved there since.
+    Published<std::vector<TrashedThing>> inTrash{willChange};
     /// The share of the walk's candidates that are measured; installers and containers come after
     /// the walk and move nothing.
     Published<double> scanProgress{willChange, 0.0};
@@ -50,10 +55,11 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     /// How the last move to the Trash ended, until the next scan.
     Published<std::optional<BigItemScanner::TrashOutcome>> lastResult{willChange};
 
-    /// How the last move came to be undone, until the next move or scan.
+    /// How the last attempt to put something back ended, until the next move or scan.
     Published<std::optional<PutBackOutcome>> lastPutBack{willChange};
 
-    const System system;  ///< of the machine that is looked through
+    const Host host;        ///< the machine that is looked through
+    const bool listsTrash;  ///< whether the user is told what lies in the Trash
 
     ByteCount totalBytes() const { return tidewell::totalBytes(items()); }
 
@@ -63,9 +69,12 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     Task<> scanWith(std::shared_ptr<MeasuredFolders> known);
     /// Ends when the Trash has answered. An item that could not be moved stays in the list.
     Task<> trash(BigItem item);
-    /// Undoes that very move; does nothing without one, or while it is being undone. Ends when the
-    /// item is back where it was and in the list, or stays in the Trash.
-    Task<> putBack();
+    /// Puts back one of the things in the Trash; does nothing for any other, or while it is on its
+    /// way. Ends when it is back where it was, and in the list if it was moved from there, or stays
+    /// in the Trash.
+    Task<> putBack(TrashedItem item);
+    /// What the last move has put into the Trash, or did not get back from there.
+    std::optional<TrashedItem> undoable() const;
 
     /// Sets scanProgress in a later turn, unless the view model is gone by then. Made on the main
     /// thread, called on any.
@@ -75,7 +84,8 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
     const BigItemScanner scanner_;
     const InstallerScanner installerScanner_;
     const ContainerScanner containerScanner_;
-    BigItem lastTrashed_;
+    void addToTrash(TrashedThing thing);
+    std::optional<TrashedThing> takeFromTrash(const TrashedItem& item);
 };
 
 }  // namespace tidewell

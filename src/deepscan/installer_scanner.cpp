@@ -7,7 +7,6 @@
 #include "cleanup/user_dirs.h"
 #include "deepscan/installer_sign.h"
 #include "platform/dates.h"
-#include "platform/disk_usage.h"
 #include "platform/folder_walk.h"
 #include "platform/path_text.h"
 
@@ -82,11 +81,12 @@ std::vector<std::string> InstallerScanner::downloads() const {
 }
 
 BigItem InstallerScanner::describe(const std::string& path, const InstallerType& type,
-                                   ByteCount size) const {
+                                   const FreedUsage& usage) const {
     return {.id = path,
             .name = std::string(lastPathComponent(path)),
             .location = std::string(host_.relativeToHome(parentPath(path))),
-            .sizeBytes = size,
+            .sizeBytes = usage.freedBytes,
+            .sharedBytes = usage.sharedBytes,
             .isDirectory = type.extension == "mpkg",
             .kind = BigItem::Kind::installer,
             .note = installerNote(type, modificationDate(path), now()),
@@ -99,8 +99,8 @@ std::vector<BigItem> InstallerScanner::scan(const std::vector<BigItem>& listed) 
     for (const auto& path : downloads()) {
         const auto* type = installerType(path, host_.system);
         if (!type || (!countsAlone && liesInOneOf(path, listed))) continue;
-        const auto size = allocatedSize(path);
-        if (size >= installerMinimumSize) items.push_back(describe(path, *type, size));
+        const auto usage = freedUsage(path, host_.system);
+        if (usage.freedBytes >= installerMinimumSize) items.push_back(describe(path, *type, usage));
     }
     sortBySize(items);
     return items;

@@ -9,6 +9,7 @@
 #include "deepscan/big_item.h"
 #include "deepscan/knowledge/knowledge.h"
 #include "platform/files.h"
+#include "platform/freed_usage.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -43,7 +44,8 @@ class InstallerScanner {
 
  private:
     std::vector<std::string> downloads() const;
-    BigItem describe(const std::string& path, const InstallerType& type, ByteCount size) const;
+    BigItem describe(const std::string& path, const InstallerType& type,
+                     const FreedUsage& usage) const;
 
     Host host_;
 };

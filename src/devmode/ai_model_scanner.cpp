@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "devmode/knowledge/knowledge.h"
-#include "platform/disk_usage.h"
 #include "platform/files.h"
+#include "platform/freed_usage.h"
 #include "platform/sum.h"
 
 namespace tidewell {
@@ -37,7 +37,7 @@ std::vector<AIModelStore> AIModelScanner::scan() const {
         if (!firstThatExists(engine.detect, host_)) continue;
         auto path = firstThatExists(engine.measure, host_);
         if (!path) continue;
-        const auto size = allocatedSize(*path);
+        const auto size = freedUsage(*path, host_.system).freedBytes;
         if (!isWorthShowing(size)) continue;
         stores.push_back({.id = std::move(*path),
                           .tool = std::string(engine.tool),

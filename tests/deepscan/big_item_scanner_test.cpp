@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
 
 #include "deepscan/container_scanner.h"
 #include "deepscan/deep_scan_view_model.h"
+#include "deepscan/screens/deep_scan_content.h"
 #include "support/sample_machine.h"
 
 namespace tidewell::test {
@@ -80,6 +82,21 @@ TEST(BigItemScanner, ListsTheBigEntriesOfFiveLibraryFoldersAndOfVisibleFoldersAs
     EXPECT_EQ(items[2].kind, Kind::personal) << "a fact overrules its place";
     EXPECT_EQ(items[3].id, machine.path("~/Work/film.mov"));
     EXPECT_EQ(progress, (std::vector{1 / 6., 2 / 6., 3 / 6., 4 / 6., 5 / 6., 1.}));
+}
+
+TEST(BigItemScanner, OfALinuxHomeTellsWhatAnItemFreesWhereFilesHaveSeveralNames) {
+    const SampleMachine machine(System::linux);
+    machine.file("~/Videos/film/one", 90 * megabyte);
+    machine.file("~/Videos/film/two", 30 * megabyte);
+    machine.folder("~/backup");
+    for (const auto& [from, to] : {std::pair{"~/Videos/film/one", "~/Videos/film/again"},
+                                   {"~/Videos/film/two", "~/backup/two"}})
+        std::filesystem::create_hard_link(machine.path(from), machine.path(to));
+    const auto items = BigItemScanner(machine.host()).scan();
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].sizeBytes, 90 * megabyte);
+    EXPECT_TRUE(bigItemCard(items[0], {}, System::linux)
+                    .note.ends_with(" 31.5 MB more is shared with other files and would stay."));
 }
 
 TEST(BigItemScanner, ListsALinuxHomeOnceAndSaysWhatEachThingIs) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "deepscan/big_item_support.h"
+#include "deepscan/screens/deep_scan_content.h"
 #include "support/sample_machine.h"
 #include "support/test_loop.h"
 
@@ -29,6 +30,7 @@ TEST(DeepScanMerge, ListsEachPathOnceAndTheMoreExactFindingOfIt) {
 struct DeepScan : testing::Test {
     void scan() { spawn(model, &DeepScanViewModel::scan); }
     void trash(const BigItem& target) { spawn(model, &DeepScanViewModel::trash, target); }
+    void undo() { spawn(model, &DeepScanViewModel::putBack, *model->undoable()); }
 
     SampleMachine machine;
     TestLoop loop;
@@ -99,18 +101,60 @@ TEST_F(DeepScan, TakesATrashedItemOutOfTheListAndKeepsOneThatCouldNotBeMoved) {
     EXPECT_EQ(model->phase(), Phase::list);
 
     machine.text("~/Movies/film", "in the way");
-    spawn(model, &DeepScanViewModel::putBack);
+    undo();
     loop.runAll();
     EXPECT_EQ(model->lastPutBack()->problem, "Something stands there already.");
     EXPECT_EQ(idsOf(model->items()), std::vector{disk.id});
     machine.remove("~/Movies/film");
-    spawn(model, &DeepScanViewModel::putBack);
-    spawn(model, &DeepScanViewModel::putBack);
+    undo();
+    undo();
     loop.runAll();
     EXPECT_EQ(model->lastPutBack()->problem, "");
     EXPECT_EQ(idsOf(model->items()), (std::vector{disk.id, film.id}));
     EXPECT_TRUE(machine.has("~/Movies/film"));
     EXPECT_FALSE(machine.has("~/.Trash/film"));
+    EXPECT_FALSE(model->undoable());
+}
+
+TEST(DeepScanOfALinuxMachine, TellsOfTheTrashApartAndPutsBackWhatAnyoneMovedThere) {
+    const SampleMachine machine(System::linux);
+    TestLoop loop;
+    const auto model = std::make_shared<DeepScanViewModel>(machine.host());
+    const auto end = [&](auto operation, auto... arguments) {
+        spawn(model, operation, arguments...);
+        loop.runAll();
+    };
+    machine.file("~/Videos/film", 90 * megabyte);
+    machine.file("~/.local/share/Trash/files/note.2", 8192);
+    machine.text("~/.local/share/Trash/info/note.2.trashinfo",
+                 "[Trash Info]\nPath=" + machine.path("~/Videos/note") + "\n");
+    machine.file("~/.local/share/Trash/files/stray", 4096);
+    end(&DeepScanViewModel::scan);
+    ASSERT_EQ(model->inTrash().size(), 2);
+    end(&DeepScanViewModel::trash, model->items()[0]);
+    EXPECT_EQ(model->totalBytes(), 0) << "what lies in the Trash is no big item";
+    ASSERT_EQ(model->inTrash().size(), 3);
+
+    const auto content = deepScanContent(*model, {});
+    ASSERT_EQ(content.rail.size(), 1);
+    EXPECT_EQ(content.rail[0].line, "3 · 94.4 MB");
+    std::vector<std::string> cards;
+    for (const auto& card : content.cards)
+        cards.push_back(card.item.location + "|" + card.item.name + "|" +
+                        (card.putBack ? card.putBack->help : card.note) +
+                        (card.trashHelp ? "|may go" : ""));
+    EXPECT_EQ(cards, (std::vector<std::string>{
+                         "Videos|film|Put film back where it was",
+                         "Videos|note|Put note back where it was",
+                         "|stray|Moved to the Trash. It is not known where it came from: move it "
+                         "back by hand.",
+                     }));
+    for (const auto& card : content.cards)
+        if (card.putBack) end(&DeepScanViewModel::putBack, card.putBack->item);
+    EXPECT_TRUE(machine.has("~/Videos/film") && machine.has("~/Videos/note"));
+    EXPECT_EQ(model->items().size(), 1) << "what was in the list is there again";
+    EXPECT_EQ(model->inTrash().size(), 1);
+    EXPECT_EQ(deepScanContent(*model, {}).banner->text, "Put note back where it was.");
 }
 
 TEST_F(DeepScan, TakesLateProgressButIsNotKeptAliveByIt) {

@@ -57,8 +57,14 @@ TEST_F(AppsTest, AnAppGoesWithItsLeftoversOnceTheSheetIsConfirmed) {
     EXPECT_TRUE(comesTo([&] { return !find("Postcards", QAccessible::ListItem); }));
     EXPECT_TRUE(find("Atlas", QAccessible::ListItem));
 
+    click("Put Back");
+    ASSERT_TRUE(comesTo([&] { return find("Postcards", QAccessible::ListItem); })) << told();
+    EXPECT_TRUE(machine.has("/Applications/Postcards.app"));
+    EXPECT_TRUE(machine.has("~/Library/Caches/com.example.postcards/data"));
+    EXPECT_FALSE(machine.has("~/.Trash/Postcards.app") || shows("Put Back"));
+
     click("Dismiss");
-    EXPECT_TRUE(comesTo([&] { return !shows("Moved Postcards to the Trash"); }));
+    EXPECT_TRUE(comesTo([&] { return !shows("Dismiss"); }));
 }
 
 TEST_F(AppsTest, EscapeLeavesTheAppWhereItIsAndGivesTheKeyboardBack) {

@@ -47,6 +47,38 @@ TEST_F(DeepScanTest, TrashesWhatIsSafeAtOnceAndMovesOnToTheNextBucket) {
     EXPECT_FALSE(shows("Safe to clear"));
     EXPECT_TRUE(comesTo([&] { return find("Colima data", QAccessible::ListItem); }));
     EXPECT_FALSE(shows("Move Colima data to Trash"));
+
+    click("Put Back");
+    EXPECT_TRUE(comesTo([&] { return tells("Put com.example.Browser back where it was."); }))
+        << told();
+    EXPECT_TRUE(machine.has("~/Library/Caches/com.example.Browser/data"));
+    EXPECT_TRUE(shows("Safe to clear"));
+    EXPECT_FALSE(shows("Put Back") || shows("In the Trash"));
+}
+
+class DeepScanOfALinuxMachine : public WindowTest {
+ protected:
+    DeepScanOfALinuxMachine() : WindowTest(System::linux) {}
+};
+
+TEST_F(DeepScanOfALinuxMachine, HasPutBackOnEachCardOfTheTrash) {
+    for (const auto* name : {"one", "two"}) {
+        const auto entry = std::string(name);
+        machine.file("~/.local/share/Trash/files/" + entry, megabyte);
+        machine.text("~/.local/share/Trash/info/" + entry + ".trashinfo",
+                     "[Trash Info]\nPath=" + machine.path("~/Videos/") + entry + "\n");
+    }
+    start();
+    view->mode = Mode::deepScan;
+    ASSERT_TRUE(comesTo([&] { return focused() == "Deep Scan"; }));
+    key(Qt::Key_Return);
+    ASSERT_TRUE(comesTo([&] { return findDescribed("Put Back", "Put two back where it was"); }))
+        << told();
+    settle();
+    press(findDescribed("Put Back", "Put two back where it was"), "Put Back");
+    EXPECT_TRUE(comesTo([&] { return !find("two", QAccessible::ListItem); })) << told();
+    EXPECT_TRUE(machine.has("~/Videos/two"));
+    EXPECT_TRUE(find("one", QAccessible::ListItem) && shows("In the Trash"));
 }
 
 TEST_F(DeepScanTest, ADoubleClickTrashesOneItemAlthoughTheNextMovesUnderThePointer) {

@@ -25,6 +25,8 @@ namespace tidewell::test {
 /// pointer, by keyboard, and by assistive tools, which find a thing by its name.
 class WindowTest : public testing::Test {
  protected:
+    explicit WindowTest(System system = System::macOS) : machine(system) {}
+
     /// Starts the program for a user who knows it; the machine stands by then.
     void start() {
         UserDefaults(machine.host().configurationDirectory).setBoolean("hasOnboarded", true);

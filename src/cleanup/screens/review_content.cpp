@@ -4,6 +4,7 @@
 
 #include "kit/byte_text.h"
 #include "kit/left_out.h"
+#include "kit/shared_note.h"
 
 namespace tidewell {
 
@@ -34,8 +35,6 @@ CategoryRowContent categoryRow(const CleanupViewModel& model, CleanupCategory ca
     };
 }
 
-constexpr ByteCount partWorthTelling = 10;
-
 }  // namespace
 
 std::string_view itemBadge(const CleanupItem& item, std::string_view cautionBadge) {
@@ -46,10 +45,7 @@ std::string_view itemBadge(const CleanupItem& item, std::string_view cautionBadg
 std::string itemDetail(const CleanupItem& item) {
     auto detail = item.target.detail;
     if (item.isInUse()) detail = "Quit " + item.runningPrograms.front() + " first. " + detail;
-    const auto all = addSaturating(item.sizeBytes, item.sharedBytes);
-    if (item.sharedBytes == 0 || item.sharedBytes < all / partWorthTelling) return detail;
-    return detail + " " + byteText(item.sharedBytes) +
-           " more is shared with other files and would stay.";
+    return detail + sharedNote(item.sizeBytes, item.sharedBytes);
 }
 
 ItemChipContent itemChip(const CleanupItem& item, std::string_view cautionBadge) {

@@ -26,8 +26,8 @@ Model scannedModel(const Context& context) {
     return model;
 }
 
-void printBigItem(const BigItem& item, System system) {
-    const auto card = bigItemCard(item, {}, system);
+void printCard(const BigItemCard& card) {
+    const auto& item = card.item;
     printLine("  " + leftAligned(terminalText(item.name), nameColumns) +
               rightAligned(card.size, sizeColumns) + "  " +
               inked(terminalText(item.location), Ink::faint));
@@ -48,11 +48,12 @@ void printList(const DeepScanViewModel& model) {
         printLine();
         printLine(inked(row.look.title, Ink::strong) + "  " + inked(row.line, Ink::faint));
         printLine(inked(row.look.subtitle, Ink::faint));
-        for (const auto& item : itemsIn(row.bucket, model.items()))
-            printBigItem(item, model.system);
+        for (const auto& card : cardsIn(row.bucket, model, {})) printCard(card);
     }
     printLine();
     printLine("Just looking: nothing was moved. tidewell-cli trash ID moves an item to the Trash.");
+    if (content.rail.back().bucket == RiskBucket::inTrash)
+        printLine("tidewell-cli put-back NAME moves it back.");
 }
 
 std::variant<std::vector<BigItem>, WrongCall> wantedItems(const DeepScanViewModel& model,
@@ -130,7 +131,7 @@ Outcome runDeepScan(const Context& context, const DeepScanCall&) {
     } else {
         printList(*model);
     }
-    tellUnread(model->leftOut(), model->system);
+    tellUnread(model->leftOut(), model->host.system);
     return ExitStatus::done;
 }
 

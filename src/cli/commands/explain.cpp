@@ -7,7 +7,7 @@
 #include "cli/shapes.h"
 #include "deepscan/screens/deep_scan_content.h"
 #include "kit/byte_text.h"
-#include "platform/disk_usage.h"
+#include "platform/freed_usage.h"
 #include "platform/path_text.h"
 #include "platform/text.h"
 
@@ -99,7 +99,7 @@ Explanation explain(const std::string& word, const Host& host) {
     const auto fact = FolderKnowledge::fact(path, host);
     return {
         .path = path,
-        .sizeBytes = allocatedSize(path),
+        .sizeBytes = freedUsage(path, host.system).freedBytes,
         .kind = finalKind(classifyPlace(path, host, KeptPlaces(host)), fact),
         .fact = fact,
         .claimedBy = claimingRows(path, host),

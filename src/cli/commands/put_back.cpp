@@ -7,7 +7,7 @@
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
 #include "platform/dates.h"
-#include "platform/disk_usage.h"
+#include "platform/freed_usage.h"
 #include "platform/removal.h"
 #include "platform/text.h"
 
@@ -56,18 +56,22 @@ std::variant<Items, WrongCall> wantedItems(const Items& items,
     return wanted;
 }
 
+ByteCount sizeOf(const TrashedItem& item, const Host& host) {
+    return freedUsage(item.path, host.system).freedBytes;
+}
+
 ExitStatus list(const Context& context, const Items& items) {
     if (context.form == OutputForm::json) {
         Value::List entries;
         for (const auto& item : items)
-            entries.push_back(trashedItemShape(item, allocatedSize(item.path)));
+            entries.push_back(trashedItemShape(item, sizeOf(item, context.host)));
         printDocument(Value::Object{{"items", std::move(entries)}});
         return ExitStatus::done;
     }
     if (items.empty()) printLine("The Trash is empty.");
     for (const auto& item : items) {
         printLine("  " + leftAligned(terminalText(item.name), nameColumns) +
-                  rightAligned(byteText(allocatedSize(item.path)), sizeColumns) + "  " +
+                  rightAligned(byteText(sizeOf(item, context.host)), sizeColumns) + "  " +
                   (item.deletedAt ? relativeDateInWords(*item.deletedAt, now()) : ""));
         printLine("    " + inked(terminalText(item.origin.value_or(unknownOrigin)), Ink::faint));
     }

@@ -52,6 +52,9 @@ enum class TopEntries {
     goUnlessRoots,  ///< nor what holds a root or an engine's disks, wherever it lies
 };
 
+/// Whether what lies in the Trash is told of, apart from the big items.
+enum class TrashInList { none, listed };
+
 /// What the deep scan knows of one system's machines. Paths are table paths.
 struct DeepScanKnowledge {
     std::span<const KnownFolder> names;   ///< folders by their whole name
@@ -63,6 +66,7 @@ struct DeepScanKnowledge {
     std::span<const std::string_view> homeRootExclusions;
     HomeEntries homeEntries = HomeEntries::passedOver;
     TopEntries topEntries = TopEntries::neverGo;
+    TrashInList trash = TrashInList::none;
     /// What an entry is by its name and its place.
     BigItem::Kind (*classify)(std::string_view path, const Host& host, const KeptEntries& kept);
 

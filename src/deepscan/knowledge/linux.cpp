@@ -400,6 +400,7 @@ DeepScanKnowledge linuxDeepScanKnowledge() {
             .homeRootExclusions = homeRootExclusions,
             .homeEntries = HomeEntries::listed,
             .topEntries = TopEntries::goUnlessRoots,
+            .trash = TrashInList::listed,
             .classify = classify,
             .installers = installerTypes,
             .nested = NestedInstallers::partOfTheirFolder,

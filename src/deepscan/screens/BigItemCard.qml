@@ -14,15 +14,18 @@ Surface {
     property string note
     property string revealSymbol
     property string revealHelp
-    /// Empty: there is no such button. The same holds for the command.
+    /// Empty: there is no such button. The same holds for the command, and for putting back.
     property string trashHelp
     property string trashSymbol: "trash"
     property string commandLabel
     property string commandHelp
+    property string putBackLabel
+    property string putBackHelp
 
     signal revealed()
     signal trashed()
     signal copied()
+    signal returned()
 
     implicitHeight: Math.max(88, words.implicitHeight + 28)
     reacts: true
@@ -119,6 +122,13 @@ Surface {
                     text: root.commandHelp
                     visible: command.hovered
                 }
+            }
+            SmallButton {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: text !== ""
+                text: root.putBackLabel
+                description: root.putBackHelp
+                onClicked: root.returned()
             }
             IconButton {
                 anchors.verticalCenter: parent.verticalCenter

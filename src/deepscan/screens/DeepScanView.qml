@@ -81,7 +81,7 @@ FocusScope {
             tint: root.screen.bannerColor
             title: root.screen.bannerText
             undoLabel: root.screen.undoLabel
-            onUndone: root.screen.putBack()
+            onUndone: root.screen.undo()
         }
 
         Column {
@@ -164,11 +164,14 @@ FocusScope {
                 required trashHelp
                 required commandLabel
                 required commandHelp
+                required putBackLabel
+                required putBackHelp
 
                 width: list.cardWidth
                 onRevealed: root.screen.reveal(index)
                 onTrashed: root.screen.trash(index)
                 onCopied: root.screen.copyCommand(index)
+                onReturned: root.screen.putBack(index)
             }
         }
     }

@@ -5,7 +5,10 @@
 
 #include "kit/byte_text.h"
 #include "kit/left_out.h"
+#include "kit/shared_note.h"
 #include "kit/words.h"
+#include "platform/dates.h"
+#include "platform/path_text.h"
 
 namespace tidewell {
 
@@ -45,6 +48,10 @@ constexpr auto bucketRows = std::to_array<BucketRow>({
      "Looks like your own files. Reveal and check before trashing."},
     {"Other", "questionmark.circle.fill", secondaryColor,
      "Unsorted big items. Reveal each to see what it is."},
+    {"In the Trash",
+     "trash",
+     {0.56, 0.66, 0.82},
+     "Takes up room until the Trash is emptied. Until then, it can go back where it was."},
 });
 
 static_assert(bucketRows.size() == allRiskBuckets.size());
@@ -52,28 +59,49 @@ static_assert(bucketRows.size() == allRiskBuckets.size());
 constexpr double iconBackgroundOpacity = 0.16;
 constexpr Color otherIconColor = whiteAt(0.55);
 
+constexpr std::string_view nothingBig = "No big items over 80 MB";
+
 constexpr std::string_view unknownNote = "No intel on this one. Hit Reveal and check it first.";
+
+std::string_view undoLabel(const std::optional<TrashedItem>& undoable) {
+    return undoable ? putBackLabel : std::string_view();
+}
 
 std::string quoted(std::string_view text) {
     return "“" + std::string(text) + "”";
 }
 
-RiskRow riskRow(RiskBucket bucket, const std::vector<BigItem>& bucketItems, bool isViewing) {
-    const auto bytes = totalBytes(bucketItems);
-    return {.bucket = bucket,
-            .look = look(bucket),
-            .count = bucketItems.size(),
-            .bytes = bytes,
-            .line = std::to_string(bucketItems.size()) + " · " + byteText(bytes),
-            .isViewing = isViewing};
+bool isShownIn(RiskBucket bucket, const BigItem& item) {
+    return riskBucket(item.kind) == bucket;
 }
 
-std::vector<RiskRow> riskRows(const std::vector<BigItem>& items, std::optional<RiskBucket> shown) {
+bool isShownIn(RiskBucket bucket, const TrashedThing&) {
+    return bucket == RiskBucket::inTrash;
+}
+
+void count(RiskRow& row, const auto& things) {
+    for (const auto& thing : things) {
+        if (!isShownIn(row.bucket, thing)) continue;
+        ++row.count;
+        row.bytes = addSaturating(row.bytes, thing.sizeBytes);
+    }
+}
+
+bool showsTrash(const DeepScanViewModel& model) {
+    return model.listsTrash && !model.inTrash().empty();
+}
+
+std::vector<RiskRow> riskRows(const DeepScanViewModel& model, std::optional<RiskBucket> wanted) {
     std::vector<RiskRow> rows;
     for (const auto bucket : allRiskBuckets) {
-        const auto bucketItems = itemsIn(bucket, items);
-        if (!bucketItems.empty()) rows.push_back(riskRow(bucket, bucketItems, bucket == shown));
+        RiskRow row{.bucket = bucket, .look = look(bucket), .line = {}};
+        count(row, model.items());
+        if (showsTrash(model)) count(row, model.inTrash());
+        row.line = std::to_string(row.count) + " · " + byteText(row.bytes);
+        if (row.count > 0) rows.push_back(std::move(row));
     }
+    const auto found = std::ranges::find(rows, wanted, &RiskRow::bucket);
+    if (!rows.empty()) (found == rows.end() ? rows.front() : *found).isViewing = true;
     return rows;
 }
 
@@ -94,20 +122,19 @@ DeepScanContent::Page pageOf(const DeepScanViewModel& model) {
         case DeepScanViewModel::Phase::scanning:
             return DeepScanContent::Page::scanning;
         case DeepScanViewModel::Phase::list:
-            return model.items().empty() ? DeepScanContent::Page::nothingFound
-                                         : DeepScanContent::Page::list;
+            return model.items().empty() && !showsTrash(model) ? DeepScanContent::Page::nothingFound
+                                                               : DeepScanContent::Page::list;
     }
     return DeepScanContent::Page::start;
 }
 
-void fillList(DeepScanContent& content, const std::vector<BigItem>& items,
-              const DeepScanScreenState& state, System system) {
-    const auto shown = shownBucket(items, state.viewingBucket);
-    content.summary = deepScanSummary(items);
-    content.rail = riskRows(items, shown);
-    content.bucketSubtitle = look(*shown).subtitle;
-    for (const auto& item : itemsIn(*shown, items))
-        content.cards.push_back(bigItemCard(item, state.copiedItems, system));
+void fillList(DeepScanContent& content, const DeepScanViewModel& model,
+              const DeepScanScreenState& state) {
+    content.summary = deepScanSummary(model.items());
+    content.rail = riskRows(model, state.viewingBucket);
+    const auto shown = std::ranges::find(content.rail, true, &RiskRow::isViewing);
+    content.bucketSubtitle = shown->look.subtitle;
+    content.cards = cardsIn(shown->bucket, model, state.copiedItems);
 }
 
 void fillPage(DeepScanContent& content, const DeepScanViewModel& model,
@@ -127,13 +154,13 @@ void fillPage(DeepScanContent& content, const DeepScanViewModel& model,
             break;
         case DeepScanContent::Page::nothingFound:
             content.placard = {.symbol = "checkmark.seal.fill",
-                               .title = "No big items over 80 MB",
+                               .title = nothingBig,
                                .line = "Nothing big hiding anywhere."};
             content.scanLabel = "Rescan";
             break;
         case DeepScanContent::Page::list:
             content.scanLabel = "Rescan";
-            fillList(content, model.items(), state, model.system);
+            fillList(content, model, state);
             break;
     }
 }
@@ -169,21 +196,6 @@ RiskBucketLook look(RiskBucket bucket) {
             .iconBackground = row.color.withOpacity(iconBackgroundOpacity)};
 }
 
-std::vector<BigItem> itemsIn(RiskBucket bucket, const std::vector<BigItem>& items) {
-    std::vector<BigItem> found;
-    std::ranges::copy_if(items, std::back_inserter(found),
-                         [bucket](const BigItem& item) { return riskBucket(item.kind) == bucket; });
-    return found;
-}
-
-std::optional<RiskBucket> shownBucket(const std::vector<BigItem>& items,
-                                      std::optional<RiskBucket> wanted) {
-    if (wanted && !itemsIn(*wanted, items).empty()) return wanted;
-    for (const auto bucket : allRiskBuckets)
-        if (!itemsIn(bucket, items).empty()) return bucket;
-    return std::nullopt;
-}
-
 std::string_view badge(BigItem::Kind kind) {
     switch (kind) {
         case BigItem::Kind::container:
@@ -215,13 +227,53 @@ BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copied
                      .size = byteText(item.sizeBytes),
                      .badge = badge(item.kind),
                      .badgeColor = look(riskBucket(item.kind)).color,
-                     .note = item.note.value_or(std::string(unknownNote)),
+                     .note = item.note.value_or(std::string(unknownNote)) +
+                             sharedNote(item.sizeBytes, item.sharedBytes),
                      .revealSymbol = "magnifyingglass",
                      .revealHelp = wordsOf(system).reveal,
                      .trashHelp = std::nullopt,
                      .copyCommand = copyCommandButton(item, copiedItems)};
     if (isTrashable(item.kind)) card.trashHelp = "Move " + item.name + " to Trash";
     return card;
+}
+
+BigItemCard trashedCard(const TrashedThing& thing, const Host& host, Date now) {
+    const auto& item = thing.item;
+    BigItem shown{.id = item.path,
+                  .name = thing.name(),
+                  .location = {},
+                  .sizeBytes = thing.sizeBytes,
+                  .isDirectory = item.isFolder,
+                  .note = std::nullopt,
+                  .reclaimCommand = std::nullopt};
+    if (item.origin) shown.location = host.relativeToHome(parentPath(*item.origin));
+    auto card = bigItemCard(shown, {}, host.system);
+    card.badge = look(RiskBucket::inTrash).title;
+    card.badgeColor = look(RiskBucket::inTrash).color;
+    card.trashHelp.reset();
+    card.note = "Moved to the Trash";
+    if (item.deletedAt) card.note += " " + relativeDateInWords(*item.deletedAt, now);
+    card.note += ".";
+    if (item.origin) {
+        card.putBack = PutBackButton{.item = item,
+                                     .label = putBackLabel,
+                                     .help = "Put " + shown.name + " back where it was"};
+    } else {
+        card.note += " It is not known where it came from: move it back by hand.";
+    }
+    return card;
+}
+
+std::vector<BigItemCard> cardsIn(RiskBucket bucket, const DeepScanViewModel& model,
+                                 const std::set<std::string>& copiedItems) {
+    std::vector<BigItemCard> cards;
+    for (const auto& item : model.items())
+        if (isShownIn(bucket, item))
+            cards.push_back(bigItemCard(item, copiedItems, model.host.system));
+    if (showsTrash(model) && bucket == RiskBucket::inTrash)
+        for (const auto& thing : model.inTrash())
+            cards.push_back(trashedCard(thing, model.host, now()));
+    return cards;
 }
 
 TrashConfirmation trashConfirmation(const BigItem& item) {
@@ -247,20 +299,22 @@ TrashBanner trashBanner(const BigItemScanner::TrashOutcome& outcome, System syst
             .color = look(RiskBucket::safe).color,
             .text = "Moved " + outcome.name + " to the Trash • " + byteText(outcome.freedBytes) +
                     ". Empty the Trash to lock it in.",
-            .undoLabel = outcome.moved ? putBackLabel : std::string_view()};
+            .undoLabel = undoLabel(outcome.moved)};
 }
 
 TrashBanner putBackBanner(const DeepScanViewModel::PutBackOutcome& outcome) {
     if (!outcome.problem.empty())
         return {.symbol = "exclamationmark.triangle.fill",
                 .color = look(RiskBucket::review).color,
-                .text = "Couldn't put " + outcome.name + " back. " + outcome.problem};
+                .text = "Couldn't put " + outcome.name + " back. " + outcome.problem,
+                .undoLabel = undoLabel(outcome.stayed)};
     return {.symbol = "checkmark.circle.fill",
             .color = look(RiskBucket::safe).color,
             .text = "Put " + outcome.name + " back where it was."};
 }
 
 std::string deepScanSummary(const std::vector<BigItem>& items) {
+    if (items.empty()) return std::string(nothingBig);
     return std::to_string(items.size()) + " big items • " + byteText(totalBytes(items));
 }
 
@@ -270,13 +324,9 @@ DeepScanContent deepScanContent(const DeepScanViewModel& model, const DeepScanSc
     content.header = "Deep Scan";
     fillPage(content, model, state);
     if (state.pendingTrash) content.confirmation = trashConfirmation(*state.pendingTrash);
-    content.leftOutNote = leftOutNote(model.leftOut(), model.system);
-    if (model.lastResult()) content.banner = trashBanner(*model.lastResult(), model.system);
-    if (model.lastPutBack()) {
-        const auto undoLabel = content.banner ? content.banner->undoLabel : std::string_view();
-        content.banner = putBackBanner(*model.lastPutBack());
-        content.banner->undoLabel = undoLabel;
-    }
+    content.leftOutNote = leftOutNote(model.leftOut(), model.host.system);
+    if (model.lastResult()) content.banner = trashBanner(*model.lastResult(), model.host.system);
+    if (model.lastPutBack()) content.banner = putBackBanner(*model.lastPutBack());
     return content;
 }
 

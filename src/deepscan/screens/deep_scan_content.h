@@ -20,13 +20,14 @@ namespace tidewell {
 
 /// What may be done with an item, as its colour tells: green is safe, red is the user's own. In the
 /// order of the rows on the screen.
-enum class RiskBucket { safe, installer, container, review, personal, other };
+enum class RiskBucket { safe, installer, container, review, personal, other, inTrash };
 
 inline constexpr std::array allRiskBuckets = {
-    RiskBucket::safe,   RiskBucket::installer, RiskBucket::container,
-    RiskBucket::review, RiskBucket::personal,  RiskBucket::other,
+    RiskBucket::safe,     RiskBucket::installer, RiskBucket::container, RiskBucket::review,
+    RiskBucket::personal, RiskBucket::other,     RiskBucket::inTrash,
 };
 
+/// Of an item that is still where it was.
 RiskBucket riskBucket(BigItem::Kind kind);
 
 struct RiskBucketLook {
@@ -42,14 +43,6 @@ struct RiskBucketLook {
 
 RiskBucketLook look(RiskBucket bucket);
 
-/// The items of a bucket, in their order.
-std::vector<BigItem> itemsIn(RiskBucket bucket, const std::vector<BigItem>& items);
-
-/// The bucket to show: the wanted one while it has items, else the first that has some. Absent only
-/// if there are no items at all.
-std::optional<RiskBucket> shownBucket(const std::vector<BigItem>& items,
-                                      std::optional<RiskBucket> wanted);
-
 /// What is written on an item of this kind.
 std::string_view badge(BigItem::Kind kind);
 
@@ -61,9 +54,9 @@ inline constexpr std::chrono::seconds copiedDuration{2};
 
 /// What the screen itself remembers; lost when it is left.
 struct DeepScanScreenState {
-    std::optional<RiskBucket> viewingBucket;
-    std::optional<BigItem> pendingTrash;  ///< awaits the user's answer
-    std::set<std::string> copiedItems;    ///< ids of the items whose command was copied just now
+    std::optional<RiskBucket> viewingBucket;  ///< the first that has some, if this one has none
+    std::optional<BigItem> pendingTrash;      ///< awaits the user's answer
+    std::set<std::string> copiedItems;  ///< ids of the items whose command was copied just now
 };
 
 /// A bucket's row in the rail.
@@ -86,8 +79,16 @@ struct CopyCommandButton {
     bool operator==(const CopyCommandButton&) const = default;
 };
 
+struct PutBackButton {
+    TrashedItem item;
+    std::string_view label;
+    std::string help;
+
+    bool operator==(const PutBackButton&) const = default;
+};
+
 struct BigItemCard {
-    BigItem item;
+    BigItem item;  ///< of what lies in the Trash, what it is there and where it came from
     std::string_view symbol;
     std::string size;
     std::string_view badge;
@@ -97,6 +98,7 @@ struct BigItemCard {
     std::string_view revealHelp;
     std::optional<std::string> trashHelp;          ///< absent: there is no such button
     std::optional<CopyCommandButton> copyCommand;  ///< the same
+    std::optional<PutBackButton> putBack = {};     ///< the same
 
     bool operator==(const BigItemCard&) const = default;
 };
@@ -104,6 +106,11 @@ struct BigItemCard {
 /// `copiedItems` as in the screen's state.
 BigItemCard bigItemCard(const BigItem& item, const std::set<std::string>& copiedItems,
                         System system);
+BigItemCard trashedCard(const TrashedThing& thing, const Host& host, Date now);
+
+/// The cards of a bucket, in the order of the model.
+std::vector<BigItemCard> cardsIn(RiskBucket bucket, const DeepScanViewModel& model,
+                                 const std::set<std::string>& copiedItems);
 
 struct TrashConfirmation {
     std::string_view title;
@@ -157,7 +164,7 @@ struct DeepScanContent {
 
 DeepScanContent deepScanContent(const DeepScanViewModel& model, const DeepScanScreenState& state);
 
-/// "3 big items • 12.5 GB"
+/// "3 big items • 12.5 GB"; in words if there are none.
 std::string deepScanSummary(const std::vector<BigItem>& items);
 
 }  // namespace tidewell

@@ -34,9 +34,9 @@ std::string cardKey(const BigItemCard& card) {
 
 std::vector<ListModel<BigItemCard>::Role> cardRoles() {
     using Card = BigItemCard;
-    const auto commandText = [](auto field) {
-        return [field](const Card& card) {
-            return card.copyCommand ? toText((*card.copyCommand).*field) : QString();
+    const auto textOf = [](auto button, auto field) {
+        return [button, field](const Card& card) {
+            return card.*button ? toText((*(card.*button)).*field) : QString();
         };
     };
     return {
@@ -50,8 +50,10 @@ std::vector<ListModel<BigItemCard>::Role> cardRoles() {
         {"revealSymbol", [](const Card& card) { return toText(card.revealSymbol); }},
         {"revealHelp", [](const Card& card) { return toText(card.revealHelp); }},
         {"trashHelp", [](const Card& card) { return toText(card.trashHelp.value_or("")); }},
-        {"commandLabel", commandText(&CopyCommandButton::label)},
-        {"commandHelp", commandText(&CopyCommandButton::help)},
+        {"commandLabel", textOf(&Card::copyCommand, &CopyCommandButton::label)},
+        {"commandHelp", textOf(&Card::copyCommand, &CopyCommandButton::help)},
+        {"putBackLabel", textOf(&Card::putBack, &PutBackButton::label)},
+        {"putBackHelp", textOf(&Card::putBack, &PutBackButton::help)},
     };
 }
 
@@ -122,8 +124,14 @@ void DeepScanScreen::trash(int row) {
     refresh();
 }
 
-void DeepScanScreen::putBack() {
-    spawn(model_, &DeepScanViewModel::putBack);
+void DeepScanScreen::putBack(int row) {
+    const auto* card = cards_.atRest(row);
+    if (card && card->putBack) spawn(model_, &DeepScanViewModel::putBack, card->putBack->item);
+}
+
+void DeepScanScreen::undo() {
+    if (auto item = model_->undoable())
+        spawn(model_, &DeepScanViewModel::putBack, std::move(*item));
 }
 
 void DeepScanScreen::confirmTrash() {

@@ -88,8 +88,9 @@ class DeepScanScreen final : public Screen {
     Q_INVOKABLE void copyCommand(int row);
     /// Asks first, where the item may be dear to the user.
     Q_INVOKABLE void trash(int row);
-    /// Undoes the move that the banner tells of.
-    Q_INVOKABLE void putBack();
+    Q_INVOKABLE void putBack(int row);
+    /// Puts back what the banner tells of.
+    Q_INVOKABLE void undo();
     // The answers to that question.
     Q_INVOKABLE void confirmTrash();
     Q_INVOKABLE void cancelTrash();
