@@ -146,8 +146,9 @@ int main() {
     std::cout << introduction;
     printSystem(linuxIntroduction, System::linux);
     std::cout << neverSweptIntroduction;
-    for (const auto name : catalogueOf(System::linux).neverSwept)
-        std::cout << "- " << codeText(name) << '\n';
+    for (const auto names :
+         {keptKnowledge(System::linux).neverSwept, catalogueOf(System::linux).neverSwept})
+        for (const auto name : names) std::cout << "- " << codeText(name) << '\n';
     printSystem(macOSIntroduction, System::macOS);
     std::cout << keysIntroduction;
     printList(keptKnowledge(System::macOS).keys);

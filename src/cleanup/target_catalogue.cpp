@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "cleanup/deletion_guard.h"
+#include "cleanup/kept_entries.h"
 
 namespace tidewell {
 
@@ -82,15 +83,19 @@ std::vector<std::string> namedCacheFolders(const Host& host) {
 std::vector<TablePath> neverSweptPaths(const Host& host) {
     const auto catalogue = catalogueOf(host.system);
     std::vector<TablePath> never;
-    for (const auto name : catalogue.neverSwept) {
-        if (name.find('/') != std::string_view::npos) {
-            never.emplace_back(name, host);
-            continue;
-        }
+    const auto addInEverySweptFolder = [&](std::string_view name) {
         for (const auto& row : catalogue.rows)
             if (row.kind == TargetKind::sweep)
                 for (const auto folder : row.paths)
                     never.emplace_back(std::string(folder) + "/" + std::string(name), host);
+    };
+    for (const auto name : keptKnowledge(host.system).neverSwept) addInEverySweptFolder(name);
+    for (const auto name : catalogue.neverSwept) {
+        if (name.find('/') == std::string_view::npos) {
+            addInEverySweptFolder(name);
+        } else {
+            never.emplace_back(name, host);
+        }
     }
     return never;
 }

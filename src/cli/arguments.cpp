@@ -135,10 +135,12 @@ void addAdvisorCommand(CLI::App& app, Call& call) {
     CLI::App* command = nullptr;
     auto& advisor = addCommand<AdvisorCall>(
         app, call, "advisor", "Cleanups with the platform's own tools", runAdvisor, command);
-    command->add_option("--delete-runtime", advisor.deleteRuntime, "Delete a Simulator runtime")
+    command
+        ->add_option("--delete-runtime", advisor.deleteRuntime,
+                     "Delete one of the runtimes that it found")
         ->type_name("ID");
     command->add_flag("--remove-unavailable", advisor.removeUnavailable,
-                      "Remove simulators whose runtime is gone");
+                      "Remove devices whose runtime is gone");
     command->add_flag("--thin-snapshots", advisor.thinSnapshots,
                       "Ask the system to purge local snapshots");
     addConsent(*command, call, advisor.consent);

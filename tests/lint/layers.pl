@@ -44,6 +44,8 @@ for my $file (sources($root, 'src')) {
             if defined $header && refusedHeader($file, $header);
         complain($file, $line, "includes are written from src/ on: \"$own\"")
             if defined $own && $own =~ m{^\.\.?/};
+        complain($file, $line, "what one host answers is asked for by its contract: \"$own\"")
+            if defined $own && $own =~ m{^platform/linux/} && $file !~ m{^src/platform/linux/};
     }
     next if $file =~ m{^src/platform/};
     while ($code =~ /\b(?:secure_getenv|getenv|qgetenv|environ|qEnvironmentVariable\w*)\b/g) {

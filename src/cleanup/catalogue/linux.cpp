@@ -732,35 +732,8 @@ constexpr auto rows = std::to_array<CatalogueRow>({
 
 static_assert(idsAreUnique(rows));
 
-/// What looks like a cache and is none: uploads that still wait, passwords' state, local history,
-/// environments, the desktop's own memory.
-constexpr auto neverSwept = std::to_array<std::string_view>({
-    "rclone",
-    "keepassxc",
-    "evolution",
-    "ibus",
-    "obexd",
-    "doc",
-    "kwin",
-    "plasma*",
-    "ksycoca*",
-    "borg",
-    "restic",
-    "cliphist",
-    "sessions",
-    "dconf",
-    "gvfs*",
-    "flatpak",
-    "pypoetry",
-    "JetBrains",
-    "{cache}/spotify/Storage",
-    "virtualenv",
-    "huggingface",
-    "torch",
-    "lm-studio",
-    "whisper",
-    "~/.var/app/*/cache/tmp",
-});
+/// What a running program in a sandbox works with.
+constexpr auto neverSwept = std::to_array<std::string_view>({"~/.var/app/*/cache/tmp"});
 
 constexpr auto modelCaches = std::to_array<CatalogueRow>({
     {

@@ -47,8 +47,9 @@ enum class SweepCare {
 /// What Clean knows of one system's machines.
 struct Catalogue {
     std::span<const CatalogueRow> rows;
-    /// Entries of swept folders that no sweep takes. A bare name holds in every swept folder; what
-    /// has slashes is a path. Both may be patterns.
+    /// Entries of swept folders that no sweep takes, beside what nobody may remove there (see
+    /// kept_entries.h). A bare name holds in every swept folder; what has slashes is a path. Both
+    /// may be patterns.
     std::span<const std::string_view> neverSwept;
     /// Dev Mode's rows alone: large and slow to load again, so never ticked.
     std::span<const CatalogueRow> modelCaches;

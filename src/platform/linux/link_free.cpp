@@ -1,4 +1,4 @@
-#include "platform/linux/link_free.h"
+#include "platform/posix/link_free.h"
 
 #include <linux/openat2.h>
 #include <sys/stat.h>

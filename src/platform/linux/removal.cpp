@@ -12,13 +12,13 @@
 #include <vector>
 
 #include "platform/linux/entry_batch.h"
-#include "platform/linux/link_free.h"
 #include "platform/linux/tree_folder.h"
 #include "platform/linux/way_down.h"
 #include "platform/linux/whereabouts.h"
 #include "platform/linux/work_pool.h"
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/link_free.h"
 
 namespace tidewell {
 

@@ -10,7 +10,7 @@
 #include <array>
 #include <charconv>
 
-#include "platform/linux/link_free.h"
+#include "platform/posix/link_free.h"
 
 namespace tidewell::linux_system {
 

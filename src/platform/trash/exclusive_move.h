@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/linux/link_free.h"
+#include "platform/posix/link_free.h"
 
 namespace tidewell::trash {
 

@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <ranges>
 
-#include "platform/linux/link_free.h"
+#include "platform/posix/link_free.h"
 
 namespace tidewell::trash {
 

@@ -1,8 +1,8 @@
 #include "platform/trash/volume_top.h"
 
-#include "platform/linux/link_free.h"
 #include "platform/path_text.h"
 #include "platform/posix/folder_identity.h"
+#include "platform/posix/link_free.h"
 
 namespace tidewell::trash {
 
