@@ -98,6 +98,25 @@ void addApplications(const SampleMachine& machine) {
     machine.text("/usr/share/applications/tides.desktop",
                  "[Desktop Entry]\nType=Application\nName=Tides\nExec=/usr/bin/tides\n");
     machine.tool("/usr/bin/tides", "exec sleep 600\n");
+    machine.text("/var/lib/dpkg/status",
+                 "Package: tides\nStatus: install ok installed\nVersion: 2.4-1\n"
+                 "Installed-Size: 48211\n");
+    machine.text("/var/lib/dpkg/info/tides.list", "/usr/share/applications/tides.desktop\n");
+    machine.tool("/usr/bin/apt-get", "echo 'Remv tides [2.4-1]'; echo 'Remv tides-data [2.4-1]'\n");
+    machine.file("~/.cache/tides/charts", 11 * megabyte);
+    machine.file("~/.config/tides/harbours", 1 * megabyte);
+    constexpr auto atlas = "~/.local/share/flatpak/app/org.example.Atlas";
+    machine.file(atlas + std::string("/x86_64/stable/1f2e/files/atlas"), 96 * megabyte);
+    machine.text(atlas + std::string("/x86_64/stable/1f2e/export/share/applications/"
+                                     "org.example.Atlas.desktop"),
+                 "[Desktop Entry]\nType=Application\nName=Atlas\n");
+    machine.link(atlas + std::string("/x86_64/stable/active"), "1f2e");
+    machine.link(atlas + std::string("/current"), "x86_64/stable");
+    machine.tool("/usr/bin/flatpak", "exit 0\n");
+    machine.file("~/.var/app/org.example.Atlas/data/maps", 37 * megabyte);
+    machine.text("~/Downloads/Sketch-2.1.AppImage", std::string("\x7F"
+                                                                "ELF\2\1\1\0AI\2",
+                                                                11));
     machine.text("~/.local/share/applications/painter.desktop",
                  "[Desktop Entry]\nType=Application\nName=Painter\n"
                  "Exec=/home/ada/.local/opt/painter/painter\n");

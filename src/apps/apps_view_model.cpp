@@ -1,5 +1,6 @@
 #include "apps/apps_view_model.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "async/background.h"
@@ -8,7 +9,8 @@
 
 namespace tidewell {
 
-AppsViewModel::AppsViewModel(const Host& host) : scanner(host, applicationFolders(host)) {}
+AppsViewModel::AppsViewModel(const Host& host)
+    : scanner(host, applicationFolders(host)), system{host.system} {}
 
 std::vector<InstalledApp> AppsViewModel::sortedApps() const {
     return sorted(apps(), sortOrder(), now());
@@ -47,16 +49,21 @@ Task<> AppsViewModel::scan() {
 Task<> AppsViewModel::prepareUninstall(InstalledApp app) {
     isBuildingPlan = true;
     try {
-        auto searching =
-            background([scanner = scanner, app] { return scanner.findLeftovers(app); });
-        auto leftovers = co_await searching;
+        auto planning = background([scanner = scanner, app] { return scanner.plan(app); });
+        auto plan = co_await planning;
         isBuildingPlan = false;
-        if (!leaving_.contains(app.id))
-            pendingPlan = UninstallPlan{.app = std::move(app), .leftovers = std::move(leftovers)};
+        if (!leaving_.contains(app.id)) pendingPlan = std::move(plan);
     } catch (...) {
         isBuildingPlan = false;
         throw;
     }
+}
+
+void AppsViewModel::toggleLeftover(const std::string& path) {
+    if (!pendingPlan()) return;
+    auto& leftovers = pendingPlan.mutate()->leftovers;
+    const auto chosen = std::ranges::find(leftovers, path, &LeftoverFile::url);
+    if (chosen != leftovers.end()) chosen->isSelected = !chosen->isSelected;
 }
 
 Task<> AppsViewModel::confirmUninstall() {

@@ -41,6 +41,7 @@ class AppsViewModel : public std::enable_shared_from_this<AppsViewModel> {
     Published<std::optional<PutBackResult>> lastPutBack{willChange};
 
     const AppScanner scanner;
+    const System system;  ///< of the machine whose applications they are
 
     /// The applications in the order that the user chose.
     std::vector<InstalledApp> sortedApps() const;
@@ -51,6 +52,8 @@ class AppsViewModel : public std::enable_shared_from_this<AppsViewModel> {
     /// Searches the application's leftovers and makes a plan of them, unless the application is on
     /// its way to the Trash by then.
     Task<> prepareUninstall(InstalledApp app);
+    /// Turns round whether a leftover of the pending plan goes.
+    void toggleLeftover(const std::string& path);
     /// Carries out the pending plan, if there is one.
     Task<> confirmUninstall();
     /// Undoes the last uninstall; does nothing without one, or while it is being undone. The

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,13 +20,25 @@ struct LeftoverFile {
     std::string url;  ///< its path, standardised
     std::string category;
     ByteCount sizeBytes = 0;
+    bool isSelected = true;  ///< whether it goes
 };
 
-/// What goes to the Trash together.
+/// A command that only the user may give, and what it would do beside what he wants.
+struct ShownCommand {
+    std::string text;
+    std::vector<std::string> takesAlong = {};  ///< other packages that would go
+    std::vector<std::string> neededByDesktop =
+        {};  ///< those of them without which no session works
+};
+
+/// What goes together, as far as it is the program's to take away.
 struct UninstallPlan {
     InstalledApp app;
-    std::vector<LeftoverFile> leftovers;  ///< largest first
+    std::vector<LeftoverFile> leftovers;  ///< what goes by itself first, then largest first
+    std::optional<ShownCommand> command = std::nullopt;  ///< then the application itself stays
 
+    /// How many things would go, and how many bytes.
+    std::int64_t itemCount() const;
     ByteCount totalBytes() const;
 };
 
@@ -35,7 +48,8 @@ struct UninstallResult {
     std::int64_t movedCount = 0;
     ByteCount freedBytes = 0;
     std::vector<std::string> failed;  ///< names of what stayed, or why nothing was begun
-    bool appBundleMoved = false;
+    bool appBundleMoved = false;      ///< whether the application is gone
+    UninstallWay way = UninstallWay::trash;
     std::vector<TrashedItem>
         moved;  ///< what went is in the Trash now, in the order in which it went
 };

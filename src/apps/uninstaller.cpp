@@ -1,5 +1,6 @@
 #include "apps/uninstaller.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "apps/uninstall_guard.h"
@@ -12,7 +13,7 @@ namespace tidewell {
 
 namespace {
 
-enum class ItemKind { bundle, leftover, launchAgent };
+enum class ItemKind { application, leftover, launchAgent };
 
 struct WorkItem {
     std::string path;  ///< as the plan names it
@@ -20,9 +21,13 @@ struct WorkItem {
     ItemKind kind;
 };
 
+/// What goes to the Trash. The application itself does only where it is the program's to move.
 std::vector<WorkItem> workList(const UninstallPlan& plan) {
-    std::vector<WorkItem> items = {{plan.app.url, plan.app.sizeBytes, ItemKind::bundle}};
+    std::vector<WorkItem> items;
+    if (uninstallWay(plan.app.kind) == UninstallWay::trash)
+        items.push_back({plan.app.url, plan.app.sizeBytes, ItemKind::application});
     for (const auto& leftover : plan.leftovers) {
+        if (!leftover.isSelected) continue;
         const auto kind =
             leftover.category == launchAgentCategory ? ItemKind::launchAgent : ItemKind::leftover;
         items.push_back({leftover.url, leftover.sizeBytes, kind});
@@ -49,16 +54,45 @@ Trashing moveItem(const WorkItem& item, const UninstallGuard& guard, const Host&
     return moveToTrash(*approved, host);
 }
 
+bool isRunning(const InstalledApp& app, const Host& host) {
+    if (app.kind == AppKind::bundle)
+        return app.bundleID && isApplicationRunning(host, *app.bundleID);
+    const bool isOwn = uninstallWay(app.kind) == UninstallWay::trash;
+    return (isOwn && isProgramRunning(app.url)) ||
+           std::ranges::any_of(app.entryIds, [&host](const std::string& id) {
+               return isApplicationRunning(host, id);
+           });
+}
+
+/// Flatpak's own uninstall, which leaves the user's data alone. Nothing is known of it but how it
+/// ended.
+bool runOwnTool(const InstalledApp& app, const Host& host) {
+    const auto run = runTool(host.toolPath("/usr/bin/flatpak"),
+                             {"uninstall", "--user", "--noninteractive", app.installerName},
+                             ToolOutput::discard);
+    return run && run->exitStatus == 0;
+}
+
 }  // namespace
 
 UninstallResult uninstall(const UninstallPlan& plan, const Host& host) {
     UninstallResult result;
     result.appName = plan.app.name;
-    // The bundle is what moves next, so nothing is gained by asking again later. An application
-    // that starts in between runs on from the Trash and loses no file.
-    if (plan.app.bundleID && isApplicationRunning(host, *plan.app.bundleID)) {
+    result.way = uninstallWay(plan.app.kind);
+    // The application is what goes next, so nothing is gained by asking again later. One that
+    // starts in between runs on from the Trash and loses no file.
+    if (isRunning(plan.app, host)) {
         result.failed = {plan.app.name + " is still running. Quit it and try again"};
         return result;
+    }
+    if (result.way == UninstallWay::ownTool) {
+        if (host.homeOwner != HomeOwner::user || !runOwnTool(plan.app, host)) {
+            result.failed = {plan.app.name};
+            return result;
+        }
+        result.appBundleMoved = true;
+        result.movedCount = 1;
+        result.freedBytes = plan.app.sizeBytes;
     }
     const UninstallGuard guard(host);
     for (const auto& item : workList(plan)) {
@@ -70,7 +104,7 @@ UninstallResult uninstall(const UninstallPlan& plan, const Host& host) {
         result.moved.push_back(*std::move(trashing.moved));
         ++result.movedCount;
         result.freedBytes = addSaturating(result.freedBytes, item.sizeBytes);
-        if (item.kind == ItemKind::bundle) result.appBundleMoved = true;
+        if (item.kind == ItemKind::application) result.appBundleMoved = true;
     }
     return result;
 }

@@ -128,6 +128,8 @@ void addAppCommands(CLI::App& app, Call& call) {
     command->add_option("app", uninstall.app, "An id from apps, or a bundle's path")
         ->required()
         ->type_name("APP-ID");
+    command->add_option("--also", uninstall.also, "Move this leftover too")->type_name("PATH");
+    command->add_option("--without", uninstall.without, "Leave this leftover")->type_name("PATH");
     addConsent(*command, call, uninstall.consent);
 }
 

@@ -1,6 +1,7 @@
 #include "cli/shapes.h"
 
 #include "apps/helper_note.h"
+#include "apps/linux/removal_command.h"
 #include "platform/dates.h"
 
 namespace tidewell::cli {
@@ -135,7 +136,12 @@ Value appShape(const InstalledApp& app) {
     addDate(shape, "lastUsed", app.lastUsed);
     shape.emplace_back("lastUsedLabel", lastUsedLabel(app, now()));
     shape.emplace_back("monthsIdle", monthsIdle(app, now()));
-    addIfPresent(shape, "helperNote", helperNote(app.name, app.bundleID));
+    if (app.kind == AppKind::bundle)
+        addIfPresent(shape, "helperNote", helperNote(app.name, app.bundleID));
+    else
+        shape.emplace_back("kind", nameOf(app.kind));
+    if (uninstallWay(app.kind) == UninstallWay::shownCommand)
+        shape.emplace_back("command", removalCommandText(app));
     return shape;
 }
 

@@ -22,6 +22,8 @@ constexpr Words macOSWords{
         "Privacy & Security.",
 
     .readingApplications = "reading /Applications…",
+    .appsPromise = "Deletes go to the Trash, undo anytime.",
+    .noApps = "Nothing in your Applications folders but what came with macOS.",
     .askingTools = "asking simctl and tmutil…",
     .couldNotBeRead = {},
     .reveal = "Reveal in Finder",
@@ -57,6 +59,8 @@ constexpr Words linuxWords{
     .failureAdvice = "A program may still use these, or they may not be yours to remove.",
 
     .readingApplications = "reading your applications…",
+    .appsPromise = "Yours go to the Trash; for the system's you get the command.",
+    .noApps = "No packages with a menu entry, flatpaks, snaps or AppImages were found.",
     .askingTools = "asking your system's own tools…",
     .couldNotBeRead = "could not be read.",
     .reveal = "Reveal in Files",

@@ -22,6 +22,8 @@ struct Words {
     std::string_view failureAdvice;  ///< behind the titles of what could not be cleaned
 
     std::string_view readingApplications;
+    std::string_view appsPromise;  ///< what becomes of an application that is uninstalled
+    std::string_view noApps;       ///< where none is installed that could be uninstalled
     std::string_view askingTools;
     std::string_view couldNotBeRead;  ///< behind a number of folders; empty where it is not said
     std::string_view reveal;          ///< shows an entry in the file manager

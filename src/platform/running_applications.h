@@ -43,6 +43,10 @@ std::vector<RunningApplication> runningApplications(const Host& host);
 /// Whether an application of this identifier runs, in the background or not. Any thread.
 bool isApplicationRunning(const Host& host, std::string_view bundleIdentifier);
 
+/// Whether a process of the user runs a program that lies at a path or below it, links resolved.
+/// Any thread.
+bool isProgramRunning(const std::string& path);
+
 /// The memory that a process would give back at its end, shared pages by its share, swapped pages
 /// included; 0 if it cannot be read. Any thread.
 ByteCount physicalFootprint(const ProcessIdentity& process);

@@ -42,7 +42,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: root.margin
         y: 36
-        visible: root.isList
+        visible: root.isList && !root.screen.isEmpty
         focus: visible
         symbol: root.screen.sortSymbol
         text: root.screen.sortLabel
@@ -64,6 +64,16 @@ FocusScope {
         anchors.topMargin: 104
         visible: root.isList
 
+        StartNote {
+            anchors.centerIn: parent
+            anchors.verticalCenterOffset: -60
+            visible: root.screen.isEmpty
+            symbol: root.screen.noticeSymbol
+            title: root.screen.noticeTitle
+            line: root.screen.noticeLine
+            buttonLabel: root.screen.scanLabel
+            onStarted: root.screen.scan()
+        }
         Banner {
             id: banner
             anchors.left: parent.left

@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewell
 
-/// Everything that goes with an application, before it goes. Nothing on it is ticked by itself: it
-/// goes whole or not at all.
+/// Everything that goes with an application, before it goes; and the command for what only the user
+/// can take away.
 Modal {
     id: root
 
@@ -28,9 +28,23 @@ Modal {
             title: root.title
             subtitle: root.screen.sheetLine
         }
+        UninstallCommand {
+            id: command
+            anchors.top: header.bottom
+            anchors.topMargin: visible ? Theme.gapWide : 0
+            width: parent.width
+            height: visible ? implicitHeight : 0
+            visible: root.screen.commandText !== ""
+            lead: root.screen.commandLead
+            command: root.screen.commandText
+            note: root.screen.commandNote
+            warning: root.screen.commandWarning
+            isCopied: root.screen.isCommandCopied
+            onCopied: root.screen.copyCommand()
+        }
         ListView {
             id: list
-            anchors.top: header.bottom
+            anchors.top: command.bottom
             anchors.topMargin: Theme.gapWide
             anchors.bottom: undo.top
             anchors.bottomMargin: Theme.gap
@@ -49,12 +63,16 @@ Modal {
             T.ScrollBar.vertical: ScrollHandle {}
 
             delegate: UninstallRow {
+                required property int index
+                required hasTick
+                required isOn
                 required symbol
                 required title
                 required label
                 required size
 
                 width: ListView.view.width
+                onFlipped: root.screen.toggleLeftover(index)
             }
         }
         Label {
@@ -95,6 +113,7 @@ Modal {
                 fontSize: Theme.sizeText
                 verticalPadding: 10
                 tint: Theme.destructive
+                visible: root.screen.canConfirm
                 text: root.screen.confirmLabel
                 onClicked: root.confirm()
             }

@@ -20,9 +20,11 @@ inline constexpr std::string_view dismissResultSymbol = "xmark";
 inline constexpr std::string_view dismissResultLabel = "Dismiss";
 inline constexpr std::string_view trashButtonSymbol = "trash";
 
-/// A symbol over a line, where there is no list: before the first scan and during a scan.
+/// A symbol over a line, where there is no list: before the first scan, during a scan, and where
+/// none was found, with a title.
 struct AppsNotice {
     std::string_view symbol;
+    std::string_view title = {};
     std::string_view line;
 };
 
@@ -61,6 +63,7 @@ struct AppCardContent {
     InstalledApp app;  ///< what the trash button is about; its `url` tells cards apart
     std::string line;  ///< the helper note, else when the application was last used
     std::string size;
+    std::string footnote;  ///< where kinds differ the kind, else the version
     AppMark mark;
     std::string trashHelp;
 
@@ -75,20 +78,32 @@ struct UninstallRow {
     std::string title;
     std::string label;
     std::string size;
+    bool hasTick = false;  ///< the user chooses whether it goes
+    bool isOn = true;      ///< whether it does
 
     bool operator==(const UninstallRow&) const = default;
 };
 
+/// What only the user can do, as the sheet shows it.
+struct CommandContent {
+    std::string lead;  ///< what the command is for
+    std::string command;
+    std::string note;     ///< what else it would take along; empty if nothing
+    std::string warning;  ///< in red; empty for none
+};
+
 struct UninstallSheetContent {
     static constexpr std::string_view footerSymbol = "arrow.uturn.backward";
-    static constexpr std::string_view footer = "You can undo this from the Trash.";
     static constexpr std::string_view cancelLabel = "Cancel";
-    static constexpr std::string_view confirmLabel = "Move to Trash";
 
     std::string title;
     std::string line;
-    std::vector<UninstallRow> rows;  ///< the application, then its leftovers
-    std::string_view emptyNote;      ///< stands behind the rows; empty if there are leftovers
+    std::vector<UninstallRow> rows;   ///< the application, then its leftovers
+    std::string_view emptyNote = {};  ///< stands behind the rows; empty if there are leftovers
+    std::string_view footer = "You can undo this from the Trash.";
+    std::string_view confirmLabel = "Move to Trash";
+    bool canConfirm = true;  ///< whether anything would go
+    std::optional<CommandContent> command = std::nullopt;
 };
 
 UninstallSheetContent uninstallSheet(const UninstallPlan& plan);

@@ -1,5 +1,8 @@
 #include "apps/screens/apps_screen.h"
 
+#include <QtGui/qclipboard.h>
+#include <QtGui/qguiapplication.h>
+
 #include <utility>
 
 #include "async/executor.h"
@@ -22,6 +25,11 @@ std::vector<ListModel<SortChoice>::Role> choiceRoles() {
     };
 }
 
+/// What its icon is read from: the picture itself, or the bundle that holds it.
+const std::string& pictureOf(const InstalledApp& app) {
+    return app.kind == AppKind::bundle ? app.url : app.iconFile;
+}
+
 std::string cardKey(const AppCardContent& card) {
     return card.app.url;
 }
@@ -29,11 +37,11 @@ std::string cardKey(const AppCardContent& card) {
 std::vector<ListModel<AppCardContent>::Role> cardRoles() {
     using Card = AppCardContent;
     return {
-        {"icon", [](const Card& card) { return BundleIcons::address(card.app.url); }},
+        {"icon", [](const Card& card) { return BundleIcons::address(pictureOf(card.app)); }},
         {"title", [](const Card& card) { return toText(card.app.name); }},
         {"line", [](const Card& card) { return toText(card.line); }},
         {"size", [](const Card& card) { return toText(card.size); }},
-        {"version", [](const Card& card) { return toText(card.app.version.value_or("")); }},
+        {"version", [](const Card& card) { return toText(card.footnote); }},
         {"mark", [](const Card& card) { return toText(label(card.mark)); }},
         {"isUnused", [](const Card& card) { return card.mark == AppMark::unused; }},
         {"trashHelp", [](const Card& card) { return toText(card.trashHelp); }},
@@ -51,6 +59,8 @@ std::vector<ListModel<UninstallRow>::Role> rowRoles() {
         {"title", [](const Row& row) { return toText(row.title); }},
         {"label", [](const Row& row) { return toText(row.label); }},
         {"size", [](const Row& row) { return toText(row.size); }},
+        {"hasTick", [](const Row& row) { return row.hasTick; }},
+        {"isOn", [](const Row& row) { return row.isOn; }},
     };
 }
 
@@ -70,6 +80,7 @@ void AppsScreen::update() {
     content_ = appsContent(*model_, now());
     if (content_.banner) banner_ = *content_.banner;
     if (content_.sheet) sheet_ = *content_.sheet;
+    if (!content_.sheet) isCommandCopied_ = false;
     sortChoices_.set(content_.sortChoices);
     cards_.set(content_.cards);
     sheetRows_.set(sheet_.rows);
@@ -81,6 +92,10 @@ QString AppsScreen::noticeSymbol() const {
 
 QString AppsScreen::noticeLine() const {
     return content_.notice ? toText(content_.notice->line) : QString();
+}
+
+QString AppsScreen::noticeTitle() const {
+    return content_.notice ? toText(content_.notice->title) : QString();
 }
 
 void AppsScreen::open() {
@@ -98,6 +113,17 @@ void AppsScreen::sortBy(int row) {
 void AppsScreen::prepareUninstall(int row) {
     if (const auto* card = cards_.at(row))
         spawn(model_, &AppsViewModel::prepareUninstall, card->app);
+}
+
+void AppsScreen::toggleLeftover(int row) {
+    const auto* chosen = sheetRows_.at(row);
+    if (chosen && chosen->hasTick) model_->toggleLeftover(chosen->id);
+}
+
+void AppsScreen::copyCommand() {
+    QGuiApplication::clipboard()->setText(commandText());
+    isCommandCopied_ = true;
+    refresh();
 }
 
 void AppsScreen::confirmUninstall() {

@@ -20,6 +20,8 @@ class AppsScreen final : public Screen {
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
     Q_PROPERTY(QString noticeSymbol READ noticeSymbol NOTIFY changed)
     Q_PROPERTY(QString noticeLine READ noticeLine NOTIFY changed)
+    Q_PROPERTY(QString noticeTitle READ noticeTitle NOTIFY changed)
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
     Q_PROPERTY(double progress READ progress NOTIFY changed)
     Q_PROPERTY(QString sortLabel READ sortLabel NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* sortChoices READ sortChoices CONSTANT)
@@ -44,9 +46,15 @@ class AppsScreen final : public Screen {
     Q_PROPERTY(QString dismissLabel READ dismissLabel CONSTANT)
     Q_PROPERTY(QString trashSymbol READ trashSymbol CONSTANT)
     Q_PROPERTY(QString undoSymbol READ undoSymbol CONSTANT)
-    Q_PROPERTY(QString undoLine READ undoLine CONSTANT)
+    Q_PROPERTY(QString undoLine READ undoLine NOTIFY changed)
     Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT)
-    Q_PROPERTY(QString confirmLabel READ confirmLabel CONSTANT)
+    Q_PROPERTY(QString confirmLabel READ confirmLabel NOTIFY changed)
+    Q_PROPERTY(bool canConfirm READ canConfirm NOTIFY changed)
+    Q_PROPERTY(QString commandLead READ commandLead NOTIFY changed)
+    Q_PROPERTY(QString commandText READ commandText NOTIFY changed)
+    Q_PROPERTY(QString commandNote READ commandNote NOTIFY changed)
+    Q_PROPERTY(QString commandWarning READ commandWarning NOTIFY changed)
+    Q_PROPERTY(bool isCommandCopied READ isCommandCopied NOTIFY changed)
 
  public:
     // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
@@ -58,7 +66,9 @@ class AppsScreen final : public Screen {
     Phase phase() const { return static_cast<Phase>(content_.phase); }
     QString subtitle() const { return toText(content_.subtitle); }
     QString noticeSymbol() const;
+    QString noticeTitle() const;
     QString noticeLine() const;
+    bool isEmpty() const { return phase() == List && content_.notice.has_value(); }
     double progress() const { return content_.scanProgress; }
     QString sortLabel() const { return toText(content_.sortLabel); }
     QAbstractItemModel* sortChoices() { return &sortChoices_; }
@@ -83,9 +93,15 @@ class AppsScreen final : public Screen {
     static QString dismissLabel() { return toText(dismissResultLabel); }
     static QString trashSymbol() { return toText(trashButtonSymbol); }
     static QString undoSymbol() { return toText(UninstallSheetContent::footerSymbol); }
-    static QString undoLine() { return toText(UninstallSheetContent::footer); }
+    QString undoLine() const { return toText(sheet_.footer); }
     static QString cancelLabel() { return toText(UninstallSheetContent::cancelLabel); }
-    static QString confirmLabel() { return toText(UninstallSheetContent::confirmLabel); }
+    QString confirmLabel() const { return toText(sheet_.confirmLabel); }
+    bool canConfirm() const { return sheet_.canConfirm; }
+    QString commandLead() const { return toText(command().lead); }
+    QString commandText() const { return toText(command().command); }
+    QString commandNote() const { return toText(command().note); }
+    QString commandWarning() const { return toText(command().warning); }
+    bool isCommandCopied() const { return isCommandCopied_; }
 
     /// To be called when the screen comes into sight, for its dates are told from now. Has its
     /// effect in a later turn.
@@ -95,6 +111,10 @@ class AppsScreen final : public Screen {
     Q_INVOKABLE void sortBy(int row);
     /// For a row of `cards`: searches what belongs to the application, then shows the sheet.
     Q_INVOKABLE void prepareUninstall(int row);
+    /// For a row of `sheetRows` that has a tick.
+    Q_INVOKABLE void toggleLeftover(int row);
+    /// Puts the sheet's command where it can be pasted from.
+    Q_INVOKABLE void copyCommand();
     Q_INVOKABLE void confirmUninstall();
     Q_INVOKABLE void cancelUninstall() { model_->pendingPlan = std::nullopt; }
     Q_INVOKABLE void dismissResult() { model_->dismissResult(); }
@@ -103,12 +123,14 @@ class AppsScreen final : public Screen {
 
  private:
     void update() override;
+    CommandContent command() const { return sheet_.command.value_or(CommandContent{}); }
 
     const std::shared_ptr<AppsViewModel> model_;
     AppsContent content_;
     // The last ones that there were: they stay legible while they go.
     ResultBanner banner_;
     UninstallSheetContent sheet_;
+    bool isCommandCopied_ = false;
     ListModel<SortChoice> sortChoices_;
     ListModel<AppCardContent> cards_;
     ListModel<UninstallRow> sheetRows_;

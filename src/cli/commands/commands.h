@@ -62,6 +62,8 @@ Outcome runLeftovers(const Context& context, const LeftoversCall& call);
 
 struct UninstallCall {
     std::string app;
+    std::vector<std::string> also = {};     ///< leftovers' paths that are to go too
+    std::vector<std::string> without = {};  ///< leftovers' paths that are to stay
     Consent consent = Consent::notGiven;
 };
 Outcome runUninstall(const Context& context, const UninstallCall& call);

@@ -5,7 +5,10 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
 #include "platform/icon_image.h"
+#include "platform/icon_theme.h"
+#include "platform/path_text.h"
 
 namespace tidewell {
 
@@ -19,12 +22,23 @@ QImage noIcon() {
     return pixel;
 }
 
-QImage decoded(const std::string& png, int side) {
-    auto bytes = QByteArray::fromStdString(png);
+QImage decoded(const std::string& picture, const char* format, int side) {
+    auto bytes = QByteArray::fromStdString(picture);
     QBuffer buffer(&bytes);
-    QImageReader reader(&buffer, "png");
+    QImageReader reader(&buffer, format);
     reader.setScaledSize({side, side});
     return reader.read();
+}
+
+/// The icon of a bundle, or a picture by itself.
+QImage iconAt(const std::string& path, int side) {
+    for (const auto* format : {"png", "svg"}) {
+        if (pathExtension(path) != format) continue;
+        const auto picture = readFile(path, themeIconLimit);
+        return picture ? decoded(*picture, format, side) : QImage();
+    }
+    const auto png = bundleIcon(path, side);
+    return png ? decoded(*png, "png", side) : QImage();
 }
 
 }  // namespace
@@ -39,8 +53,7 @@ QImage BundleIcons::requestImage(const QString& id, QSize* size, const QSize& re
     const auto side = requestedSize.isEmpty()
                           ? usualSide
                           : std::max(requestedSize.width(), requestedSize.height());
-    const auto png = bundleIcon(path, side);
-    auto icon = png ? decoded(*png, side) : QImage();
+    auto icon = iconAt(path, side);
     if (icon.isNull()) icon = noIcon();
     *size = icon.size();
     return icon;

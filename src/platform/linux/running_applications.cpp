@@ -129,6 +129,13 @@ bool isApplicationRunning(const Host& host, std::string_view bundleIdentifier) {
     });
 }
 
+bool isProgramRunning(const std::string& path) {
+    const auto real = resolvedPath(path);
+    return real && std::ranges::any_of(linux_system::ownProcesses(), [&](const Process& process) {
+               return isAtOrBelow(process.executable, *real);
+           });
+}
+
 ByteCount physicalFootprint(const ProcessIdentity& process) {
     const auto path = "/proc/" + std::to_string(process.id) + "/smaps_rollup";
     const auto text = readFile(path, longestRollup);
