@@ -1,7 +1,7 @@
-// canary PROGRAM [--machines N] [--seed N]: lays out random machines, lets the command line program
-// loose on them, and looks for whatever is gone that the rules do not allow to go. A finding names
-// its seed: `--machines 1 --seed N` shows it again. Ends with 1 if there was one, or if the program
-// removed so little that nothing was proven.
+// canary PROGRAM [--machines N] [--seed N] [--until-loss]: lays out random machines, lets the
+// command line program loose on them, and looks for whatever is gone that the rules do not allow to
+// go. A finding names its seed: `--machines 1 --seed N` shows it again. Ends with 1 if there was
+// one, or if the program removed so little that nothing was proven.
 
 #include <sched.h>
 #include <sys/mount.h>
@@ -36,6 +36,7 @@ struct Call {
     std::string program;
     unsigned machines = 60;
     unsigned seed = 1;
+    bool endsWithFirstLoss = false;
 };
 
 Call parse(int count, char** words) {
@@ -46,6 +47,8 @@ Call parse(int count, char** words) {
             call.machines = static_cast<unsigned>(std::stoul(words[++i]));
         else if (word == "--seed" && i + 1 < count)
             call.seed = static_cast<unsigned>(std::stoul(words[++i]));
+        else if (word == "--until-loss")
+            call.endsWithFirstLoss = true;
         else
             call.program = word;
     }
@@ -91,7 +94,7 @@ bool hasProvenSomething(const Trial::Tally& tally, unsigned machines) {
 int main(int count, char** words) {
     const auto call = parse(count, words);
     if (call.program.empty()) {
-        std::cerr << "Usage: canary PROGRAM [--machines N] [--seed N]\n";
+        std::cerr << "Usage: canary PROGRAM [--machines N] [--seed N] [--until-loss]\n";
         return 2;
     }
     const TemporaryFolder folder;
@@ -105,6 +108,7 @@ int main(int count, char** words) {
         bad += !findings.empty();
         for (const auto& finding : findings)
             std::cout << "seed " << seed << ": " << finding << '\n';
+        if (bad > 0 && call.endsWithFirstLoss) break;
     }
     const auto& tally = trial.tally();
     std::cout << "canary: removed " << tally.removedEntries << " entries with " << tally.freedBytes

@@ -23,6 +23,7 @@ constexpr auto macOSTreasures = std::to_array<const char*>({
     "~/Library/Keychains/login.keychain-db",
     "~/Library/Caches/CloudKit/records.db",
     "~/Library/Application Support/AddressBook/people.db",
+    "~/Novel/draft.txt",
     "/Users/Shared/family.txt",
 });
 
@@ -52,6 +53,7 @@ constexpr auto linuxTreasures = std::to_array<const char*>({
     "~/.cache/JetBrains/IdeaIC2026.1/LocalHistory/changes.storage",
     "~/.cache/spotify/Storage/download",
     "~/.local/share/Steam/steamapps/common/game/data.pak",
+    "~/Novel/draft.txt",
     "/home/family.txt",
 });
 

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 #include <sys/inotify.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -30,10 +31,10 @@ std::set<std::string> namesIn(const std::string& folder) {
 
 }  // namespace
 
-Kidnapper::Kidnapper(std::string prey, const std::string& refuge, Then then)
+Kidnapper::Kidnapper(std::string prey, const std::string& refuge, Deed deed)
     : prey_(std::move(prey)),
       refuge_(refuge + takenName),
-      then_(then),
+      deed_(deed),
       watch_(::inotify_init1(IN_CLOEXEC)) {
     ::inotify_add_watch(watch_, prey_.c_str(), IN_DELETE);
     thread_ = std::thread([this] { lieInWait(); });
@@ -42,29 +43,47 @@ Kidnapper::Kidnapper(std::string prey, const std::string& refuge, Then then)
 void Kidnapper::stop() {
     isOver_ = true;
     if (thread_.joinable()) thread_.join();
-    if (watch_ >= 0) ::close(std::exchange(watch_, -1));
+    if (watch_ < 0) return;
+    ::close(std::exchange(watch_, -1));
+    if (deed_ == Deed::lock) ::chmod(prey_.c_str(), S_IRWXU);
 }
 
 void Kidnapper::lieInWait() {
     constexpr int milliseconds = 20;
     pollfd removal = {watch_, POLLIN, 0};
-    while (!isOver_)
-        if (::poll(&removal, 1, milliseconds) > 0) return strike();
+    while (!isOver_ && !hasStruck_)
+        if (::poll(&removal, 1, milliseconds) > 0 && !(hasStruck_ = strike())) return;
 }
 
-void Kidnapper::strike() {
+bool Kidnapper::strike() {
+    switch (deed_) {
+        case Deed::takeAway:
+            return takeAway();
+        case Deed::takeAwayAndBack:
+            return takeAwayAndBack();
+        case Deed::lock:
+            return ::chmod(prey_.c_str(), 0) == 0;
+    }
+    return false;
+}
+
+bool Kidnapper::takeAway() {
     std::error_code failed;
     fs::rename(prey_, refuge_, failed);
-    if (failed) return;
-    if (then_ == Then::bringBack) {
-        std::this_thread::yield();
-        fs::rename(refuge_, prey_, failed);
-    } else {
-        taken_ = namesIn(refuge_);
-        fs::create_directory(prey_, failed);
-        std::ofstream(prey_ + "/another") << "in its place";
-    }
-    hasStruck_ = !failed && (then_ == Then::bringBack || !taken_.empty());
+    if (failed) return false;
+    taken_ = namesIn(refuge_);
+    fs::create_directory(prey_, failed);
+    std::ofstream(prey_ + "/another") << "in its place";
+    return !taken_.empty();
+}
+
+bool Kidnapper::takeAwayAndBack() const {
+    std::error_code failed;
+    fs::rename(prey_, refuge_, failed);
+    if (failed) return false;
+    std::this_thread::yield();
+    fs::rename(refuge_, prey_, failed);
+    return !failed;
 }
 
 bool Kidnapper::changes(const std::string& path) const {

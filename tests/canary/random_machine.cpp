@@ -71,7 +71,9 @@ RandomMachine::RandomMachine(unsigned seed, System system, User wantedUser,
     layOutBigItems();
     layOutApplications();
     layOutCaches(cataloguePaths);
+    if (chance.percent(10)) leadScratchElsewhere();
     if (user == User::ordinary) giveToUser(machine.root());
+    if (user == User::ordinary) giveToUser(elsewhere_.path());
     if (user == User::ordinary && chance.percent(5))
         fs::permissions(machine.home(), fs::perms(0555));
     if (user == User::superuser) mountSome();
@@ -136,9 +138,20 @@ void RandomMachine::layOutCaches(const std::vector<std::string>& cataloguePaths)
 std::string RandomMachine::layOutPrey() const {
     const auto prey = machine.path("~/.npm/_cacache/prey");
     fs::create_directories(prey);
-    for (std::size_t i = 0; i < preySize; ++i) std::ofstream(prey + "/" + std::to_string(i));
+    for (std::size_t i = 0; i < preySize; ++i) std::ofstream(prey + "/" + std::to_string(i)) << i;
     if (user == User::ordinary) giveToUser(prey);
     return prey;
+}
+
+/// Where another machine's scratch folder lies, or somebody's work.
+void RandomMachine::leadScratchElsewhere() const {
+    const auto scratch = fs::path(machine.path(ground.scratch));
+    const auto other = fs::path(elsewhere_.path()) / scratch.lexically_relative(machine.root());
+    fs::create_directories(other);
+    std::ofstream(other / "somebody's") << "work";
+    const auto top = fs::path(machine.root()) / *scratch.lexically_relative(machine.root()).begin();
+    fs::remove_all(top);
+    fs::create_symlink(fs::path(elsewhere_.path()) / top.filename(), top);
 }
 
 /// With the base folders' usual places for their names, and names for what stands for any.
@@ -211,7 +224,16 @@ void RandomMachine::layOutBigItems() {
     machine.file("~/Games/Tetris/assets.pak", 90 * megabyte);
     fill(machine.path("~/Games/Tetris"), 2);
     machine.file("~/Downloads/Paint 3.dmg", 12 * megabyte);
-    // Names that are taken in the Trash already.
+    layOutTrash();
+}
+
+/// With names that are taken already; or as somebody has it who keeps what he throws away.
+void RandomMachine::layOutTrash() {
+    if (chance.percent(10)) {
+        const auto trash = machine.path(ground.trash);
+        fs::create_directories(fs::path(trash).parent_path());
+        return fs::create_symlink(machine.path("~/Documents"), trash);
+    }
     for (const char* taken : {"Tetris", "Paint 3.dmg", "Notes.app", "com.example.notes.plist"})
         if (chance.percent(50))
             machine.text(ground.trash + std::string("/") + taken, "thrown away earlier");

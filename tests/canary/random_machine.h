@@ -61,6 +61,8 @@ struct RandomMachine {
     std::vector<std::string> mounts;
     /// Places at which a folder is mounted that has another name on this disk as well.
     std::vector<std::pair<std::string, std::string>> otherNames;
+    /// Outside the machine, where nothing changes at all.
+    std::string elsewhere() const { return elsewhere_.path(); }
     /// How many descriptors the program may have open.
     int descriptors = 1024;
 
@@ -68,6 +70,8 @@ struct RandomMachine {
     void keepDocumentsElsewhere();
     void layOutTreasures();
     void layOutKeys();
+    void layOutTrash();
+    void leadScratchElsewhere() const;
     void layOutCaches(const std::vector<std::string>& cataloguePaths);
     void layOutProjects();
     void layOutBigItems();
@@ -86,6 +90,8 @@ struct RandomMachine {
     void addEntry(const std::string& path, int levels);
     void linkToSomewhere(const std::string& path);
     std::string oddName();
+
+    const TemporaryFolder elsewhere_;
 };
 
 }  // namespace tidewell::test

@@ -59,14 +59,15 @@ Place inFolder(const RandomMachine& random) {
 /// As the user's own machine, started in a folder of his work, with a scratch folder and base
 /// folders that may be set to anything.
 Place atHome(RandomMachine& random) {
-    const auto work = random.machine.path("~/Documents/Thesis");
+    const auto work =
+        random.machine.path(random.chance.percent(50) ? "~/Documents/Thesis" : "~/Novel");
     const std::vector<std::string> anything = {".",
                                                "..",
                                                "",
                                                "/",
                                                "Documents",
-                                               work,
                                                random.machine.home(),
+                                               random.machine.path("~/Documents/Thesis"),
                                                random.machine.path("~/.ssh")};
     auto scratch = anything;
     scratch.push_back(random.machine.path(random.ground.scratch));
@@ -147,6 +148,13 @@ std::set<std::string> touchedFolders(const Snapshot& before, const Snapshot& aft
 bool isSame(const Entry& before, Entry after, bool isTouched) {
     if (isTouched && before.isFolder()) after.changed = before.changed;
     return before == after;
+}
+
+/// Of the machine, and of what lies outside it.
+Snapshot snapshotOf(const RandomMachine& random) {
+    auto all = takeSnapshot(random.machine.root());
+    all.merge(takeSnapshot(random.elsewhere()));
+    return all;
 }
 
 /// All that is neither as it was nor, by `mayChange`, free to go and to come. `touchedBetween` are
@@ -249,6 +257,14 @@ bool hasCompany(Verb verb) {
     return verb == Verb::cleanAmongOthers || verb == Verb::cleanStolenFrom;
 }
 
+std::unique_ptr<Kidnapper> kidnapperOf(const std::string& prey, RandomMachine& random) {
+    constexpr Kidnapper::Deed deeds[] = {Kidnapper::Deed::takeAway, Kidnapper::Deed::takeAway,
+                                         Kidnapper::Deed::takeAwayAndBack, Kidnapper::Deed::lock};
+    const char* refuge = random.chance.percent(50) ? "~/Documents" : "~/Applications";
+    return std::make_unique<Kidnapper>(prey, fs::canonical(random.machine.path(refuge)),
+                                       random.chance.oneOf(deeds));
+}
+
 /// Milliseconds; a whole run takes some tens of them.
 std::optional<std::size_t> momentOfKill(RandomMachine& random, Verb verb) {
     if (verb != Verb::cleanKilled && verb != Verb::uninstallKilled) return std::nullopt;
@@ -295,7 +311,7 @@ std::vector<std::string> Trial::cataloguePaths(System system) const {
 }
 
 Findings Trial::look(const RandomMachine& random) const {
-    const auto before = takeSnapshot(random.machine.root());
+    const auto before = snapshotOf(random);
     Findings findings;
     std::vector<Words> calls = {
         {"scan"}, {"clean", "--select", "all"}, {"dev"}, {"deep-scan"}, {"apps"}, {"status"}};
@@ -304,8 +320,8 @@ Findings Trial::look(const RandomMachine& random) const {
         const auto answer = ask(program_, random, words, inFolder(random));
         findings.insert(findings.end(), answer.findings.begin(), answer.findings.end());
     }
-    const auto changes = losses(before, takeSnapshot(random.machine.root()),
-                                [](const std::string&) { return false; });
+    const auto changes =
+        losses(before, snapshotOf(random), [](const std::string&) { return false; });
     findings.insert(findings.end(), changes.begin(), changes.end());
     return findings;
 }
@@ -336,19 +352,14 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     const auto prey = verb == Verb::cleanStolenFrom ? random.layOutPrey() : std::string();
     const auto shown = ask(program_, random, words, place);
     if (!shown.findings.empty()) return shown.findings;
-    const auto before = takeSnapshot(root);
+    const auto before = snapshotOf(random);
     const Rules rules(random.ground, before, root, random.machine.home(), itemsOf(shown.document));
 
     auto orders = words;
     orders.push_back("--yes");
     std::unique_ptr<Adversary> others;
     std::unique_ptr<Kidnapper> kidnapper;
-    if (verb == Verb::cleanStolenFrom)
-        kidnapper = std::make_unique<Kidnapper>(
-            prey,
-            fs::canonical(
-                random.machine.path(random.chance.percent(50) ? "~/Documents" : "~/Applications")),
-            random.chance.percent(25) ? Kidnapper::Then::bringBack : Kidnapper::Then::putAnother);
+    if (verb == Verb::cleanStolenFrom) kidnapper = kidnapperOf(prey, random);
     if (verb == Verb::cleanAmongOthers)
         others = std::make_unique<Adversary>(static_cast<unsigned>(random.chance.below(1 << 30)),
                                              openGround(random, before, rules),
@@ -360,7 +371,7 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     if (kidnapper) kidnapper->stop();
     if (!done.findings.empty()) return done.findings;
 
-    const auto after = takeSnapshot(root);
+    const auto after = snapshotOf(random);
     auto findings = losses(before, after, [&](const std::string& path) {
         if (kidnapper &&
             (kidnapper->changes(path) || kidnapper->changes(otherNameOf(random, path))))
@@ -380,6 +391,9 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     if (isForeseeable && said != freed)
         findings.push_back("said to be freed: " + std::to_string(said) + ", but measured are " +
                            std::to_string(freed));
+    if (kidnapper && kidnapper->hasLocked() && random.user == User::ordinary && said > freed)
+        findings.push_back("said to be freed: " + std::to_string(said) + ", and no more than " +
+                           std::to_string(freed) + " are gone");
     tally_.freedBytes += freed;
     for (const auto& [path, entry] : before) tally_.removedEntries += !after.contains(path);
     return done.wasKilled && findings.empty() ? clean(random, Verb::clean) : findings;
@@ -393,10 +407,10 @@ Findings Trial::trash(RandomMachine& random) {
         if (auto id = item.textAt("id")) ids.push_back(*id);
     if (ids.empty()) return {"the deep scan found nothing"};
     const auto id = random.chance.oneOf(ids);
-    const auto before = takeSnapshot(random.machine.root());
+    const auto before = snapshotOf(random);
     const auto done = ask(program_, random, {"trash", id, "--yes"}, inFolder(random));
     if (!done.findings.empty()) return done.findings;
-    const auto after = takeSnapshot(random.machine.root());
+    const auto after = snapshotOf(random);
     const bool isGone = before.contains(id) && !after.contains(id);
     tally_.trashed += isGone;
     auto findings = checkMoves(random, before, after, {id});
@@ -410,7 +424,7 @@ Findings Trial::putBack(const RandomMachine& random, const Snapshot& before,
                         const std::string& origin) {
     const auto done = ask(program_, random, {"put-back", origin, "--yes"}, inFolder(random));
     if (!done.findings.empty()) return done.findings;
-    const auto after = takeSnapshot(random.machine.root());
+    const auto after = snapshotOf(random);
     tally_.putBack += after.contains(origin);
     const auto mayChange = [&](const std::string& path) {
         return (isInATrash(random, path) && !before.contains(path)) || isOwnSettings(random, path);
@@ -428,12 +442,12 @@ Findings Trial::uninstall(RandomMachine& random, Verb verb) {
     std::vector<std::string> wanted = {random.machine.path("/Applications/Notes.app")};
     for (const auto& leftover : listAt(plan.document, "leftovers"))
         if (auto path = leftover.textAt("path")) wanted.push_back(*path);
-    const auto before = takeSnapshot(random.machine.root());
+    const auto before = snapshotOf(random);
     const auto done = ask(program_, random, {words[0], words[1], "--yes"}, inFolder(random),
                           momentOfKill(random, verb));
     tally_.kills += done.wasKilled;
     if (!done.findings.empty()) return done.findings;
-    const auto after = takeSnapshot(random.machine.root());
+    const auto after = snapshotOf(random);
     tally_.uninstalled += !after.contains(wanted.front());
     auto findings = checkMoves(random, before, after, wanted);
     return done.wasKilled && findings.empty() ? uninstall(random, Verb::uninstall) : findings;
