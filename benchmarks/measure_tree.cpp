@@ -5,6 +5,7 @@
 #include "platform/disk_usage.h"
 #include "platform/linux/folder_measurer.h"
 #include "platform/linux/work_pool.h"
+#include "platform/posix/reach.h"
 
 namespace {
 
