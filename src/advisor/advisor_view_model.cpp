@@ -1,34 +1,18 @@
 #include "advisor/advisor_view_model.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "advisor/linux/linux_findings.h"
 #include "async/background.h"
 #include "kit/count_text.h"
 #include "platform/sum.h"
 
 namespace tidewell {
 
-namespace {
-
-Findings gatherFindings(const AdvisorService& service) {
-    return {
-        .runtimes = service.simRuntimes(),
-        .unavailableSims = service.unavailableSimCount(),
-        .snapshotCount = service.localSnapshotCount(),
-        .dockerBytes = service.dockerBytes(),
-    };
-}
-
-}  // namespace
-
-bool AdvisorViewModel::hasFindings() const {
-    const auto& found = findings();
-    return !found.runtimes.empty() || found.unavailableSims > 0 || found.snapshotCount > 0 ||
-           found.dockerBytes > 0;
-}
-
 ByteCount AdvisorViewModel::reclaimableBytes() const {
-    return sumOf(findings().runtimes, [](const auto& runtime) { return runtime.sizeBytes; });
+    return sumOf(listed(findings()),
+                 [](const Finding& finding) { return finding.sizeBytes.value_or(0); });
 }
 
 Task<> AdvisorViewModel::scan() {
@@ -37,7 +21,7 @@ Task<> AdvisorViewModel::scan() {
     phase = Phase::scanning;
     lastMessage = std::nullopt;
     try {
-        auto gathering = background([service = service_] { return gatherFindings(service); });
+        auto gathering = background([host = host_] { return gatherFindings(host); });
         auto found = co_await gathering;
         findings = std::move(found);
         phase = Phase::list;
@@ -50,7 +34,7 @@ Task<> AdvisorViewModel::scan() {
 Task<> AdvisorViewModel::deleteRuntime(SimRuntime runtime) {
     busyAction = runtime.id;
     auto deleting =
-        background([service = service_, runtime] { return service.deleteRuntime(runtime); });
+        background([host = host_, runtime] { return AdvisorService(host).deleteRuntime(runtime); });
     const bool deleted = co_await valueOr(deleting, false);
     busyAction = std::nullopt;
     lastOutcome_ = deleted ? ActionOutcome::succeeded : ActionOutcome::failed;
@@ -66,8 +50,9 @@ Task<> AdvisorViewModel::deleteRuntime(SimRuntime runtime) {
 }
 
 Task<> AdvisorViewModel::removeUnavailableSims() {
-    busyAction = std::string(unavailableSimsAction);
-    auto removing = background([service = service_] { return service.removeUnavailableSims(); });
+    busyAction = std::string(unavailableSimsFinding);
+    auto removing =
+        background([host = host_] { return AdvisorService(host).removeUnavailableSims(); });
     const bool removed = co_await valueOr(removing, false);
     busyAction = std::nullopt;
     lastOutcome_ = removed ? ActionOutcome::succeeded : ActionOutcome::failed;
@@ -80,8 +65,8 @@ Task<> AdvisorViewModel::removeUnavailableSims() {
 }
 
 Task<> AdvisorViewModel::thinSnapshots() {
-    busyAction = std::string(snapshotsAction);
-    auto thinning = background([service = service_] { return service.thinSnapshots(); });
+    busyAction = std::string(snapshotsFinding);
+    auto thinning = background([host = host_] { return AdvisorService(host).thinSnapshots(); });
     const bool thinned = co_await valueOr(thinning, false);
     busyAction = std::nullopt;
     lastOutcome_ = thinned ? ActionOutcome::succeeded : ActionOutcome::failed;
@@ -91,6 +76,33 @@ Task<> AdvisorViewModel::thinSnapshots() {
     }
     lastMessage = "macOS is purging snapshots now. Space shows up over the next few minutes.";
     findings.mutate().snapshotCount = 0;
+}
+
+Task<> AdvisorViewModel::run(std::string findingId) {
+    if (findingId == unavailableSimsFinding) {
+        co_await removeUnavailableSims();
+        co_return;
+    }
+    if (findingId == snapshotsFinding) {
+        co_await thinSnapshots();
+        co_return;
+    }
+    const auto found = findings().probed;
+    const auto finding = std::ranges::find(found, findingId, &Finding::id);
+    if (finding == found.end() || finding->action != FindingAction::run) co_return;
+    const auto chosen = *finding;
+    busyAction = chosen.id;
+    auto running = background([host = host_, chosen] { return carryOut(host, chosen); });
+    const bool done = co_await valueOr(running, false);
+    busyAction = std::nullopt;
+    lastOutcome_ = done ? ActionOutcome::succeeded : ActionOutcome::failed;
+    if (!done) {
+        lastMessage = "That didn't work. Try it in a terminal: " + chosen.command;
+        co_return;
+    }
+    lastMessage = chosen.outcome;
+    std::erase_if(findings.mutate().probed,
+                  [&chosen](const Finding& each) { return each.id == chosen.id; });
 }
 
 }  // namespace tidewell

@@ -199,16 +199,49 @@ Value::Object appsShape(const AppsViewModel& model) {
             {"totalAppBytes", model.totalAppBytes()}};
 }
 
+namespace {
+
+std::string_view nameOf(FindingAction action) {
+    switch (action) {
+        case FindingAction::none:
+            return "none";
+        case FindingAction::run:
+            return "run";
+        case FindingAction::copy:
+            return "copy";
+    }
+    return {};
+}
+
+Value findingShape(const Finding& finding) {
+    Value::Object shape = {
+        {"id", finding.id}, {"title", finding.title}, {"detail", finding.detail}};
+    addIfPresent(shape, "sizeBytes", finding.sizeBytes);
+    Value::Object action = {{"kind", nameOf(finding.action)}};
+    if (!finding.command.empty()) action.emplace_back("command", finding.command);
+    shape.emplace_back("action", std::move(action));
+    return shape;
+}
+
+}  // namespace
+
 Value::Object advisorShape(const AdvisorViewModel& model) {
     const auto& findings = model.findings();
-    return {
-        {"runtimes", listOf(findings.runtimes, runtimeShape)},
-        {"unavailableSims", findings.unavailableSims},
-        {"snapshotCount", findings.snapshotCount},
-        {"dockerBytes", findings.dockerBytes},
-        {"reclaimableBytes", model.reclaimableBytes()},
-        {"hasFindings", model.hasFindings()},
-    };
+    Value::Object shape;
+    switch (model.system) {
+        case System::macOS:
+            shape = {{"runtimes", listOf(findings.runtimes, runtimeShape)},
+                     {"unavailableSims", findings.unavailableSims},
+                     {"snapshotCount", findings.snapshotCount},
+                     {"dockerBytes", findings.dockerBytes}};
+            break;
+        case System::linux:
+            shape = {{"findings", listOf(listed(findings), findingShape)}};
+            break;
+    }
+    shape.emplace_back("reclaimableBytes", model.reclaimableBytes());
+    shape.emplace_back("hasFindings", model.hasFindings());
+    return shape;
 }
 
 }  // namespace tidewell::cli

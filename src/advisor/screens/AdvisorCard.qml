@@ -11,6 +11,9 @@ GlowCard {
     property string size
     /// Empty: the program only tells.
     property string buttonLabel
+    /// Shown under the words, to be copied; empty for none.
+    property string command
+    property bool isWarning: false
     property bool isBusy: false
     /// Below the words, for what a card has beside them.
     property alias rows: more.data
@@ -66,9 +69,20 @@ GlowCard {
             text: root.body
             size: Theme.sizeControl
             lineHeight: 1.25
-            color: Theme.secondary
+            color: root.isWarning ? Theme.destructive : Theme.secondary
             wrapMode: Text.Wrap
             Accessible.ignored: true
+        }
+        Label {
+            width: parent.width
+            visible: text !== ""
+            topPadding: 4
+            text: root.command
+            size: Theme.sizeText
+            font.family: "monospace"
+            wrapMode: Text.WrapAnywhere
+            maximumLineCount: 6
+            elide: Text.ElideRight
         }
         Column {
             id: more

@@ -99,6 +99,8 @@ FocusScope {
             required title
             required body
             required size
+            required command
+            required isWarning
             required buttonLabel
             required isBusy
             required property bool hasRuntimes

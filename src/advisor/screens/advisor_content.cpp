@@ -1,7 +1,6 @@
 #include "advisor/screens/advisor_content.h"
 
 #include "kit/byte_text.h"
-#include "kit/count_text.h"
 #include "kit/words.h"
 #include "platform/dates.h"
 
@@ -21,19 +20,6 @@ AdvisorNotice allClearNotice(const Words& words) {
     return {
         .symbol = "checkmark.seal.fill", .title = "You're all good", .line = words.advisorAllClear};
 }
-
-constexpr const char* runtimesBody =
-    "A runtime is just the copy of iOS your Simulator boots. Your code and projects aren't in it. "
-    "Xcode re-downloads it if you ever need it again. Usually the biggest hidden chunk of “System "
-    "Data”.";
-
-constexpr const char* snapshotsBody =
-    " counted as “System Data”. macOS decides what's safe to purge. Your real backups on other "
-    "drives stay untouched.";
-
-constexpr const char* dockerBody =
-    " virtual disk. Reclaim space safely from Docker itself: open Docker Desktop ▸ Troubleshoot ▸ "
-    "Clean / Purge data, or run “docker system prune” in Terminal.";
 
 std::string headline(const AdvisorViewModel& model) {
     if (!model.hasFindings()) return "You're all good.";
@@ -65,82 +51,52 @@ AdvisorRuntimeRow runtimeRow(const AdvisorViewModel& model, const SimRuntime& ru
     return row;
 }
 
-AdvisorCard runtimesCard(const AdvisorViewModel& model, Date now) {
-    AdvisorCard card{
-        .symbol = "iphone.gen3",
-        .title = "iOS Simulator runtimes",
-        .body = runtimesBody,
-        .size = byteText(model.reclaimableBytes()),
-        .runtimes = {},
-        .button = std::nullopt,
-    };
-    for (const auto& runtime : model.findings().runtimes)
-        card.runtimes.push_back(runtimeRow(model, runtime, now));
-    return card;
+std::optional<AdvisorActionButton> buttonOf(const AdvisorViewModel& model, const Finding& finding,
+                                            std::string_view copied) {
+    switch (finding.action) {
+        case FindingAction::none:
+            return std::nullopt;
+        case FindingAction::run:
+            return AdvisorActionButton{.action = finding.action,
+                                       .label = std::string(finding.actionLabel),
+                                       .state = buttonState(model, finding.id)};
+        case FindingAction::copy:
+            return AdvisorActionButton{.action = finding.action,
+                                       .label = finding.id == copied ? "Copied" : "Copy command"};
+    }
+    return std::nullopt;
 }
 
-AdvisorCard unavailableSimsCard(const AdvisorViewModel& model) {
-    const auto count = countText(model.findings().unavailableSims, "simulator");
-    return {
-        .symbol = "iphone.slash",
-        .title = "Unavailable simulators",
-        .body = count + " whose runtime is gone. Dead weight.",
+AdvisorCard card(const AdvisorViewModel& model, const Finding& finding, Date now,
+                 std::string_view copied) {
+    AdvisorCard shown{
+        .id = finding.id,
+        .symbol = finding.symbol,
+        .title = finding.title,
+        .body = finding.detail,
         .size = std::nullopt,
+        .command = finding.action == FindingAction::copy ? finding.command : "",
+        .isWarning = finding.severity == FindingSeverity::warning,
         .runtimes = {},
-        .button =
-            AdvisorActionButton{
-                .action = AdvisorAction::removeUnavailableSims,
-                .label = "Remove All",
-                .state = buttonState(model, AdvisorViewModel::unavailableSimsAction),
-            },
+        .button = buttonOf(model, finding, copied),
     };
-}
-
-AdvisorCard snapshotsCard(const AdvisorViewModel& model) {
-    return {
-        .symbol = "clock.arrow.circlepath",
-        .title = "Time Machine local snapshots",
-        .body = countText(model.findings().snapshotCount, "local snapshot") + snapshotsBody,
-        .size = std::nullopt,
-        .runtimes = {},
-        .button =
-            AdvisorActionButton{
-                .action = AdvisorAction::thinSnapshots,
-                .label = "Thin Snapshots",
-                .state = buttonState(model, AdvisorViewModel::snapshotsAction),
-            },
-    };
-}
-
-AdvisorCard dockerCard(ByteCount bytes) {
-    return {
-        .symbol = "shippingbox",
-        .title = "Docker virtual disk",
-        .body = "Docker keeps all images and containers in one " + byteText(bytes) + dockerBody,
-        .size = std::nullopt,
-        .runtimes = {},
-        .button = std::nullopt,
-    };
-}
-
-std::vector<AdvisorCard> cards(const AdvisorViewModel& model, Date now) {
-    const auto& found = model.findings();
-    std::vector<AdvisorCard> shown;
-    if (!found.runtimes.empty()) shown.push_back(runtimesCard(model, now));
-    if (found.unavailableSims >= 1) shown.push_back(unavailableSimsCard(model));
-    if (found.snapshotCount >= 1) shown.push_back(snapshotsCard(model));
-    if (found.dockerBytes >= 1) shown.push_back(dockerCard(found.dockerBytes));
+    if (finding.sizeBytes) shown.size = byteText(*finding.sizeBytes);
+    if (finding.id == runtimesFinding)
+        for (const auto& runtime : model.findings().runtimes)
+            shown.runtimes.push_back(runtimeRow(model, runtime, now));
     return shown;
 }
 
-AdvisorContent listContent(const AdvisorViewModel& model, Date now) {
+AdvisorContent listContent(const AdvisorViewModel& model, Date now, std::string_view copied) {
     AdvisorContent content{
         .phase = AdvisorViewModel::Phase::list,
         .headline = headline(model),
         .message = model.lastMessage(),
         .notice = std::nullopt,
-        .cards = cards(model, now),
+        .cards = {},
     };
+    for (const auto& finding : listed(model.findings()))
+        content.cards.push_back(card(model, finding, now, copied));
     if (!model.hasFindings()) content.notice = allClearNotice(wordsOf(model.system));
     return content;
 }
@@ -151,7 +107,7 @@ AdvisorContent noticeContent(AdvisorViewModel::Phase phase, const AdvisorNotice&
 
 }  // namespace
 
-AdvisorContent advisorContent(const AdvisorViewModel& model, Date now) {
+AdvisorContent advisorContent(const AdvisorViewModel& model, Date now, std::string_view copied) {
     switch (model.phase()) {
         case AdvisorViewModel::Phase::idle:
             return noticeContent(AdvisorViewModel::Phase::idle, startNotice(wordsOf(model.system)));
@@ -159,7 +115,7 @@ AdvisorContent advisorContent(const AdvisorViewModel& model, Date now) {
             return noticeContent(AdvisorViewModel::Phase::scanning,
                                  scanningNotice(wordsOf(model.system)));
         case AdvisorViewModel::Phase::list:
-            return listContent(model, now);
+            return listContent(model, now, copied);
     }
     return {};
 }

@@ -27,23 +27,24 @@ struct AdvisorRuntimeRow {
     bool operator==(const AdvisorRuntimeRow&) const = default;
 };
 
-enum class AdvisorAction { removeUnavailableSims, thinSnapshots };
-
-/// A button that acts at once. It is never disabled.
+/// A button that acts at once, or puts a command where it can be pasted from. It is never disabled.
 struct AdvisorActionButton {
-    AdvisorAction action = AdvisorAction::removeUnavailableSims;
-    std::string_view label;
+    FindingAction action = FindingAction::run;
+    std::string label;
     AdvisorControlState state = AdvisorControlState::ready;
 
     bool operator==(const AdvisorActionButton&) const = default;
 };
 
-/// One kind of finding.
+/// One finding.
 struct AdvisorCard {
+    std::string id;
     std::string_view symbol;
-    std::string_view title;
+    std::string title;
     std::string body;
     std::optional<std::string> size;
+    std::string command;     ///< to be copied; empty for none
+    bool isWarning = false;  ///< its words are in red
     std::vector<AdvisorRuntimeRow> runtimes;
     std::optional<AdvisorActionButton> button;
 
@@ -72,7 +73,9 @@ inline constexpr std::string_view advisorDismissSymbol = "xmark";
 inline constexpr std::string_view advisorDismissLabel = "Dismiss";
 inline constexpr std::string_view advisorDeleteLabel = "Delete…";
 
-AdvisorContent advisorContent(const AdvisorViewModel& model, Date now);
+/// `copied` is the finding whose command was copied just now, if any.
+AdvisorContent advisorContent(const AdvisorViewModel& model, Date now,
+                              std::string_view copied = {});
 
 /// What is asked before a runtime is deleted.
 struct RuntimeDeleteConfirmation {

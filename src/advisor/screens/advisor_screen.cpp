@@ -1,5 +1,8 @@
 #include "advisor/screens/advisor_screen.h"
 
+#include <QtGui/qclipboard.h>
+#include <QtGui/qguiapplication.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -11,7 +14,7 @@ namespace tidewell {
 namespace {
 
 std::string cardKey(const AdvisorCard& card) {
-    return std::string(card.title);
+    return card.id;
 }
 
 std::vector<ListModel<AdvisorCard>::Role> cardRoles() {
@@ -21,6 +24,8 @@ std::vector<ListModel<AdvisorCard>::Role> cardRoles() {
         {"title", [](const Card& card) { return toText(card.title); }},
         {"body", [](const Card& card) { return toText(card.body); }},
         {"size", [](const Card& card) { return toText(card.size.value_or("")); }},
+        {"command", [](const Card& card) { return toText(card.command); }},
+        {"isWarning", [](const Card& card) { return card.isWarning; }},
         {"hasRuntimes", [](const Card& card) { return !card.runtimes.empty(); }},
         {"buttonLabel",
          [](const Card& card) { return card.button ? toText(card.button->label) : QString(); }},
@@ -67,7 +72,7 @@ AdvisorScreen::AdvisorScreen(std::shared_ptr<AdvisorViewModel> model, QObject* p
 }
 
 void AdvisorScreen::update() {
-    content_ = advisorContent(*model_, now());
+    content_ = advisorContent(*model_, now(), copied_);
     if (pendingRuntimeDelete_) question_ = runtimeDeleteConfirmation(*pendingRuntimeDelete_);
     cards_.set(content_.cards);
     runtimes_.set(runtimesOf(content_.cards));
@@ -75,6 +80,7 @@ void AdvisorScreen::update() {
 
 void AdvisorScreen::open() {
     pendingRuntimeDelete_.reset();
+    copied_.clear();
     QMetaObject::invokeMethod(this, &AdvisorScreen::refresh, Qt::QueuedConnection);
 }
 
@@ -86,12 +92,12 @@ void AdvisorScreen::act(int row) {
     const auto* card = cards_.atRest(row);
     // A runtime's row is a part of the list, too.
     if (!card || !card->button || !runtimes_.isAtRest()) return;
-    switch (card->button->action) {
-        case AdvisorAction::removeUnavailableSims:
-            return spawn(model_, &AdvisorViewModel::removeUnavailableSims);
-        case AdvisorAction::thinSnapshots:
-            return spawn(model_, &AdvisorViewModel::thinSnapshots);
-    }
+    const auto id = card->id;
+    if (card->button->action == FindingAction::run)
+        return spawn(model_, &AdvisorViewModel::run, std::string(id));
+    QGuiApplication::clipboard()->setText(toText(card->command));
+    copied_ = id;
+    refresh();
 }
 
 void AdvisorScreen::askToDelete(int row) {

@@ -91,6 +91,7 @@ class AdvisorScreen final : public Screen {
     const std::shared_ptr<AdvisorViewModel> model_;
     std::optional<SimRuntime> pendingRuntimeDelete_;
     RuntimeDeleteConfirmation question_;  ///< the last one: it stays legible while it goes
+    std::string copied_;                  ///< the finding whose command was copied last
     AdvisorContent content_;
     ListModel<AdvisorCard> cards_;
     ListModel<AdvisorRuntimeRow> runtimes_;

@@ -187,7 +187,8 @@ UninstallRow leftoverRow(const LeftoverFile& leftover, bool hasTick) {
     return {.id = leftover.url,
             .symbol = "folder.fill",
             .title = std::string(lastPathComponent(leftover.url)),
-            .label = leftover.category,
+            .label = hasTick ? leftover.category + " in " + std::string(parentPath(leftover.url))
+                             : leftover.category,
             .size = byteText(leftover.sizeBytes),
             .hasTick = hasTick,
             .isOn = leftover.isSelected};

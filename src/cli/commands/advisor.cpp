@@ -31,12 +31,32 @@ std::variant<PlannedAction, WrongCall> deletion(const Model& model, const std::s
                          [model, runtime] { return model->deleteRuntime(runtime); }};
 }
 
+std::variant<PlannedAction, WrongCall> running(const Model& model, const std::string& word) {
+    const auto found = listed(model->findings());
+    std::vector<std::string> ids;
+    for (const auto& finding : found) ids.push_back(finding.id);
+    const auto place = findById(ids, word, "finding");
+    if (const auto* wrong = std::get_if<WrongCall>(&place)) return *wrong;
+    const auto& finding = found[std::get<std::size_t>(place)];
+    if (finding.action != FindingAction::run)
+        return WrongCall{terminalText(finding.title) + " is not for this program to run" +
+                         (finding.command.empty() ? "" : ": " + terminalText(finding.command))};
+    const auto plan = finding.command.empty() ? std::string(finding.actionLabel) : finding.command;
+    return PlannedAction{"Would run: " + terminalText(plan),
+                         [model, id = finding.id] { return model->run(id); }};
+}
+
 /// Absent if the call wants none.
 std::variant<std::optional<PlannedAction>, WrongCall> plannedAction(const Model& model,
                                                                     const AdvisorCall& call) {
-    const int wanted =
-        int{call.deleteRuntime.has_value()} + int{call.removeUnavailable} + int{call.thinSnapshots};
+    const int wanted = int{call.run.has_value()} + int{call.deleteRuntime.has_value()} +
+                       int{call.removeUnavailable} + int{call.thinSnapshots};
     if (wanted > 1) return WrongCall{"One action in a call is enough"};
+    if (call.run) {
+        auto action = running(model, *call.run);
+        if (const auto* wrong = std::get_if<WrongCall>(&action)) return *wrong;
+        return std::optional(std::get<PlannedAction>(std::move(action)));
+    }
     if (call.deleteRuntime) {
         auto action = deletion(model, *call.deleteRuntime);
         if (const auto* wrong = std::get_if<WrongCall>(&action)) return *wrong;
@@ -66,10 +86,14 @@ void printFindings(const AdvisorViewModel& model) {
     printLine(inked(content.headline, Ink::strong));
     printLine(wordsOf(model.system).advisorTools);
     if (content.notice) printLine(content.notice->line);
+    const bool hasIds = model.system == System::linux;
     for (const auto& card : content.cards) {
         printLine();
-        printLine("  " + inked(card.title, Ink::strong) + "  " + card.size.value_or(""));
-        printLine("  " + card.body);
+        printLine("  " + inked(terminalText(card.title), Ink::strong) + "  " +
+                  card.size.value_or("") + (hasIds ? "  " + inked(card.id, Ink::faint) : ""));
+        printLine("  " + inked(terminalText(card.body), card.isWarning ? Ink::bad : Ink::plain));
+        if (!card.command.empty())
+            printLine("    " + inked(terminalText(card.command), Ink::strong));
         for (const auto& runtime : card.runtimes) printRuntime(runtime);
     }
 }

@@ -69,6 +69,7 @@ struct UninstallCall {
 Outcome runUninstall(const Context& context, const UninstallCall& call);
 
 struct AdvisorCall {
+    std::optional<std::string> run;  ///< a finding's id
     std::optional<std::string> deleteRuntime;
     bool removeUnavailable = false;
     bool thinSnapshots = false;

@@ -32,7 +32,7 @@ const std::vector<ScreenState> states = {
      [](Sample& sample) {
          find(sample);
          sample.view->advisorModel->findings.mutate().runtimes.clear();
-         sample.view->advisorModel->busyAction = std::string(AdvisorViewModel::snapshotsAction);
+         sample.view->advisorModel->busyAction = std::string(snapshotsFinding);
          sample.view->advisorModel->lastMessage =
              "Deleted iOS 16.4. If the space doesn't show up, a restart releases it.";
      }},
