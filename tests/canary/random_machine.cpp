@@ -182,9 +182,9 @@ void RandomMachine::layOutCache(const std::string& place) {
             fs::create_symlink(machine.path("~/Documents"), parent, ignored);
             return;
         }
-        const bool isPersonal = chance.percent(60);
-        const auto moved =
-            (isPersonal ? "~/Documents/Moved/" : "~/Moved/") + std::to_string(chance.below(1000));
+        constexpr std::array<const char*, 3> others = {"~/Documents/Moved/", "~/Moved/",
+                                                       "~/.config/chromium/Default/"};
+        const auto moved = chance.oneOf(others) + std::to_string(chance.below(1000));
         const auto inside = machine.path(moved) + "/" + fs::path(path).filename().string();
         fs::create_directories(inside);
         fill(inside, 2);
