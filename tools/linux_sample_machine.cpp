@@ -102,7 +102,9 @@ void addApplications(const SampleMachine& machine) {
                  "Package: tides\nStatus: install ok installed\nVersion: 2.4-1\n"
                  "Installed-Size: 48211\n");
     machine.text("/var/lib/dpkg/info/tides.list", "/usr/share/applications/tides.desktop\n");
-    machine.tool("/usr/bin/apt-get", "echo 'Remv tides [2.4-1]'; echo 'Remv tides-data [2.4-1]'\n");
+    machine.tool("/usr/bin/apt-get",
+                 "[ \"$3\" = remove ] || exit 0\necho 'Remv tides [2.4-1]'; echo 'Remv tides-data "
+                 "[2.4-1]'\n");
     machine.file("/var/cache/apt/archives/tides_2.4-1_amd64.deb", 41 * megabyte);
     machine.tool("/usr/bin/podman", "echo '[{\"Size\":412000000}]'\n");
     machine.file("~/.cache/tides/charts", 11 * megabyte);

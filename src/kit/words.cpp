@@ -78,7 +78,7 @@ constexpr Words linuxWords{
     .advisorStart = "Pro cleanups with your system's own tools. No admin, nothing hidden.",
     .advisorScanning = "Checking what your system's own tools can free…",
     .advisorAllClear = "Nothing that your system's own tools could trim.",
-    .advisorTools = "Runs your system's own tools as you. No admin password, nothing hidden.",
+    .advisorTools = "Runs your system's own tools as you. What needs an admin is yours to copy.",
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 #include <string_view>
 
@@ -15,6 +16,7 @@ namespace tidewell {
 namespace {
 
 constexpr std::size_t longestUnit = 1024 * 1024;
+constexpr std::size_t mostAdditions = 64;
 
 using Names = std::vector<std::string>;
 
@@ -85,14 +87,35 @@ struct FoundUnit {
     UnitFile unit;
 };
 
+/// The files that add to a unit: those in the folders of its name, in the order of their own names.
+/// Of two with one name the one counts whose folder comes first.
+std::vector<std::string> additionsTo(const Host& host, const std::string& unit) {
+    std::map<std::string, std::string> byName;
+    for (const auto& units : unitFolders) {
+        for (const auto& name : {unit, unitFileName(unit)}) {
+            const auto folder = joinPath(host.locate(units), name + ".d");
+            for (const auto& file : namesIn(folder))
+                if (pathExtension(file) == "conf") byName.emplace(file, joinPath(folder, file));
+        }
+    }
+    std::vector<std::string> paths;
+    for (const auto& [name, path] : byName)
+        if (paths.size() < mostAdditions) paths.push_back(path);
+    return paths;
+}
+
 /// Absent for one that is masked: what stands there is no file.
 std::optional<FoundUnit> findUnit(const Host& host, const std::string& name) {
     for (const auto& folder : unitFolders) {
-        auto path = joinPath(host.locate(folder), name);
+        auto path = joinPath(host.locate(folder), unitFileName(name));
         if (!fileExists(path)) continue;
         const auto text = readFile(path, longestUnit);
         if (!text || text->empty()) return std::nullopt;
-        return FoundUnit{.path = std::move(path), .unit = parseUnitFile(*text)};
+        FoundUnit found{.path = std::move(path), .unit = {}};
+        readUnitFile(found.unit, *text);
+        for (const auto& addition : additionsTo(host, name))
+            if (const auto more = readFile(addition, longestUnit)) readUnitFile(found.unit, *more);
+        return found;
     }
     return std::nullopt;
 }
@@ -113,7 +136,7 @@ bool isStartedUnit(std::string_view name) {
 
 void addUnit(const Host& host, const std::string& name, std::string scope,
              std::vector<LoginItem>& items) {
-    const auto found = findUnit(host, unitFileName(name));
+    const auto found = findUnit(host, name);
     if (!found) return;
     const auto& unit = found->unit;
     items.push_back({.id = randomUuid(),

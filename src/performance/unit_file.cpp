@@ -17,8 +17,7 @@ std::string_view trimmed(std::string_view text) {
 
 }  // namespace
 
-UnitFile parseUnitFile(std::string_view text) {
-    UnitFile unit;
+void readUnitFile(UnitFile& unit, std::string_view text) {
     std::string_view section;
     while (!text.empty()) {
         const auto end = std::min(text.find('\n'), text.size());
@@ -30,11 +29,12 @@ UnitFile parseUnitFile(std::string_view text) {
         const auto key = trimmed(line.substr(0, equals));
         auto value = trimmed(line.substr(equals + 1));
         if (section == "[Unit]" && key == "Description") unit.description = value;
-        if (section != "[Service]" || key != "ExecStart" || !unit.command.empty()) continue;
+        if (section != "[Service]" || key != "ExecStart") continue;
+        if (value.empty()) unit.command.clear();  // takes all earlier ones back
+        if (!unit.command.empty()) continue;
         value.remove_prefix(std::min(value.find_first_not_of("@-:+!"), value.size()));
         unit.command = value;
     }
-    return unit;
 }
 
 std::string unitFileName(std::string_view unit) {

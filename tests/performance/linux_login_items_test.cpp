@@ -76,20 +76,33 @@ TEST_F(LinuxLoginItems, AreTheUnitsThatAreEnabled) {
                                     machine.path("~/.config/systemd/user/masked.service"));
     machine.text("/usr/lib/systemd/user/app-chat@.service", "[Service]\nExecStart=/bin/no\n");
     machine.text("/usr/lib/systemd/user/idle.service", "[Service]\nExecStart=/bin/no\n");
+    // What adds to a unit, and what is no unit.
+    machine.text("/usr/lib/systemd/user/sync.service.d/10.conf",
+                 "[Service]\nExecStart=\nExecStart=/bin/patched\n");
+    machine.text("/usr/lib/systemd/user/sync.service.d/90.conf", "[Unit]\nDescription=Hidden\n");
+    machine.text("~/.config/systemd/user/sync.service.d/90.conf", "[Unit]\nDescription=Mine\n");
+    machine.text("~/.config/systemd/user/sync.service.d/99.conf", std::string("\0\xff[Unit", 7));
+    machine.link("~/.config/systemd/user/sync.service.d/95.conf", "95.conf");
+    machine.text("~/.config/systemd/user/mail@.service.d/a.conf", std::string(2 << 20, '#'));
+    machine.text("~/.config/systemd/user/mail@work.service.d/b.conf",
+                 "[Unit]\nDescription=Work mail\n");
+    machine.link("~/.config/systemd/user/round.service", "round.service");
+    machine.text("~/.config/systemd/user/huge.service", std::string(2 << 20, '#'));
     const std::string own = "~/.config/systemd/user/default.target.wants/";
-    for (const auto* name : {"sync.service", "mail@work.service", "masked.service",
-                             "app-chat@autostart.service", "basic.target", "dangling.service"})
+    for (const auto* name :
+         {"sync.service", "mail@work.service", "masked.service", "app-chat@autostart.service",
+          "basic.target", "dangling.service", "round.service", "huge.service"})
         enable(own + name);
     enable("/etc/systemd/user/default.target.wants/sync.service");
     enable("/etc/systemd/user/timers.target.wants/backup.timer");
     enable("/etc/systemd/user/default.target.requires/idle.service");
     const auto home = host.home.substr(host.root.size());
-    EXPECT_EQ(rows(),
-              (std::vector<Row>{
-                  {"Back up", "/bin/backup", "System", "/usr/lib/systemd/user/backup.timer"},
-                  {"mail@work.service", "/usr/bin/mail", "You",
-                   home + "/.config/systemd/user/mail@.service"},
-                  {"Sync files", "/usr/bin/sync", "You", "/usr/lib/systemd/user/sync.service"}}));
+    EXPECT_EQ(
+        rows(),
+        (std::vector<Row>{
+            {"Back up", "/bin/backup", "System", "/usr/lib/systemd/user/backup.timer"},
+            {"Mine", "/bin/patched", "You", "/usr/lib/systemd/user/sync.service"},
+            {"Work mail", "/usr/bin/mail", "You", home + "/.config/systemd/user/mail@.service"}}));
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ GlowCard {
     property string size
     /// Empty: the program only tells.
     property string buttonLabel
-    /// Shown under the words, to be copied; empty for none.
+    /// Shown under the words; empty for none.
     property string command
     property bool isWarning: false
     property bool isBusy: false

@@ -75,7 +75,7 @@ AdvisorCard card(const AdvisorViewModel& model, const Finding& finding, Date now
         .title = finding.title,
         .body = finding.detail,
         .size = std::nullopt,
-        .command = finding.action == FindingAction::copy ? finding.command : "",
+        .command = finding.command,
         .isWarning = finding.severity == FindingSeverity::warning,
         .runtimes = {},
         .button = buttonOf(model, finding, copied),

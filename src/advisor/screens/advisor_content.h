@@ -43,7 +43,7 @@ struct AdvisorCard {
     std::string title;
     std::string body;
     std::optional<std::string> size;
-    std::string command;     ///< to be copied; empty for none
+    std::string command;     ///< what is run or copied; empty where words tell it
     bool isWarning = false;  ///< its words are in red
     std::vector<AdvisorRuntimeRow> runtimes;
     std::optional<AdvisorActionButton> button;

@@ -26,12 +26,21 @@ Item {
         }
         Label {
             topPadding: 10
+            visible: list.count > 0
             text: root.screen.appsHeading
             size: Theme.sizeNote
             weight: Font.DemiBold
             color: Theme.secondary
             Accessible.role: Accessible.Heading
         }
+    }
+    StartNote {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.verticalCenter: list.verticalCenter
+        visible: list.count === 0
+        symbol: "speedometer"
+        title: "Nothing is running"
+        line: "Apps that you open show up here, with the memory that they use."
     }
     Banner {
         id: banner

@@ -23,6 +23,7 @@ Item {
     Label {
         x: root.margin
         anchors.verticalCenter: settings.verticalCenter
+        visible: list.count > 0
         text: root.screen.startupHeading
         size: Theme.sizeNote
         weight: Font.DemiBold
@@ -38,6 +39,14 @@ Item {
         text: root.screen.openSettingsLabel
         visible: text !== ""
         onClicked: root.screen.openLoginSettings()
+    }
+    StartNote {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.verticalCenter: list.verticalCenter
+        visible: list.count === 0
+        symbol: "power"
+        title: "Nothing starts by itself"
+        line: "No app has asked to open when you log in."
     }
     CardList {
         id: list
