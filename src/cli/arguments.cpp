@@ -137,6 +137,7 @@ void addAdvisorCommand(CLI::App& app, Call& call) {
     CLI::App* command = nullptr;
     auto& advisor = addCommand<AdvisorCall>(
         app, call, "advisor", "Cleanups with the platform's own tools", runAdvisor, command);
+    command->add_option("--run", advisor.run, "Do what a finding says, by its id")->type_name("ID");
     command
         ->add_option("--delete-runtime", advisor.deleteRuntime,
                      "Delete one of the runtimes that it found")

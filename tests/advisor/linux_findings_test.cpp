@@ -102,7 +102,7 @@ TEST_F(LinuxFindings, OfToolsThatFailOrTalkNonsenseAreNone) {
 
 TEST_F(LinuxFindings, FlatpaksRuntimesAreUnusedOnlyIfNothingLeadsToThem) {
     machine.tool("/usr/bin/flatpak", "");
-    machine.text("~/.local/share/flatpak/repo/config", "[core]\nrepo_version=1\n");
+    machine.text("~/.local/share/flatpak/repo/config", "[core]\nxa.pinned=\n");
     const std::string app = "[Application]\nname=org.acme.Maps\nruntime=org.p.Platform/x/2\n";
     deploy("app/org.acme.Maps/x/stable", app);
     deploy("runtime/org.p.Platform/x/2", "[Runtime]\nruntime=org.p.Platform/x/2\n");
@@ -116,8 +116,13 @@ TEST_F(LinuxFindings, FlatpaksRuntimesAreUnusedOnlyIfNothingLeadsToThem) {
     const auto finding = unusedFlatpakRuntimes(machine.host());
     ASSERT_TRUE(finding);
     EXPECT_TRUE(finding->detail.starts_with("2 runtimes that none")) << finding->detail;
-    machine.text("~/.local/share/flatpak/repo/config", "xa.pinned=org.p.Platform//1\n");
-    EXPECT_FALSE(unusedFlatpakRuntimes(machine.host())) << "the user keeps some";
+    for (const auto* pin :
+         {"x;runtime/org.p.Platform/x/1", "runtime/org.p.*", "runtime/org.p.Platform//1"}) {
+        machine.text("~/.local/share/flatpak/repo/config", "xa.pinned=" + std::string(pin) + "\n");
+        EXPECT_FALSE(unusedFlatpakRuntimes(machine.host())) << pin;
+    }
+    machine.remove("~/.local/share/flatpak/repo/config");
+    EXPECT_FALSE(unusedFlatpakRuntimes(machine.host())) << "nobody knows what the user keeps";
 }
 
 TEST_F(LinuxFindings, AreRunWordByWordAndGoOnceTheyWentWell) {

@@ -65,15 +65,33 @@ std::vector<Deployed> deployedIn(const std::string& installation, const std::str
     return found;
 }
 
-/// Flatpak keeps patterns of what the user wants to keep in its repository's settings.
-bool hasPins(const std::string& installation) {
+/// What the refs that the user wants to keep begin with: flatpak has patterns of them in its
+/// repository's settings. Absent if those cannot be read.
+std::optional<Names> pinnedBeginnings(const std::string& installation) {
     const auto text = readFile(joinPath(installation, "repo/config"), longestMetadata);
-    return !text || text->find("xa.pinned=") != text->npos;
+    if (!text) return std::nullopt;
+    Names beginnings;
+    constexpr std::string_view key = "xa.pinned=";
+    for (std::string_view rest = *text; !rest.empty();) {
+        auto line = takeLine(rest);
+        if (!line.starts_with(key)) continue;
+        for (line.remove_prefix(key.size()); !line.empty();) {
+            const auto pattern = line.substr(0, line.find(';'));
+            line.remove_prefix(std::min(pattern.size() + 1, line.size()));
+            const auto open = std::min(pattern.find('*'), pattern.find("//"));
+            if (!pattern.empty()) beginnings.emplace_back(pattern.substr(0, open));
+        }
+    }
+    return beginnings;
 }
 
 /// What the things in use name, and what extends those, and so on.
 std::set<std::string> usedRefs(const std::vector<Deployed>& apps,
-                               const std::vector<Deployed>& runtimes) {
+                               const std::vector<Deployed>& runtimes, const Names& pinned) {
+    const auto isPinned = [&pinned](const std::string& ref) {
+        return std::ranges::any_of(
+            pinned, [&ref](const std::string& beginning) { return ref.starts_with(beginning); });
+    };
     std::set<std::string> used;
     for (const auto& app : apps) {
         used.insert(app.ref);
@@ -82,7 +100,8 @@ std::set<std::string> usedRefs(const std::vector<Deployed>& apps,
     for (auto before = used.size() + 1; before != used.size();) {
         before = used.size();
         for (const auto& runtime : runtimes) {
-            const bool isUsed = used.contains(runtime.ref) || !runtime.isKnown ||
+            const bool isUsed = used.contains(runtime.ref) || isPinned(runtime.ref) ||
+                                !runtime.isKnown ||
                                 (runtime.extends && used.contains(*runtime.extends));
             if (!isUsed) continue;
             used.insert(runtime.ref);
@@ -97,9 +116,10 @@ std::set<std::string> usedRefs(const std::vector<Deployed>& apps,
 
 std::optional<Finding> unusedFlatpakRuntimes(const Host& host) {
     const auto installation = joinPath(host.baseFolders.data, "flatpak");
-    if (!toolNamed(host, "flatpak") || hasPins(installation)) return std::nullopt;
+    const auto pinned = pinnedBeginnings(installation);
+    if (!toolNamed(host, "flatpak") || !pinned) return std::nullopt;
     const auto runtimes = deployedIn(installation, "runtime");
-    const auto used = usedRefs(deployedIn(installation, "app"), runtimes);
+    const auto used = usedRefs(deployedIn(installation, "app"), runtimes, *pinned);
     std::int64_t count = 0;
     ByteCount bytes = 0;
     for (const auto& runtime : runtimes) {

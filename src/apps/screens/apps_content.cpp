@@ -216,7 +216,9 @@ std::string sheetLine(const UninstallPlan& plan) {
     const auto count = plan.app.kind == AppKind::bundle
                            ? std::to_string(plan.itemCount()) + " items"
                            : countText(plan.itemCount(), "item");
-    return count + " · " + byteText(plan.totalBytes()) + " will move to the Trash";
+    return count + " · " + byteText(plan.totalBytes()) +
+           (uninstallWay(plan.app.kind) == UninstallWay::ownTool ? " will go"
+                                                                 : " will move to the Trash");
 }
 
 /// What flatpak takes away does not come back from the Trash.
