@@ -9,8 +9,8 @@ namespace tidewell {
 
 /// Which entry of which disk it is, whatever path leads to it.
 struct Identity {
-    std::uint64_t disk = 0;
-    std::uint64_t number = 0;
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
 
     auto operator<=>(const Identity&) const = default;
 };

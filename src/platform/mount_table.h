@@ -12,11 +12,25 @@ namespace tidewell {
 /// that what lies in it has as many paths, none of which is a link to another. Any thread.
 class MountTable {
  public:
-    /// The machine's table as it is now; one that is not known where the system does not tell.
+    struct Mount {
+        std::string id;      ///< which no other mount has
+        std::string parent;  ///< the mount that it was put on
+        std::string disk;
+        std::string part;   ///< the folder of the disk that is shown
+        std::string place;  ///< where it is shown
+        std::string kind;   ///< of its file system
+    };
+
+    /// The machine's table as it is now; one that is not known where the system does not tell. Asks
+    /// nothing of the mounts themselves.
     static MountTable read();
 
     /// From lines as the system writes them; a damaged line is passed over.
     explicit MountTable(std::string_view lines);
+
+    /// In the order in which they were mounted.
+    const std::vector<Mount>& mounts() const& { return mounts_; }
+    void mounts() && = delete;  // they go with their table
 
     /// Whether it tells of the whole disk: not where it is hidden, nor from inside a part that was
     /// made the root.
@@ -30,14 +44,6 @@ class MountTable {
     std::vector<std::string> placesBelow(std::string_view folder) const;
 
  private:
-    struct Mount {
-        std::string id;
-        std::string parent;  ///< the mount that it was put on
-        std::string disk;
-        std::string part;   ///< the folder of the disk that is shown
-        std::string place;  ///< where it is shown
-    };
-
     const Mount* root() const;
     const Mount* holding(std::string_view path) const;
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -8,16 +7,9 @@
 #include "platform/byte_count.h"
 #include "platform/files.h"
 #include "platform/host.h"
+#include "platform/identity.h"
 
 namespace tidewell {
-
-/// Which entry it is, whatever name it has.
-struct EntryIdentity {
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-
-    friend bool operator==(const EntryIdentity&, const EntryIdentity&) = default;
-};
 
 /// Something that lies in a Trash, whoever put it there.
 struct TrashedItem {
@@ -27,7 +19,7 @@ struct TrashedItem {
     std::optional<std::string> origin;  ///< where it came from; absent if the Trash does not say
     std::optional<Date> deletedAt;
     bool isFolder = false;
-    EntryIdentity identity;
+    Identity identity;
 
     bool operator==(const TrashedItem&) const = default;
 };

@@ -10,7 +10,7 @@ using Paths = std::vector<std::string>;
 TEST(MountTable, FindsTheOtherPathsOfAPlace) {
     const MountTable table(
         "27 1 8:1 / / rw - ext4 /dev/a rw\n"
-        "28 27 8:2 / /home rw - ext4 /dev/b rw\n"
+        "28 27 8:2 / /home rw shared:1 master:2 - ext4 /dev/b rw\n"
         "29 28 8:2 /ada/Documents/my\\040thesis /home/ada/.gradle rw - ext4 /dev/b rw\n"
         "30 28 8:2 /ada /srv/ada rw - ext4 /dev/b rw\n"
         "31 28 0:9 / /home/ada/covered rw - tmpfs none rw\n"
@@ -19,6 +19,7 @@ TEST(MountTable, FindsTheOtherPathsOfAPlace) {
         "34 27 0:35 / /mnt/all rw - btrfs /dev/c rw\n"
         "damaged\n35 28 8:2\n36 28 8:2 relative places rw\n37 99 8:2 \\9 /x\\");
     EXPECT_TRUE(table.isKnown());
+    EXPECT_EQ(table.mounts()[4].kind, "tmpfs");
     struct Row {
         const char* path;
         Paths others;

@@ -1,19 +1,16 @@
 #include "platform/linux/far_mounts.h"
 
-#include <fcntl.h>
 #include <sys/vfs.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <iterator>
-#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <thread>
 
-#include "platform/posix/descriptor.h"
+#include "platform/mount_table.h"
 
 namespace tidewell::linux_system {
 
@@ -33,48 +30,13 @@ bool isFar(std::string_view kind) {
     return kind.starts_with("fuse.") || std::ranges::find(farKinds, kind) != farKinds.end();
 }
 
-/// A place as the table writes it: what would break a line stands as three octal digits.
-std::string unescaped(std::string_view written) {
-    constexpr std::string_view digits = "01234567";
-    std::string place;
-    for (std::size_t at = 0; at < written.size(); ++at) {
-        if (written[at] != '\\' || written.size() - at < 4) {
-            place += written[at];
-            continue;
-        }
-        int byte = 0;
-        for (const char digit : written.substr(at + 1, 3))
-            byte = byte * 8 + static_cast<int>(digits.find(digit));
-        place += static_cast<char>(byte);
-        at += 3;
-    }
-    return place;
-}
-
-/// Read without a question to the mounts themselves.
-std::string mountTable() {
-    const posix::Descriptor table(::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC));
-    std::string text;
-    char buffer[16 * 1024];
-    const auto readOn = [&] { return ::read(table.get(), buffer, sizeof buffer); };
-    for (auto length = readOn(); length > 0; length = readOn())
-        text.append(buffer, static_cast<std::size_t>(length));
-    return text;
-}
-
 }  // namespace
 
-/// "36 35 98:0 /part /place options tags... - kind source options"
 std::vector<FarMount> farMounts() {
     std::vector<FarMount> found;
-    std::istringstream table(mountTable());
-    for (std::string line; std::getline(table, line);) {
-        std::istringstream words(line);
-        std::vector<std::string> fields{std::istream_iterator<std::string>(words), {}};
-        const auto dash = std::ranges::find(fields, "-");
-        if (fields.size() < 7 || fields.end() - dash < 2 || !isFar(*std::next(dash))) continue;
-        found.push_back({.number = fields[0], .place = unescaped(fields[4])});
-    }
+    const auto table = MountTable::read();
+    for (const auto& mount : table.mounts())
+        if (isFar(mount.kind)) found.push_back({.number = mount.id, .place = mount.place});
     return found;
 }
 

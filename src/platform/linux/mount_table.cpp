@@ -2,18 +2,17 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <utility>
 
-#include "platform/files.h"
 #include "platform/path_text.h"
+#include "platform/posix/descriptor.h"
 
 namespace tidewell {
 
 namespace {
-
-constexpr std::size_t tableLimit = std::size_t{16} * 1024 * 1024;
 
 /// Up to the next blank or line end, which is left out of `text` with what stands before it.
 std::string_view cutOff(std::string_view& text, char end) {
@@ -52,9 +51,18 @@ std::string moved(std::string_view path, std::string_view from, std::string_view
 }  // namespace
 
 MountTable MountTable::read() {
-    return MountTable(readFile("/proc/self/mountinfo", tableLimit).value_or(std::string()));
+    const posix::Descriptor table(::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC));
+    std::string text;
+    char buffer[16 * 1024];
+    const auto readOn = [&] {
+        return posix::retrying([&] { return ::read(table.get(), buffer, sizeof buffer); });
+    };
+    auto length = readOn();
+    for (; length > 0; length = readOn()) text.append(buffer, static_cast<std::size_t>(length));
+    return MountTable(length < 0 ? std::string_view() : text);
 }
 
+/// "36 35 98:0 /part /place options tags... - kind source options"
 MountTable::MountTable(std::string_view lines) {
     while (!lines.empty()) {
         auto line = cutOff(lines, '\n');
@@ -64,6 +72,8 @@ MountTable::MountTable(std::string_view lines) {
         mount.disk = cutOff(line, ' ');
         mount.part = unescaped(cutOff(line, ' '));
         mount.place = unescaped(cutOff(line, ' '));
+        while (!line.empty() && cutOff(line, ' ') != "-") continue;
+        mount.kind = cutOff(line, ' ');
         if (mount.part.starts_with('/') && mount.place.starts_with('/'))
             mounts_.push_back(std::move(mount));
     }

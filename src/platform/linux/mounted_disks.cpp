@@ -1,11 +1,8 @@
-#include <mntent.h>
-
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <memory>
 #include <string_view>
 
+#include "platform/mount_table.h"
 #include "platform/path_text.h"
 #include "platform/trash/volumes.h"
 
@@ -21,16 +18,11 @@ constexpr std::array<std::string_view, 17> diskKinds = {
 }  // namespace
 
 std::vector<std::string> mountedDisks(const std::string& root) {
-    const std::unique_ptr<FILE, int (*)(FILE*)> table(::setmntent("/proc/self/mounts", "r"),
-                                                      ::endmntent);
     std::vector<std::string> places;
-    if (!table) return places;
-    mntent entry;
-    char buffer[16 * 1024];
-    while (::getmntent_r(table.get(), &entry, buffer, sizeof buffer)) {
-        const bool isDisk =
-            std::ranges::find(diskKinds, std::string_view(entry.mnt_type)) != diskKinds.end();
-        if (isDisk && isAtOrBelow(entry.mnt_dir, root)) places.emplace_back(entry.mnt_dir);
+    const auto table = MountTable::read();
+    for (const auto& mount : table.mounts()) {
+        const bool isDisk = std::ranges::find(diskKinds, mount.kind) != diskKinds.end();
+        if (isDisk && isAtOrBelow(mount.place, root)) places.push_back(mount.place);
     }
     std::ranges::sort(places);
     const auto twice = std::ranges::unique(places);

@@ -23,7 +23,7 @@ namespace {
 /// Where a silent mount stands: by its path, and by the folder that shows it.
 struct SilentPlace {
     std::string path;
-    std::optional<posix::FolderIdentity> parent;
+    std::optional<Identity> parent;
     std::string name;
 };
 using SilentPlaces = std::vector<SilentPlace>;
@@ -43,7 +43,7 @@ SilentPlaces silentPlaces(const std::vector<linux_system::FarMount>& silent) {
         const std::string parent(parentPath(place.path));
         struct stat status;
         if (!liesOnOne(places, parent) && ::stat(parent.c_str(), &status) == 0)
-            place.parent = posix::FolderIdentity{.device = status.st_dev, .inode = status.st_ino};
+            place.parent = Identity{.device = status.st_dev, .inode = status.st_ino};
     }
     return places;
 }

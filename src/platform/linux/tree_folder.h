@@ -15,7 +15,7 @@ namespace tidewell::linux_system {
 
 /// Which folder it is, and the mount through which it was reached.
 struct MountedFolder {
-    posix::FolderIdentity folder;
+    Identity folder;
     std::uint64_t mount;  ///< 0 where the system does not tell mounts apart
 
     friend bool operator==(const MountedFolder&, const MountedFolder&) = default;

@@ -4,20 +4,15 @@
 
 #include <optional>
 
+#include "platform/identity.h"
+
 namespace tidewell::posix {
 
-/// Which folder it is, whatever way led to it.
-struct FolderIdentity {
-    dev_t device;
-    ino_t inode;
-
-    friend bool operator==(const FolderIdentity&, const FolderIdentity&) = default;
-};
-
-inline std::optional<FolderIdentity> identityOf(int folder) {
+/// Of what is open.
+inline std::optional<Identity> identityOf(int descriptor) {
     struct stat status;
-    if (::fstat(folder, &status) != 0) return std::nullopt;
-    return FolderIdentity{.device = status.st_dev, .inode = status.st_ino};
+    if (::fstat(descriptor, &status) != 0) return std::nullopt;
+    return Identity{.device = status.st_dev, .inode = status.st_ino};
 }
 
 }  // namespace tidewell::posix
