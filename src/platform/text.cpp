@@ -25,11 +25,6 @@ void append(std::string& text, UChar32 character) {
     icu::UnicodeString(character).toUTF8String(text);
 }
 
-bool turnsDirection(UChar32 character) {
-    return (character >= 0x202A && character <= 0x202E) ||
-           (character >= 0x2066 && character <= 0x2069);
-}
-
 void appendEscaped(std::string& text, UChar32 character) {
     char escaped[16];
     switch (character) {
@@ -69,7 +64,7 @@ std::string wellFormedText(std::string_view bytes) {
 std::string terminalText(std::string_view bytes) {
     std::string text;
     forEachCharacter(bytes, [&text](UChar32 character) {
-        if (u_iscntrl(character) || turnsDirection(character)) {
+        if (u_iscntrl(character)) {  // also what turns the direction of writing
             appendEscaped(text, character);
         } else {
             append(text, character);

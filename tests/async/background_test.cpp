@@ -160,21 +160,6 @@ TEST(BackgroundTest, DropsAtQuitWhatWaitsForCallsThatNeverEnd) {
     EXPECT_EQ(order, Names{"started"});
 }
 
-Task<> waitForNothing() {
-    BackgroundGroup<int> group;
-    co_await group.next();
-}
-
-TEST(BackgroundGroupDeathTest, EndsTheProcessInsteadOfWaitingForNothing) {
-    TestLoop loop;
-    EXPECT_DEATH(
-        {
-            spawn(waitForNothing());
-            loop.runTurn();
-        },
-        "");
-}
-
 }  // namespace
 
 }  // namespace tidewell::test

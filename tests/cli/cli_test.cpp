@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <future>
 #include <regex>
 
@@ -121,7 +122,46 @@ TEST(CommandLine, FailsWhereNobodyHearsWhatItSays) {
     EXPECT_FALSE(machine.has("~/.npm/one"));  // it did what it was told to
 }
 
+/// Each is open in the call for a tool to see; whatever were opened in its place would be written
+/// to.
+TEST(CommandLine, OpensNothingInThePlaceOfAStandardStreamThatIsClosed) {
+    for (const std::string stream : {"0", "1", "2"}) {
+        const FurnishedMachine machine;
+        machine.tool("/usr/bin/xcrun",
+                     "readlink /proc/$PPID/fd/" + stream + " >'" + machine.path("/seen") + "'");
+        const auto call = "\"$0\" --root \"$1\" advisor " + stream + ">&-";
+        test::runProgram("/bin/sh", {"-c", call, TIDEWELL_CLI, machine.root()});
+        EXPECT_EQ(machine.contentOf("/seen"), "/dev/null\n") << stream;
+    }
+}
+
 /// A watcher beside it sends the interrupt as soon as the first of many items is gone.
+ProgramRun interruptedWhenGone(const SampleMachine& machine, const std::string& path, Words words) {
+    words.insert(words.begin(),
+                 {"-c",
+                  "(while [ -e \"$0\" ] && kill -0 $$; do :; done; kill -INT $$) >/dev/null & "
+                  "exec \"$@\"",
+                  path, TIDEWELL_CLI, "--root", machine.root()});
+    return test::runProgram("/bin/sh", words);
+}
+
+TEST(CommandLine, StopsMovesToTheTrashBehindTheItemInHandOnAFirstInterrupt) {
+    const SampleMachine machine;
+    machine.file("~/Games/0/assets", 90 * megabyte);
+    Words words = {"trash", "--yes"};
+    constexpr int count = 200;
+    for (int i = 0; i < count; ++i) {
+        const auto game = machine.path("~/Games/" + std::to_string(i));
+        words.push_back(game);
+        machine.folder("~/Games/" + std::to_string(i));
+        if (i > 0)
+            std::filesystem::create_hard_link(machine.path("~/Games/0/assets"), game + "/assets");
+    }
+    EXPECT_EQ(interruptedWhenGone(machine, machine.path("~/Games/0"), words).status, 1);
+    EXPECT_TRUE(machine.has("~/.Trash/0/assets"));
+    EXPECT_TRUE(machine.has("~/Games/" + std::to_string(count - 1)));
+}
+
 TEST(CommandLine, StopsACleanBehindTheItemInHandOnAFirstInterrupt) {
     const SampleMachine machine;
     constexpr int count = 150;
@@ -129,12 +169,8 @@ TEST(CommandLine, StopsACleanBehindTheItemInHandOnAFirstInterrupt) {
         for (int j = 0; j < 10; ++j)
             machine.text("~/Code/" + std::to_string(i) + "/node_modules/" + std::to_string(j), "x");
     machine.file("~/.npm/one", megabyte);  // the largest goes first
-    const auto ended = test::runProgram(
-        "/bin/sh",
-        {"-c",
-         "(while [ -e \"$0\" ] && kill -0 $$; do :; done; kill -INT $$) >/dev/null & exec \"$@\"",
-         machine.path("~/.npm/one"), TIDEWELL_CLI, "--root", machine.root(), "--json", "clean",
-         "--yes"});
+    const auto ended =
+        interruptedWhenGone(machine, machine.path("~/.npm/one"), {"--json", "clean", "--yes"});
     EXPECT_EQ(ended.status, 1);
     const auto document = parseJson(ended.output).value_or(Value());
     int left = 0;

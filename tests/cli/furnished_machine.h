@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "support/sample_machine.h"
 #include "support/simulator_tools.h"
 
@@ -10,6 +12,8 @@ class FurnishedMachine : public SampleMachine {
  public:
     FurnishedMachine() {
         file("~/.npm/one", 8 * kilobyte);
+        folder("~/Sync");
+        std::filesystem::create_hard_link(path("~/.npm/one"), path("~/Sync/one"));
         file("~/.Trash/movie", 64 * kilobyte);
         file("~/Library/Developer/Xcode/Archives/old", 24 * kilobyte);
         file("~/Code/app/node_modules/x", 16 * kilobyte);

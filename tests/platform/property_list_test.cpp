@@ -232,22 +232,6 @@ TEST(PropertyList, BinaryThatContainsItselfOrSharesWithoutMeasureIsAbsent) {
     EXPECT_NE(fromBinary({shared, "\x54text"}), "absent");
 }
 
-TEST(PropertyList, NoDamageToAListDoesMoreThanMakeItAbsent) {
-    const auto xmlList =
-        "<plist><dict><key>a</key><array><integer>1</integer></array></dict></plist>"s;
-    for (const auto& list : {sampleBinaryList(), xmlList}) {
-        ASSERT_TRUE(parsePropertyList(list));
-        for (std::size_t place = 0; place < list.size(); ++place) {
-            EXPECT_FALSE(parsePropertyList(list.substr(0, place))) << place;
-            for (const char other : {'\0', '\x01', '\x7F', '\xFF'}) {
-                auto damaged = list;
-                damaged[place] = other;
-                parsePropertyList(damaged);
-            }
-        }
-    }
-}
-
 TEST(PropertyList, OnlyARegularFileOfReasonableLengthIsRead) {
     const TemporaryFolder folder;
     const auto path = [&](const char* name) { return folder.path() + "/" + name; };

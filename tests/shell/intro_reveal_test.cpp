@@ -50,14 +50,6 @@ TEST_F(IntroRevealTest, TheFilmGivesWayTwoSecondsBeforeItsEndAndIsGoneThreeSecon
     EXPECT_EQ(ends, 1);
 }
 
-TEST_F(IntroRevealTest, OnlyATickLooksAtTheFilm) {
-    loop.advance(190ms);
-    intro->filmIsAt(4s, 5s);
-    EXPECT_EQ(reveals, 0);
-    loop.advance(10ms);
-    EXPECT_EQ(reveals, 1);
-}
-
 TEST_F(IntroRevealTest, TheEndOfAShortFilmRevealsBeforeTheFirstTick) {
     intro->filmIsAt(100ms, 100ms);
     loop.advance(100ms);

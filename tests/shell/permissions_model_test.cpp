@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <vector>
 
 #include "support/child_process.h"
 #include "support/sample_machine.h"
@@ -19,12 +18,7 @@ constexpr auto usersFile = "~/Library/Application Support/com.apple.TCC/TCC.db";
 class PermissionsModelTest : public testing::Test {
  protected:
     std::shared_ptr<PermissionsModel> makeModel() {
-        auto host = machine.host();
-        host.ownBundle.path = "/opt/Tidewell.app";
-        const Workspace workspace{
-            .openUrl = [this](const std::string& url) { opened.push_back(url); },
-            .reveal = [this](const std::string& path) { revealed.push_back(path); }};
-        return std::make_shared<PermissionsModel>(host, workspace, didBecomeActive);
+        return std::make_shared<PermissionsModel>(machine.host(), Workspace(), didBecomeActive);
     }
     bool hasAccess() { return makeModel()->hasFullDiskAccess(); }
     /// Rights do not hold an administrator off, so that a plain user has to look.
@@ -46,8 +40,6 @@ class PermissionsModelTest : public testing::Test {
     const test::SampleMachine machine;
     test::TestLoop loop;
     Signal didBecomeActive;
-    std::vector<std::string> opened;
-    std::vector<std::string> revealed;
 };
 
 TEST_F(PermissionsModelTest, TakesTheRightToOpenTheFirstProtectedFileAsTheGrant) {
@@ -89,16 +81,6 @@ TEST_F(PermissionsModelTest, LooksAgainWheneverTheProgramComesToTheFront) {
     didBecomeActive.fire();
     loop.runTurns();
     EXPECT_EQ(published, 3);
-}
-
-TEST_F(PermissionsModelTest, LeadsToTheSettingsAndToTheProgramItself) {
-    const auto model = makeModel();
-    model->openSettings();
-    model->revealApp();
-    EXPECT_EQ(opened,
-              (std::vector<std::string>{
-                  "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"}));
-    EXPECT_EQ(revealed, (std::vector<std::string>{"/opt/Tidewell.app"}));
 }
 
 }  // namespace

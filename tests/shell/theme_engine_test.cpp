@@ -38,13 +38,6 @@ class ThemeEngineTest : public testing::Test {
     Signal didBecomeActive;
 };
 
-TEST_F(ThemeEngineTest, ReadsTheVolumeOfTheHomeFolderAtOnce) {
-    const auto engine = makeEngine(machine.home());
-    EXPECT_EQ(engine->totalBytes(), volumeCapacity(machine.home())->total);
-    EXPECT_GT(engine->freeBytes(), 0);
-    EXPECT_EQ(engine->palette(), themePalette(engine->freeFraction(), System::macOS));
-}
-
 TEST_F(ThemeEngineTest, KeepsWhatItKnewWhenTheVolumeCannotBeRead) {
     const std::string noBlocks = "/proc";  // a file system of no size
     ASSERT_EQ(volumeCapacity(noBlocks)->total, 0);

@@ -1,6 +1,7 @@
 #include "support/child_process.h"
 
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -9,9 +10,13 @@
 
 namespace tidewell::test {
 
-ChildProcess::ChildProcess(const std::function<bool()>& work) : id_(::fork()) {
+ChildProcess::ChildProcess(const std::function<bool()>& work) {
+    const auto owner = ::getpid();
+    id_ = ::fork();
     if (id_ < 0) throw std::runtime_error("cannot fork");
-    if (id_ == 0) ::_exit(work() ? 0 : 1);
+    if (id_ > 0) return;
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    ::_exit(::getppid() == owner && work() ? 0 : 1);
 }
 
 bool ChildProcess::succeeded() {

@@ -5,7 +5,8 @@
 namespace tidewell::test {
 
 /// A copy of the test's own process that runs `work` and ends at once with 0 if that said true,
-/// with 1 otherwise. It is killed and reaped when its owner goes away.
+/// with 1 otherwise. It is killed and reaped when its owner goes away, and killed when the thread
+/// that made it ends in whatever way: no test leaves one behind that holds its output open.
 class ChildProcess {
  public:
     explicit ChildProcess(const std::function<bool()>& work);
@@ -15,6 +16,7 @@ class ChildProcess {
 
     /// Waits for its end; whether `work` ran to its end and said true.
     bool succeeded();
+    int id() const { return id_; }
     /// Ends it in the midst of whatever it does.
     void kill();
 

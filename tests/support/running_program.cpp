@@ -1,13 +1,12 @@
 #include "support/running_program.h"
 
+#include <fcntl.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <stdexcept>
-#include <utility>
 
 #include "platform/path_text.h"
 
@@ -30,27 +29,25 @@ void putProgram(const std::string& executable) {
 
 RunningProgram::RunningProgram(const std::string& executable, OnRequestToEnd answer) {
     putProgram(executable);
-    std::string name = "sleep";
-    std::string seconds = "600";
-    char* arguments[] = {name.data(), seconds.data(), nullptr};
-    // A program goes on ignoring what its starter ignores.
-    const auto previous = ::signal(SIGTERM, answer == OnRequestToEnd::ignore ? SIG_IGN : SIG_DFL);
-    // It returns once the new program has taken the process over.
-    const auto error =
-        ::posix_spawn(&processId_, executable.c_str(), nullptr, nullptr, arguments, environ);
-    ::signal(SIGTERM, previous);
-    if (error != 0) throw std::runtime_error("cannot start " + executable);
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("cannot make a pipe");
+    process_.emplace([&] {
+        // A program goes on ignoring what its starter ignores.
+        ::signal(SIGTERM, answer == OnRequestToEnd::ignore ? SIG_IGN : SIG_DFL);
+        ::execl(executable.c_str(), "sleep", "600", nullptr);
+        return ::write(ends[1], "!", 1) < 0;
+    });
+    ::close(ends[1]);
+    // Nothing comes, and no writer is left, once the program has taken the process over.
+    char failure = 0;
+    const auto count = ::read(ends[0], &failure, 1);
+    ::close(ends[0]);
+    if (count != 0) throw std::runtime_error("cannot start " + executable);
 }
 
 void RunningProgram::waitForEnd() const {
     siginfo_t ended;
-    ::waitid(P_PID, static_cast<id_t>(processId_), &ended, WEXITED | WNOWAIT);
-}
-
-void RunningProgram::kill() {
-    if (processId_ < 0) return;
-    ::kill(processId_, SIGKILL);
-    ::waitpid(std::exchange(processId_, -1), nullptr, 0);
+    ::waitid(P_PID, static_cast<id_t>(processId()), &ended, WEXITED | WNOWAIT);
 }
 
 std::string executableOf(const SampleMachine& machine, std::string_view application) {

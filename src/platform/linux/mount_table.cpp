@@ -2,17 +2,18 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <utility>
 
 #include "platform/path_text.h"
-#include "platform/posix/descriptor.h"
+#include "platform/posix/read_whole.h"
 
 namespace tidewell {
 
 namespace {
+
+constexpr std::size_t tableLimit = std::size_t{16} * 1024 * 1024;
 
 /// Up to the next blank or line end, which is left out of `text` with what stands before it.
 std::string_view cutOff(std::string_view& text, char end) {
@@ -52,14 +53,7 @@ std::string moved(std::string_view path, std::string_view from, std::string_view
 
 MountTable MountTable::read() {
     const posix::Descriptor table(::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC));
-    std::string text;
-    char buffer[16 * 1024];
-    const auto readOn = [&] {
-        return posix::retrying([&] { return ::read(table.get(), buffer, sizeof buffer); });
-    };
-    auto length = readOn();
-    for (; length > 0; length = readOn()) text.append(buffer, static_cast<std::size_t>(length));
-    return MountTable(length < 0 ? std::string_view() : text);
+    return MountTable(posix::readWhole(table, tableLimit).value_or(std::string()));
 }
 
 /// "36 35 98:0 /part /place options tags... - kind source options"

@@ -13,6 +13,7 @@
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/reach.h"
+#include "platform/posix/read_whole.h"
 
 namespace tidewell {
 
@@ -69,16 +70,7 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
     struct stat status;
     if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
     if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) > limit) return std::nullopt;
-    std::string bytes;
-    char buffer[64 * 1024];
-    while (bytes.size() <= limit) {
-        const auto count =
-            posix::retrying([&] { return ::read(file.get(), buffer, sizeof buffer); });
-        if (count < 0) return std::nullopt;
-        if (count == 0) return bytes;
-        bytes.append(buffer, static_cast<std::size_t>(count));
-    }
-    return std::nullopt;
+    return posix::readWhole(file, limit);
 }
 
 bool isProgram(const std::string& path) {

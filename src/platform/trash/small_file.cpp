@@ -6,7 +6,7 @@
 
 #include <cerrno>
 
-#include "platform/posix/descriptor.h"
+#include "platform/posix/read_whole.h"
 
 namespace tidewell::trash {
 
@@ -19,16 +19,7 @@ std::optional<std::string> readSmallFile(int folder, const std::string& name, st
     if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
         status.st_uid != ::geteuid())
         return std::nullopt;
-    std::string bytes;
-    char buffer[16 * 1024];
-    while (bytes.size() <= limit) {
-        const auto count =
-            posix::retrying([&] { return ::read(file.get(), buffer, sizeof buffer); });
-        if (count < 0) return std::nullopt;
-        if (count == 0) return bytes;
-        bytes.append(buffer, static_cast<std::size_t>(count));
-    }
-    return std::nullopt;
+    return posix::readWhole(file, limit);
 }
 
 namespace {
