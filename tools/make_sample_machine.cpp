@@ -1,6 +1,6 @@
 // make-sample-machine [--system macos|linux] DIR: lays out a whole machine of that system in a new
 // folder, with something for every tool to find, and traps for each rule about what must stay.
-// About 3 GB of made-up files, most of them without content.
+// 4 or 5 GB of made-up files, most of them without content.
 
 #include <exception>
 #include <iostream>
@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "linux_sample_machine.h"
+#include "support/linux_desktop.h"
 #include "support/sample_machine.h"
 
 namespace {

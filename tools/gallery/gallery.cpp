@@ -1,6 +1,7 @@
-// tidewell-gallery DIR [--scale N] [--only WORD] [--size WxH]: draws every component in every
-// state, one picture a page, and the window with each screen in each state. Fails if the pictures
-// would not show what people see, or if anything drawn makes Qt complain.
+// tidewell-gallery DIR [--system macos|linux] [--scale N] [--only WORD] [--size WxH]: draws every
+// component in every state, one picture a page, and the window with each screen in each state, as
+// it is over a machine of that system. Fails if the pictures would not show what people see, or if
+// anything drawn makes Qt complain.
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
@@ -59,6 +60,7 @@ struct Order {
     QString suffix;
     QString only;
     QSize size;  ///< of the window
+    System system = System::macOS;
 
     bool wants(const QString& name) const { return name.contains(only); }
     void save(QQuickWindow& window, const QString& name) const {
@@ -99,8 +101,8 @@ void press(QQuickWindow& window, const QString& name) {
 
 void drawScreens(const Order& order) {
     for (const auto& state : screenStates()) {
-        if (!order.wants(state.name)) continue;
-        Sample sample;
+        if (!order.wants(state.name) || !state.isOf(order.system)) continue;
+        Sample sample(order.system);
         auto& window = sample.window->window();
         window.resize(order.size);
         state.setUp(sample);
@@ -112,7 +114,7 @@ void drawScreens(const Order& order) {
 void drawPopover(const Order& order) {
     const auto* name = "menu-bar";
     if (!order.wants(name)) return;
-    const Sample sample;
+    const Sample sample(order.system);
     sample.application->sums->totalFreedBytes = 23'481'700'000;
     Popover popover(*sample.application);
     popover.open({700, 0, 20, 24});
@@ -126,7 +128,8 @@ int run(int count, char** words) {
     const QCommandLineOption scale("scale", "Pixels to a point.", "N", "1");
     const QCommandLineOption only("only", "Draw only pictures with this in their name.", "WORD");
     const QCommandLineOption size("size", "The window's size in points.", "WxH", "1120x740");
-    parser.addOptions({scale, only, size});
+    const QCommandLineOption system("system", "The machine's: macos or linux.", "SYSTEM", "macos");
+    parser.addOptions({scale, only, size, system});
     parser.addPositionalArgument("DIR", "Where to put the pictures.");
     parser.process(arguments);
     const auto lengths = parser.value(size).split('x');
@@ -144,6 +147,7 @@ int run(int count, char** words) {
         .suffix = parser.isSet(scale) ? "@" + parser.value(scale) + "x" : QString(),
         .only = parser.value(only),
         .size = {lengths[0].toInt(), lengths[1].toInt()},
+        .system = parser.value(system) == "linux" ? System::linux : System::macOS,
     };
     if (!order.folder.mkpath(".")) complain("cannot make " + order.folder.path());
     drawPages(order);

@@ -27,7 +27,8 @@ const std::vector<ScreenState> states = {
          auto& runtimes = sample.view->advisorModel->findings.mutate().runtimes;
          runtimes[1].deletable = false;
          sample.view->advisorModel->busyAction = runtimes[0].id;
-     }},
+     },
+     nullptr, System::macOS},
     {"advisor-message",
      [](Sample& sample) {
          find(sample);
@@ -35,13 +36,14 @@ const std::vector<ScreenState> states = {
          sample.view->advisorModel->busyAction = std::string(snapshotsFinding);
          sample.view->advisorModel->lastMessage =
              "Deleted iOS 16.4. If the space doesn't show up, a restart releases it.";
-     }},
+     },
+     nullptr, System::macOS},
     {"advisor-asks",
      [](Sample& sample) {
          find(sample);
          sample.view->advisorModel->findings.mutate().runtimes.resize(1);
      },
-     "Delete…"},
+     "Delete…", System::macOS},
     {"advisor-all-clear", [](Sample& sample) { show(sample, Phase::list); }},
 };
 

@@ -22,7 +22,7 @@ const std::vector<ScreenState> states = {
      [](Sample& sample) {
          sample.view->cleanupModel->phase = Phase::scanning;
          sample.view->cleanupModel->scanProgress = 0.43;
-         sample.view->cleanupModel->currentTarget = "Xcode DerivedData";
+         sample.view->cleanupModel->currentTarget = someTitles(sample.system())[1];
          sample.view->mode = Mode::clean;
      }},
     {"clean-review",
@@ -58,8 +58,7 @@ const std::vector<ScreenState> states = {
     {"clean-done-nothing-freed", [](Sample& sample) { finish(sample, 0); }},
     {"clean-done-failures",
      [](Sample& sample) {
-         sample.view->cleanupModel->failedTitles = {"Trash", "Xcode DerivedData",
-                                                    "Old iOS backups"};
+         sample.view->cleanupModel->failedTitles = someTitles(sample.system());
          finish(sample, 1'290'000'000);
      }},
 };

@@ -45,6 +45,12 @@ const std::vector<ScreenState> states = {
          sample.view->deepScanModel->lastResult = BigItemScanner::TrashOutcome{
              .name = "Install Studio.dmg", .freedBytes = 0, .success = false};
      }},
+    {"deep-scan-trash",
+     [](Sample& sample) {
+         find(sample);
+         sample.view->deepScanModel->inTrash = someTrash();
+     },
+     "In the Trash", System::linux},
     {"deep-scan-asks",
      [](Sample& sample) {
          find(sample);

@@ -47,7 +47,7 @@ const std::vector<ScreenState> states = {
      [](Sample& sample) {
          sample.view->devModeModel->freedBytes = 480'000'000;
          sample.view->devModeModel->failedTitles =
-             std::vector<std::string>{"Xcode DerivedData", "target · engine"};
+             std::vector<std::string>{someTitles(sample.system())[1], "target · engine"};
          show(sample, Phase::done);
      }},
 };

@@ -48,7 +48,7 @@ BigItem bigItem(const std::string& name, const std::string& location, ByteCount 
             .name = name,
             .location = location,
             .sizeBytes = size,
-            .isDirectory = name.find(".dmg") == std::string::npos,
+            .isDirectory = !name.ends_with(".dmg") && !name.ends_with(".deb"),
             .kind = kind,
             .note = std::move(note),
             .reclaimCommand = kind == BigItem::Kind::container
@@ -56,7 +56,37 @@ BigItem bigItem(const std::string& name, const std::string& location, ByteCount 
                                   : std::nullopt};
 }
 
+std::vector<Finding> toolFindings() {
+    return {{.id = "flatpak-runtimes",
+             .symbol = "shippingbox",
+             .title = "Unused Flatpak runtimes",
+             .detail = "3 runtimes that none of your flatpaks uses any more. Flatpak downloads one "
+                       "again if an app needs it.",
+             .sizeBytes = 2'480 * megabyte,
+             .action = FindingAction::run,
+             .actionLabel = "Uninstall"},
+            {.id = "journal",
+             .symbol = "clock.arrow.circlepath",
+             .title = "System journal",
+             .detail = "The system's log takes 4.1 GB. The newest 500 MB of it are more than most "
+                       "will ever read.",
+             .sizeBytes = 3'600 * megabyte,
+             .action = FindingAction::copy,
+             .command = "sudo journalctl --vacuum-size=500M"},
+            {.id = "snapshots",
+             .symbol = "clock.arrow.circlepath",
+             .title = "Snapshots",
+             .detail = "12 snapshots of this disk keep what was removed since.",
+             .sizeBytes = {},
+             .severity = FindingSeverity::notice}};
+}
+
 }  // namespace
+
+std::vector<std::string> someTitles(System system) {
+    if (system == System::linux) return {"Trash", "npm cache", "Firefox cache"};
+    return {"Trash", "Xcode DerivedData", "Old iOS backups"};
+}
 
 void findJunk(const ContentView& view) {
     CleanupItems items = {
@@ -130,30 +160,64 @@ void findApps(const ContentView& view) {
 
 void findBigItems(const ContentView& view) {
     using Kind = BigItem::Kind;
+    const bool isLinux = view.host().system == System::linux;
+    const std::string caches = isLinux ? "~/.cache" : "~/Library/Caches";
+    const std::string disks =
+        isLinux ? "~/.docker/desktop/vms" : "~/Library/Containers/com.docker.docker/Data/vms";
     view.deepScanModel->items = {
-        bigItem("Docker", "~/Library/Containers/com.docker.docker/Data/vms", 41'200 * megabyte,
-                Kind::container,
+        bigItem("Docker", disks, 41'200 * megabyte, Kind::container,
                 "Docker's VM disk: every image, container and volume. Reclaim from inside Docker, "
                 "don't delete this file."),
-        bigItem("Holiday 2019", "~/Movies", 18'600 * megabyte, Kind::personal),
-        bigItem("Install Studio.dmg", "~/Downloads", 6'240 * megabyte, Kind::installer,
-                "Disk image. Safe to trash once the app is installed."),
-        bigItem("com.example.Browser", "~/Library/Caches", 2'870 * megabyte, Kind::cache,
+        bigItem("Holiday 2019", isLinux ? "~/Videos" : "~/Movies", 18'600 * megabyte,
+                Kind::personal),
+        bigItem(isLinux ? "studio_4.2_amd64.deb" : "Install Studio.dmg", "~/Downloads",
+                6'240 * megabyte, Kind::installer,
+                isLinux ? "Debian package. Safe to trash once you've installed the app."
+                        : "Disk image. Safe to trash once the app is installed."),
+        bigItem("com.example.Browser", caches, 2'870 * megabyte, Kind::cache,
                 "Browser cache. Refills as you browse."),
         bigItem("target", "~/Code/engine", 2'110 * megabyte, Kind::rebuildable,
                 "Build output. Re-created by the next build."),
         bigItem("a-folder-with-a-name-that-is-very-much-longer-than-its-card-is-wide-and-then-some",
-                "~/Library/Caches/and/it/lies/deep/below/folders/that/have/long/names/too/each/one",
+                caches + "/and/it/lies/deep/below/folders/that/have/long/names/too/each/one",
                 412 * megabyte, Kind::cache),
-        bigItem("Mail Courier", "~/Library/Application Support", 390 * megabyte, Kind::appData),
+        bigItem("Mail Courier", isLinux ? "~/.config" : "~/Library/Application Support",
+                390 * megabyte, Kind::appData),
         bigItem("scratch", "~/Public", 96 * megabyte, Kind::other),
     };
     view.deepScanModel->phase = DeepScanViewModel::Phase::list;
 }
 
+std::vector<TrashedThing> someTrash() {
+    const auto thing = [](const std::string& name, std::optional<std::string> origin, int days,
+                          ByteCount size) {
+        const auto deletedAt = std::chrono::system_clock::now() - std::chrono::days(days);
+        return TrashedThing{.item = {.folder = "/nowhere/Trash",
+                                     .name = name,
+                                     .path = "/nowhere/Trash/files/" + name,
+                                     .origin = std::move(origin),
+                                     .deletedAt = deletedAt,
+                                     .isFolder = false,
+                                     .identity = {}},
+                            .sizeBytes = size};
+    };
+    return {
+        thing("harbour.mkv", "/nowhere/Videos/harbour.mkv", 0, 4'380 * megabyte),
+        thing("long",
+              "/nowhere/it/lies/deep/below/folders/that/have/long/names/too/each/one/a name that "
+              "is very much longer than its card is wide, and then some, and more",
+              9, 310 * megabyte),
+        thing("stray.iso", std::nullopt, 420, 96 * megabyte)};
+}
+
 void findAdvisorWins(const ContentView& view) {
     using namespace std::chrono;
     const auto lastUsed = system_clock::now() - days(200);
+    view.advisorModel->phase = AdvisorViewModel::Phase::list;
+    if (view.host().system == System::linux) {
+        view.advisorModel->findings.mutate().probed = toolFindings();
+        return;
+    }
     view.advisorModel->findings = Findings{
         .runtimes = {{.id = "A1",
                       .name = "iOS 16.4",
@@ -171,7 +235,6 @@ void findAdvisorWins(const ContentView& view) {
         .snapshotCount = 3,
         .dockerBytes = 41'200 * megabyte,
     };
-    view.advisorModel->phase = AdvisorViewModel::Phase::list;
 }
 
 }  // namespace tidewell::gallery

@@ -33,18 +33,19 @@ const std::vector<ScreenState> states = {
          findAll(*sample.view);
      }},
     {"home-without-access",
-     [](Sample& sample) { sample.view->permissions->hasFullDiskAccess = false; }},
+     [](Sample& sample) { sample.view->permissions->hasFullDiskAccess = false; }, nullptr,
+     System::macOS},
     {"home-disk-full",
      [](Sample& sample) {
          auto& theme = *sample.view->theme;
          theme.freeBytes = 9'204'000'000;
-         theme.palette = themePalette(theme.freeFraction(), System::macOS);
+         theme.palette = themePalette(theme.freeFraction(), sample.system());
      }},
     {"smart-scan-begins",
      [](Sample& sample) {
          sample.view->cleanupModel->phase = CleanupViewModel::Phase::scanning;
          sample.view->cleanupModel->scanProgress = 0.34;
-         sample.view->cleanupModel->currentTarget = "Xcode DerivedData";
+         sample.view->cleanupModel->currentTarget = someTitles(sample.system())[1];
          sample.view->smartScan->phase = Phase::clean;
      }},
     {"smart-scan-advisor",

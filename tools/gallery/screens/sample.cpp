@@ -4,7 +4,7 @@
 
 namespace tidewell::gallery {
 
-Sample::Sample() {
+Sample::Sample(System system) : machine(system) {
     layOutMachine();
     application = std::make_unique<Application>(
         machine.host(),
@@ -14,7 +14,7 @@ Sample::Sample() {
     view->hasOnboarded = true;
     view->theme->totalBytes = 494'384'795'648;
     view->theme->freeBytes = 182'402'719'744;
-    view->theme->palette = themePalette(view->theme->freeFraction(), System::macOS);
+    view->theme->palette = themePalette(view->theme->freeFraction(), system);
     window = std::make_unique<MainWindow>(*application, view);
 }
 

@@ -12,7 +12,9 @@ namespace tidewell::gallery {
 /// disk is healthy, and the user is a developer.
 class Sample {
  public:
-    Sample();
+    explicit Sample(System system);
+
+    System system() const { return machine.host().system; }
 
     test::SampleMachine machine;
     std::unique_ptr<Application> application;

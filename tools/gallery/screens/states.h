@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "screens/sample.h"
@@ -12,6 +13,10 @@ struct ScreenState {
     void (*setUp)(Sample& sample);
     /// The name of a control that is pressed before the picture is taken, if any.
     const char* pressed = nullptr;
+    /// The system whose machines alone have it; none if all do.
+    std::optional<System> system = {};
+
+    bool isOf(System machine) const { return !system || system == machine; }
 };
 
 // The states of each section's screens, one file of this folder a section.
