@@ -13,9 +13,8 @@ Item {
     /// Of the button that undoes what the strip tells of. Empty: there is none.
     property string undoLabel
     signal undone()
-    /// Empty: the user does not take it away.
-    property string dismissLabel
-    property string dismissSymbol: "xmark"
+    /// Whether the user takes it away.
+    property bool isDismissible: false
 
     readonly property real room: visible ? height + 12 : 0
 
@@ -89,11 +88,11 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.dismissLabel !== ""
+        visible: root.isDismissible
         size: 26
         isFilled: false
-        symbol: root.dismissSymbol
-        text: root.dismissLabel
+        symbol: "xmark"
+        text: "Dismiss"
         onClicked: root.dismissed(focusReason)
     }
 }

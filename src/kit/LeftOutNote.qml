@@ -15,7 +15,7 @@ Item {
         id: icon
         anchors.verticalCenter: parent.verticalCenter
         symbol: "info.circle"
-        size: 14
+        size: Theme.symbolSmall
         tint: Theme.faint
     }
     Label {

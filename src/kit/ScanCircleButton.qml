@@ -17,8 +17,10 @@ Pressable {
         cornerRadius: width / 2
         reach: 60
         glow: Theme.withOpacity(root.sectionPalette.primary, 0.20 + 0.16 * root.lift)
-        fillTop: Qt.tint(Theme.panelTop(root.sectionPalette.primary), Theme.withOpacity(root.sectionPalette.primary, 0.24))
-        fillBottom: Qt.tint(Theme.panelBottom(root.sectionPalette.primary), Theme.withOpacity(root.sectionPalette.deep, 0.30))
+        fillTop: Qt.tint(Theme.panelTop(root.sectionPalette.primary),
+                         Theme.withOpacity(root.sectionPalette.primary, 0.24))
+        fillBottom: Qt.tint(Theme.panelBottom(root.sectionPalette.primary),
+                            Theme.withOpacity(root.sectionPalette.deep, 0.30))
         rim: Theme.withOpacity(root.sectionPalette.soft, 0.34 + 0.20 * root.lift)
     }
 

@@ -13,43 +13,80 @@ FocusScope {
 
     Component.onCompleted: screen.open()
 
-    StartNote {
-        anchors.centerIn: parent
-        anchors.verticalCenterOffset: -8
-        visible: root.screen.phase === AdvisorScreen.Idle
-        focus: visible
+    ToolPage {
+        anchors.fill: parent
+        focus: true
+        phase: root.screen.phase === AdvisorScreen.Idle ? ToolPage.Start
+             : root.screen.phase === AdvisorScreen.Scanning ? ToolPage.Scanning
+             : root.screen.isAllClear ? ToolPage.Nothing : ToolPage.Found
+        hasHeader: root.isList
         symbol: root.screen.noticeSymbol
-        line: root.screen.noticeLine
-        buttonLabel: root.screen.scanLabel
-        onStarted: root.screen.scan()
-    }
-    ScanningNote {
-        anchors.centerIn: parent
-        visible: root.screen.phase === AdvisorScreen.Scanning
-        symbol: root.screen.noticeSymbol
-        title: root.screen.noticeLine
-    }
-
-    ScreenHeader {
-        anchors.left: parent.left
-        anchors.leftMargin: root.margin
-        anchors.right: rescan.left
-        anchors.rightMargin: Theme.gapLarge
-        y: 30
-        visible: root.isList
         title: root.screen.headline
         subtitle: root.screen.subtitle
+        startLine: root.screen.noticeLine
+        startLabel: root.screen.scanLabel
+        onStarted: root.screen.scan()
+        scanningTitle: root.screen.noticeLine
+        nothingTitle: root.screen.noticeTitle
+        nothingLine: root.screen.noticeLine
+
+        actions: SmallButton {
+            id: rescan
+            focus: root.isList
+            text: "Rescan"
+            onClicked: root.screen.scan()
+        }
+
+        CardList {
+            id: cards
+            anchors.fill: parent
+            anchors.leftMargin: root.margin - leftMargin
+            anchors.rightMargin: root.margin - rightMargin
+            topMargin: Theme.gapSmall
+            spacing: Theme.gap
+            roomBelow: message.room
+            model: root.screen.cards
+            Accessible.name: root.screen.headline
+            onDeserted: reason => rescan.forceActiveFocus(reason)
+
+            delegate: AdvisorCard {
+                id: card
+
+                required property int index
+                required symbol
+                required title
+                required body
+                required size
+                required command
+                required isWarning
+                required buttonLabel
+                required isBusy
+                required property bool hasRuntimes
+
+                width: cards.cardWidth
+                onActed: root.screen.act(index)
+
+                rows: Repeater {
+                    model: card.hasRuntimes ? root.screen.runtimes : null
+
+                    RuntimeRow {
+                        required property int index
+                        required title
+                        required build
+                        required size
+                        required lastUsed
+                        required usedBy
+                        required isBusy
+                        required isDeletable
+
+                        width: parent ? (parent as Item).width : 0
+                        onDeletePressed: root.screen.askToDelete(index)
+                    }
+                }
+            }
+        }
     }
-    SmallButton {
-        id: rescan
-        anchors.right: parent.right
-        anchors.rightMargin: root.margin
-        y: 36
-        visible: root.isList
-        focus: visible
-        text: root.screen.rescanLabel
-        onClicked: root.screen.scan()
-    }
+
     Banner {
         id: message
         anchors.left: parent.left
@@ -59,83 +96,22 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.gapLarge
         visible: root.isList && root.screen.message !== ""
-        symbol: root.screen.messageSymbol
+        symbol: "info.circle.fill"
         title: root.screen.message
-        dismissSymbol: root.screen.dismissSymbol
-        dismissLabel: root.screen.dismissLabel
+        isDismissible: true
         onDismissed: reason => {
             root.screen.dismissMessage()
             rescan.forceActiveFocus(reason)
         }
     }
 
-    StartNote {
-        anchors.centerIn: parent
-        visible: root.screen.isAllClear
-        symbol: root.screen.noticeSymbol
-        title: root.screen.noticeTitle
-        line: root.screen.noticeLine
-    }
-
-    CardList {
-        id: cards
-        anchors.fill: parent
-        anchors.leftMargin: root.margin - leftMargin
-        anchors.rightMargin: root.margin - rightMargin
-        anchors.topMargin: 104
-        visible: root.isList && !root.screen.isAllClear
-        topMargin: 8
-        spacing: Theme.gap
-        roomBelow: message.room
-        model: root.screen.cards
-        Accessible.name: root.screen.headline
-        onDeserted: reason => rescan.forceActiveFocus(reason)
-
-        delegate: AdvisorCard {
-            id: card
-
-            required property int index
-            required symbol
-            required title
-            required body
-            required size
-            required command
-            required isWarning
-            required buttonLabel
-            required isBusy
-            required property bool hasRuntimes
-
-            width: cards.cardWidth
-            onActed: root.screen.act(index)
-
-            rows: Repeater {
-                model: card.hasRuntimes ? root.screen.runtimes : null
-
-                RuntimeRow {
-                    required property int index
-                    required title
-                    required build
-                    required size
-                    required lastUsed
-                    required usedBy
-                    required isBusy
-                    required isDeletable
-
-                    width: parent ? (parent as Item).width : 0
-                    deleteLabel: root.screen.deleteLabel
-                    onDeletePressed: root.screen.askToDelete(index)
-                }
-            }
-        }
-    }
-
     AlertDialog {
         isWanted: root.screen.asksToDelete
         sectionPalette: root.Ambient.palette
-        title: root.screen.questionTitle
+        title: "Delete this Simulator runtime?"
         text: root.screen.questionText
-        confirmLabel: root.screen.confirmLabel
-        cancelLabel: root.screen.cancelLabel
+        confirmLabel: "Delete Runtime"
+        cancelLabel: "Cancel"
         onConfirmed: root.screen.confirmDelete()
         onCancelled: root.screen.cancelDelete()
     }

@@ -10,7 +10,6 @@ Item {
     property string size
     property string lastUsed
     property string usedBy
-    property string deleteLabel
     property bool isBusy: false
     property bool isDeletable: true
 
@@ -93,7 +92,7 @@ Item {
             visible: !root.isBusy
             enabled: root.isDeletable
             textColor: Theme.destructive
-            text: root.deleteLabel
+            text: "Delete…"
             description: root.title
             onClicked: root.deletePressed()
         }

@@ -67,21 +67,12 @@ struct AdvisorContent {
     std::vector<AdvisorCard> cards;
 };
 
-inline constexpr std::string_view advisorRescanLabel = "Rescan";
-inline constexpr std::string_view advisorMessageSymbol = "info.circle.fill";
-inline constexpr std::string_view advisorDismissSymbol = "xmark";
-inline constexpr std::string_view advisorDismissLabel = "Dismiss";
-inline constexpr std::string_view advisorDeleteLabel = "Delete…";
-
 /// `copied` is the finding whose command was copied just now, if any.
 AdvisorContent advisorContent(const AdvisorViewModel& model, Date now,
                               std::string_view copied = {});
 
 /// What is asked before a runtime is deleted.
 struct RuntimeDeleteConfirmation {
-    static constexpr std::string_view title = "Delete this Simulator runtime?";
-    static constexpr std::string_view confirmLabel = "Delete Runtime";
-    static constexpr std::string_view cancelLabel = "Cancel";
     std::string message;
 };
 

@@ -29,16 +29,8 @@ class AdvisorScreen final : public Screen {
     Q_PROPERTY(QAbstractItemModel* runtimes READ runtimes CONSTANT)
     Q_PROPERTY(bool asksToDelete READ asksToDelete NOTIFY changed)
     Q_PROPERTY(QString questionText READ questionText NOTIFY changed)
-    Q_PROPERTY(QString questionTitle READ questionTitle CONSTANT)
-    Q_PROPERTY(QString confirmLabel READ confirmLabel CONSTANT)
-    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT)
     Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
-    Q_PROPERTY(QString rescanLabel READ rescanLabel CONSTANT)
     Q_PROPERTY(QString subtitle READ subtitle CONSTANT)
-    Q_PROPERTY(QString messageSymbol READ messageSymbol CONSTANT)
-    Q_PROPERTY(QString dismissSymbol READ dismissSymbol CONSTANT)
-    Q_PROPERTY(QString dismissLabel READ dismissLabel CONSTANT)
-    Q_PROPERTY(QString deleteLabel READ deleteLabel CONSTANT)
 
  public:
     // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
@@ -60,16 +52,8 @@ class AdvisorScreen final : public Screen {
     QAbstractItemModel* runtimes() { return &runtimes_; }
     bool asksToDelete() const { return pendingRuntimeDelete_.has_value(); }
     QString questionText() const { return toText(question_.message); }
-    static QString questionTitle() { return toText(RuntimeDeleteConfirmation::title); }
-    static QString confirmLabel() { return toText(RuntimeDeleteConfirmation::confirmLabel); }
-    static QString cancelLabel() { return toText(RuntimeDeleteConfirmation::cancelLabel); }
     QString scanLabel() const { return toText(wordsOf(model_->system).checkMachine); }
-    static QString rescanLabel() { return toText(advisorRescanLabel); }
     QString subtitle() const { return toText(wordsOf(model_->system).advisorTools); }
-    static QString messageSymbol() { return toText(advisorMessageSymbol); }
-    static QString dismissSymbol() { return toText(advisorDismissSymbol); }
-    static QString dismissLabel() { return toText(advisorDismissLabel); }
-    static QString deleteLabel() { return toText(advisorDeleteLabel); }
 
     /// To be called when the screen comes into sight, for its dates are told from now; a question
     /// that was left open is withdrawn. Has its effect in a later turn.

@@ -13,7 +13,6 @@ Surface {
     property string mark
     property bool isUnused: false
     property string trashHelp
-    property string trashSymbol
 
     signal uninstalled()
 
@@ -49,7 +48,7 @@ Surface {
         anchors.right: parent.right
         anchors.rightMargin: Theme.gap
         anchors.verticalCenter: picture.verticalCenter
-        symbol: root.trashSymbol
+        symbol: "trash"
         tint: Theme.destructive
         text: root.trashHelp
         onClicked: root.uninstalled()

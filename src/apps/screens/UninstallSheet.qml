@@ -88,7 +88,7 @@ Modal {
             id: undo
             anchors.bottom: buttons.top
             anchors.bottomMargin: Theme.gapWide
-            symbol: root.screen.undoSymbol
+            symbol: "arrow.uturn.backward"
             text: root.screen.undoLine
             size: Theme.sizeNote
             weight: Font.Normal
@@ -105,7 +105,7 @@ Modal {
             GhostPillButton {
                 id: cancelButton
                 anchors.verticalCenter: parent.verticalCenter
-                text: root.screen.cancelLabel
+                text: "Cancel"
                 onClicked: root.cancelled()
             }
             PillButton {

@@ -12,14 +12,6 @@ namespace tidewell {
 // Every word, figure, order and condition of the Apps screen and of the sheet that confirms an
 // uninstall. Pure; any thread.
 
-inline constexpr std::string_view appsTitle = "Apps";
-inline constexpr std::string_view scanAppsLabel = "Scan Apps";
-inline constexpr std::string_view huntingLeftoversLine = "Hunting leftovers…";
-inline constexpr std::string_view sortMenuSymbol = "arrow.up.arrow.down";
-inline constexpr std::string_view dismissResultSymbol = "xmark";
-inline constexpr std::string_view dismissResultLabel = "Dismiss";
-inline constexpr std::string_view trashButtonSymbol = "trash";
-
 /// A symbol over a line, where there is no list: before the first scan, during a scan, and where
 /// none was found, with a title.
 struct AppsNotice {
@@ -93,9 +85,6 @@ struct CommandContent {
 };
 
 struct UninstallSheetContent {
-    static constexpr std::string_view footerSymbol = "arrow.uturn.backward";
-    static constexpr std::string_view cancelLabel = "Cancel";
-
     std::string title;
     std::string line;
     std::vector<UninstallRow> rows;   ///< the application, then its leftovers

@@ -38,16 +38,7 @@ class AppsScreen final : public Screen {
     Q_PROPERTY(QString sheetLine READ sheetLine NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* sheetRows READ sheetRows CONSTANT)
     Q_PROPERTY(QString sheetEmptyNote READ sheetEmptyNote NOTIFY changed)
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
-    Q_PROPERTY(QString huntingLine READ huntingLine CONSTANT)
-    Q_PROPERTY(QString sortSymbol READ sortSymbol CONSTANT)
-    Q_PROPERTY(QString dismissSymbol READ dismissSymbol CONSTANT)
-    Q_PROPERTY(QString dismissLabel READ dismissLabel CONSTANT)
-    Q_PROPERTY(QString trashSymbol READ trashSymbol CONSTANT)
-    Q_PROPERTY(QString undoSymbol READ undoSymbol CONSTANT)
     Q_PROPERTY(QString undoLine READ undoLine NOTIFY changed)
-    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT)
     Q_PROPERTY(QString confirmLabel READ confirmLabel NOTIFY changed)
     Q_PROPERTY(bool canConfirm READ canConfirm NOTIFY changed)
     Q_PROPERTY(QString commandLead READ commandLead NOTIFY changed)
@@ -85,16 +76,7 @@ class AppsScreen final : public Screen {
     QString sheetLine() const { return toText(sheet_.line); }
     QAbstractItemModel* sheetRows() { return &sheetRows_; }
     QString sheetEmptyNote() const { return toText(sheet_.emptyNote); }
-    static QString title() { return toText(appsTitle); }
-    static QString scanLabel() { return toText(scanAppsLabel); }
-    static QString huntingLine() { return toText(huntingLeftoversLine); }
-    static QString sortSymbol() { return toText(sortMenuSymbol); }
-    static QString dismissSymbol() { return toText(dismissResultSymbol); }
-    static QString dismissLabel() { return toText(dismissResultLabel); }
-    static QString trashSymbol() { return toText(trashButtonSymbol); }
-    static QString undoSymbol() { return toText(UninstallSheetContent::footerSymbol); }
     QString undoLine() const { return toText(sheet_.footer); }
-    static QString cancelLabel() { return toText(UninstallSheetContent::cancelLabel); }
     QString confirmLabel() const { return toText(sheet_.confirmLabel); }
     bool canConfirm() const { return sheet_.canConfirm; }
     QString commandLead() const { return toText(command().lead); }

@@ -93,7 +93,7 @@ FocusScope {
             }
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
-                symbol: root.screen.freeSpaceSymbol
+                symbol: "arrow.right"
                 size: Theme.symbolSmall
                 tint: Ambient.palette.primary
             }
@@ -115,7 +115,6 @@ FocusScope {
                 id: note
                 y: 20
                 width: 440
-                symbol: root.screen.failureSymbol
                 title: root.screen.failureTitle
                 text: root.screen.failureNote
             }
@@ -127,7 +126,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             focus: true
             horizontalPadding: 38
-            text: root.screen.doneLabel
+            text: "Done"
             onClicked: root.screen.finish()
         }
     }

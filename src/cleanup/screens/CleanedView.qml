@@ -18,7 +18,7 @@ FocusScope {
             diameter: 190
             share: root.screen.progress
             percent: root.screen.percent
-            symbol: root.screen.cleaningSymbol
+            symbol: "sparkles"
             Accessible.name: root.screen.cleaningTitle
         }
         Label {

@@ -5,7 +5,6 @@ import Tidewell
 Surface {
     id: root
 
-    property string symbol
     property string title
     property string text
 
@@ -18,7 +17,7 @@ Surface {
     Symbol {
         x: 16
         y: 15
-        symbol: root.symbol
+        symbol: "exclamationmark.triangle.fill"
         size: Theme.symbolRow
         tint: root.tint
     }

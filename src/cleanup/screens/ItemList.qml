@@ -9,9 +9,6 @@ FocusScope {
 
     property string symbol
     property string title
-    property string smartLabel
-    property string allLabel
-    property string noneLabel
     /// Its rows have what an ItemChip shows.
     property var model
 
@@ -45,15 +42,15 @@ FocusScope {
         spacing: Theme.gapSmall
 
         SmallButton {
-            text: root.smartLabel
+            text: "Smart"
             onClicked: root.smartPicked()
         }
         SmallButton {
-            text: root.allLabel
+            text: "All"
             onClicked: root.allPicked()
         }
         SmallButton {
-            text: root.noneLabel
+            text: "None"
             onClicked: root.nonePicked()
         }
     }

@@ -11,12 +11,9 @@ Item {
     property string pickedLine
     /// Said instead of both while nothing is picked; empty: they stay.
     property string hint
-    property string freeAfterSymbol
     property string freeAfterLine
     /// Empty: there is no such button.
     property string backLabel
-    property string cleanUpSymbol
-    property string cleanUpLabel
 
     signal back()
     signal cleanUp()
@@ -76,7 +73,7 @@ Item {
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
-                symbol: root.freeAfterSymbol
+                symbol: "arrow.up.right"
                 size: Theme.symbolSmall
                 tint: Ambient.palette.primary
             }
@@ -105,8 +102,8 @@ Item {
         PillButton {
             anchors.verticalCenter: parent.verticalCenter
             enabled: root.canClean
-            symbol: root.cleanUpSymbol
-            text: root.cleanUpLabel
+            symbol: "sparkles"
+            text: "Clean Up"
             onClicked: root.cleanUp()
         }
     }

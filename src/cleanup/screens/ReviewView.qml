@@ -12,144 +12,121 @@ FocusScope {
 
     Component.onCompleted: screen.open()
 
-    StartNote {
-        anchors.centerIn: parent
-        visible: root.screen.isEmpty
-        focus: root.screen.isEmpty
-        symbol: root.screen.emptySymbol
-        title: root.screen.emptyTitle
-        line: root.screen.emptyLine
-        buttonLabel: root.screen.scanAgainLabel
-        onStarted: root.screen.scanAgain()
-    }
-
-    Item {
+    ToolPage {
         anchors.fill: parent
-        visible: !root.screen.isEmpty
+        focus: true
+        phase: root.screen.isEmpty ? ToolPage.Nothing : ToolPage.Found
+        isListFirst: true
+        hasHeader: !root.screen.isEmpty
+        symbol: "checkmark.seal.fill"
+        title: root.screen.headline
+        subtitle: "Green is safe and pre-ticked. Nothing goes until you hit Clean Up."
+        nothingTitle: root.screen.emptyTitle
+        nothingLine: root.screen.emptyLine
+        note: root.screen.leftOutNote
+        nothingLabel: "Scan Again"
+        onLeftNothing: root.screen.scanAgain()
 
-        ScreenHeader {
-            anchors.left: parent.left
-            anchors.leftMargin: root.margin
-            anchors.right: choices.left
-            anchors.rightMargin: Theme.gapLarge
-            y: 30
-            title: root.screen.headline
-            subtitle: root.screen.subtitle
-        }
-        Row {
-            id: choices
-            anchors.right: parent.right
-            anchors.rightMargin: root.margin
-            y: 36
-            spacing: Theme.gapSmall
-
+        actions: [
             SmallButton {
                 id: safeOnly
-                text: root.screen.safeOnlyLabel
-                description: root.screen.safeOnlyTooltip
+                text: "Safe only"
+                description: tip.text
                 onClicked: root.screen.selectSafeOnly()
 
                 Tip {
-                    text: root.screen.safeOnlyTooltip
+                    id: tip
+                    text: "Select every safe item, deselect the review-gated ones"
                     visible: safeOnly.hovered
                 }
-            }
+            },
             SmallButton {
-                text: root.screen.allLabel
+                text: "All"
                 onClicked: root.screen.selectAll()
-            }
+            },
             SmallButton {
-                text: root.screen.noneLabel
+                text: "None"
                 onClicked: root.screen.selectNone()
             }
-        }
+        ]
 
-        Column {
-            id: categories
-            anchors.left: parent.left
-            anchors.leftMargin: root.margin - 12
-            y: 112
-            width: 258
-            spacing: Theme.gapTight
+        FocusScope {
+            Column {
+                id: categories
+                anchors.left: parent.left
+                anchors.leftMargin: root.margin - 12
+                y: Theme.gapSmall
+                width: 258
+                spacing: Theme.gapTight
 
-            Repeater {
-                model: root.screen.categories
+                Repeater {
+                    model: root.screen.categories
 
-                CategoryRow {
-                    required property int index
-                    required symbol
-                    required title
-                    required line
-                    required mark
-                    required isViewing
+                    CategoryRow {
+                        required property int index
+                        required symbol
+                        required title
+                        required line
+                        required mark
+                        required isViewing
 
-                    width: categories.width
-                    onClicked: root.screen.viewCategory(index)
-                    onToggled: root.screen.toggleCategory(index)
+                        width: categories.width
+                        onClicked: root.screen.viewCategory(index)
+                        onToggled: root.screen.toggleCategory(index)
+                    }
                 }
             }
-        }
 
-        Rectangle {
-            id: divider
-            anchors.left: categories.right
-            anchors.leftMargin: Theme.gapWide
-            anchors.top: categories.top
-            anchors.bottom: bar.top
-            anchors.bottomMargin: Theme.gap
-            width: 1
-            color: Theme.hairline
-        }
+            PaneDivider {
+                id: divider
+                anchors.left: categories.right
+                anchors.leftMargin: Theme.gapWide
+                anchors.top: categories.top
+                anchors.bottom: bar.top
+            }
 
-        ItemList {
-            anchors.left: divider.right
-            anchors.leftMargin: Theme.gapLarge
-            anchors.right: parent.right
-            anchors.rightMargin: root.margin - 12
-            anchors.top: categories.top
-            anchors.bottom: bar.top
-            anchors.bottomMargin: leftOut.height
-            focus: !root.screen.isEmpty
-            symbol: root.screen.viewingSymbol
-            title: root.screen.viewingTitle
-            smartLabel: root.screen.smartLabel
-            allLabel: root.screen.allLabel
-            noneLabel: root.screen.noneLabel
-            model: root.screen.chips
-            onSmartPicked: root.screen.selectSmartInView()
-            onAllPicked: root.screen.selectAllInView()
-            onNonePicked: root.screen.selectNoneInView()
-            onToggled: row => root.screen.toggleChip(row)
-        }
+            ItemList {
+                anchors.left: divider.right
+                anchors.leftMargin: Theme.gapLarge
+                anchors.right: parent.right
+                anchors.rightMargin: root.margin - 12
+                anchors.top: categories.top
+                anchors.bottom: leftOut.top
+                focus: true
+                symbol: root.screen.viewingSymbol
+                title: root.screen.viewingTitle
+                model: root.screen.chips
+                onSmartPicked: root.screen.selectSmartInView()
+                onAllPicked: root.screen.selectAllInView()
+                onNonePicked: root.screen.selectNoneInView()
+                onToggled: row => root.screen.toggleChip(row)
+            }
 
-        PickedBar {
-            id: bar
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.bottom: parent.bottom
-            margin: root.margin
-            canClean: root.screen.canClean
-            selectedSize: root.screen.selectedSize
-            pickedLine: root.screen.pickedLine
-            hint: root.screen.hint
-            freeAfterSymbol: root.screen.freeAfterSymbol
-            freeAfterLine: root.screen.freeAfterLine
-            backLabel: root.screen.backLabel
-            cleanUpSymbol: root.screen.cleanUpSymbol
-            cleanUpLabel: root.screen.cleanUpLabel
-            onBack: root.screen.back()
-            onCleanUp: root.screen.cleanUp()
-        }
-    }
+            LeftOutNote {
+                id: leftOut
+                anchors.left: divider.right
+                anchors.leftMargin: Theme.gapLarge
+                anchors.right: parent.right
+                anchors.rightMargin: root.margin
+                anchors.bottom: bar.top
+                text: root.screen.leftOutNote
+            }
 
-    LeftOutNote {
-        id: leftOut
-        anchors.left: parent.left
-        anchors.leftMargin: root.screen.isEmpty ? root.margin : divider.x + Theme.gapLarge
-        anchors.right: parent.right
-        anchors.rightMargin: root.margin
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: root.screen.isEmpty ? Theme.gapWide : bar.height
-        text: root.screen.leftOutNote
+            PickedBar {
+                id: bar
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                margin: root.margin
+                canClean: root.screen.canClean
+                selectedSize: root.screen.selectedSize
+                pickedLine: root.screen.pickedLine
+                hint: "Nothing picked yet. Tap rows or hit “Safe only”."
+                freeAfterLine: root.screen.freeAfterLine
+                backLabel: "Back"
+                onBack: root.screen.back()
+                onCleanUp: root.screen.cleanUp()
+            }
+        }
     }
 }

@@ -21,7 +21,7 @@ FocusScope {
                 anchors.centerIn: parent
                 visible: !root.screen.isScanning
                 focus: true
-                symbol: root.screen.scanSymbol
+                symbol: "sparkles"
                 title: root.screen.scanLabel
                 onClicked: root.screen.startScan()
             }
@@ -31,8 +31,8 @@ FocusScope {
                 diameter: 200
                 share: root.screen.progress
                 percent: root.screen.percent
-                symbol: root.screen.scanSymbol
-                caption: root.screen.scanningWord
+                symbol: "sparkles"
+                caption: "scanning"
             }
         }
 
@@ -58,7 +58,7 @@ FocusScope {
 
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
-                    symbol: root.screen.soFarSymbol
+                    symbol: "arrow.up.right"
                     size: Theme.symbolSmall
                     tint: Ambient.palette.primary
                 }

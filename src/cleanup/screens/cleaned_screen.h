@@ -26,13 +26,9 @@ class CleanedScreen final : public Screen {
     Q_PROPERTY(QString freeAfter READ freeAfter NOTIFY changed)
     Q_PROPERTY(QString failureNote READ failureNote NOTIFY changed)
     Q_PROPERTY(QString cleaningTitle READ cleaningTitle CONSTANT)
-    Q_PROPERTY(QString cleaningSymbol READ cleaningSymbol CONSTANT)
     Q_PROPERTY(QString doneTitle READ doneTitle CONSTANT)
     Q_PROPERTY(QString doneLine READ doneLine CONSTANT)
-    Q_PROPERTY(QString freeSpaceSymbol READ freeSpaceSymbol CONSTANT)
     Q_PROPERTY(QString failureTitle READ failureTitle CONSTANT)
-    Q_PROPERTY(QString failureSymbol READ failureSymbol CONSTANT)
-    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT)
 
  public:
     CleanedScreen(std::shared_ptr<CleanupViewModel> model, QObject* parent);
@@ -48,13 +44,9 @@ class CleanedScreen final : public Screen {
     /// Empty when nothing failed.
     QString failureNote() const { return toText(content_.failureNote.value_or("")); }
     static QString cleaningTitle() { return toText(tidewell::cleaningTitle); }
-    static QString cleaningSymbol() { return toText(tidewell::cleaningSymbol); }
     static QString doneTitle() { return toText(allCleanTitle); }
     QString doneLine() const { return toText(wordsOf(model_->servedSystem()).allClean); }
-    static QString freeSpaceSymbol() { return toText(tidewell::freeSpaceSymbol); }
     static QString failureTitle() { return toText(notCleanedTitle); }
-    static QString failureSymbol() { return toText(notCleanedSymbol); }
-    static QString doneLabel() { return toText(tidewell::doneLabel); }
 
     /// Back to the tool's first screen.
     Q_INVOKABLE void finish() { model_->reset(); }

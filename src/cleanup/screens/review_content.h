@@ -12,22 +12,6 @@ namespace tidewell {
 // Every word, figure and condition of the review screen, from the view model's values. Pure.
 
 inline constexpr std::string_view nothingToCleanTitle = "Nothing to clean";
-inline constexpr std::string_view nothingToCleanSymbol = "checkmark.seal.fill";
-inline constexpr std::string_view scanAgainLabel = "Scan Again";
-inline constexpr std::string_view reviewSubtitle =
-    "Green is safe and pre-ticked. Nothing goes until you hit Clean Up.";
-inline constexpr std::string_view safeOnlyLabel = "Safe only";
-inline constexpr std::string_view safeOnlyTooltip =
-    "Select every safe item, deselect the review-gated ones";
-inline constexpr std::string_view smartLabel = "Smart";
-inline constexpr std::string_view allLabel = "All";
-inline constexpr std::string_view noneLabel = "None";
-inline constexpr std::string_view backLabel = "Back";
-inline constexpr std::string_view cleanUpLabel = "Clean Up";
-inline constexpr std::string_view cleanUpSymbol = "sparkles";
-inline constexpr std::string_view freeAfterSymbol = "arrow.up.right";
-inline constexpr std::string_view nothingPickedHint =
-    "Nothing picked yet. Tap rows or hit “Safe only”.";
 inline constexpr std::string_view reviewBadge = "Review";
 inline constexpr std::string_view runningBadge = "Running";
 

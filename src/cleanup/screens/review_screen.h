@@ -33,19 +33,6 @@ class ReviewScreen final : public Screen {
     Q_PROPERTY(QString leftOutNote READ leftOutNote NOTIFY changed)
     Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT)
     Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT)
-    Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT)
-    Q_PROPERTY(QString scanAgainLabel READ scanAgainLabel CONSTANT)
-    Q_PROPERTY(QString subtitle READ subtitle CONSTANT)
-    Q_PROPERTY(QString safeOnlyLabel READ safeOnlyLabel CONSTANT)
-    Q_PROPERTY(QString safeOnlyTooltip READ safeOnlyTooltip CONSTANT)
-    Q_PROPERTY(QString smartLabel READ smartLabel CONSTANT)
-    Q_PROPERTY(QString allLabel READ allLabel CONSTANT)
-    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT)
-    Q_PROPERTY(QString hint READ hint CONSTANT)
-    Q_PROPERTY(QString freeAfterSymbol READ freeAfterSymbol CONSTANT)
-    Q_PROPERTY(QString backLabel READ backLabel CONSTANT)
-    Q_PROPERTY(QString cleanUpLabel READ cleanUpLabel CONSTANT)
-    Q_PROPERTY(QString cleanUpSymbol READ cleanUpSymbol CONSTANT)
 
  public:
     ReviewScreen(std::shared_ptr<CleanupViewModel> model, std::shared_ptr<ThemeEngine> theme,
@@ -66,19 +53,6 @@ class ReviewScreen final : public Screen {
     QString leftOutNote() const { return toText(content_.leftOutNote.value_or("")); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
     QString emptyLine() const { return toText(wordsOf(model_->servedSystem()).nothingToClean); }
-    static QString emptySymbol() { return toText(nothingToCleanSymbol); }
-    static QString scanAgainLabel() { return toText(tidewell::scanAgainLabel); }
-    static QString subtitle() { return toText(reviewSubtitle); }
-    static QString safeOnlyLabel() { return toText(tidewell::safeOnlyLabel); }
-    static QString safeOnlyTooltip() { return toText(tidewell::safeOnlyTooltip); }
-    static QString smartLabel() { return toText(tidewell::smartLabel); }
-    static QString allLabel() { return toText(tidewell::allLabel); }
-    static QString noneLabel() { return toText(tidewell::noneLabel); }
-    static QString hint() { return toText(nothingPickedHint); }
-    static QString freeAfterSymbol() { return toText(tidewell::freeAfterSymbol); }
-    static QString backLabel() { return toText(tidewell::backLabel); }
-    static QString cleanUpLabel() { return toText(tidewell::cleanUpLabel); }
-    static QString cleanUpSymbol() { return toText(tidewell::cleanUpSymbol); }
 
     /// To be called when the screen comes into sight: it begins with the first category.
     Q_INVOKABLE void open() { setViewing(std::nullopt); }

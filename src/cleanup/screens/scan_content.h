@@ -12,16 +12,9 @@ namespace tidewell {
 // Every word and figure of the Clean tool's first screen (before and during a scan) and of its last
 // (during and after a clean). Pure.
 
-inline constexpr std::string_view scanSymbol = "sparkles";
-inline constexpr std::string_view scanningWord = "scanning";
-inline constexpr std::string_view soFarSymbol = "arrow.up.right";
 inline constexpr std::string_view allCleanTitle = "All clean!";
 inline constexpr std::string_view cleaningTitle = "Cleaning";
-inline constexpr std::string_view cleaningSymbol = "sparkles";
-inline constexpr std::string_view freeSpaceSymbol = "arrow.right";
 inline constexpr std::string_view notCleanedTitle = "A few items wouldn't budge";
-inline constexpr std::string_view notCleanedSymbol = "exclamationmark.triangle.fill";
-inline constexpr std::string_view doneLabel = "Done";
 
 struct ScanContent {
     std::string_view caption;

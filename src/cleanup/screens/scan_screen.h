@@ -23,9 +23,6 @@ class ScanScreen final : public Screen {
     Q_PROPERTY(QString caption READ caption NOTIFY changed)
     Q_PROPERTY(QString soFar READ soFar NOTIFY changed)
     Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
-    Q_PROPERTY(QString scanSymbol READ scanSymbol CONSTANT)
-    Q_PROPERTY(QString scanningWord READ scanningWord CONSTANT)
-    Q_PROPERTY(QString soFarSymbol READ soFarSymbol CONSTANT)
 
  public:
     ScanScreen(std::shared_ptr<CleanupViewModel> model, std::shared_ptr<LiveSums> sums,
@@ -38,9 +35,6 @@ class ScanScreen final : public Screen {
     /// Empty when there is nothing to tell.
     QString soFar() const { return toText(content_.soFar.value_or("")); }
     QString scanLabel() const { return toText(wordsOf(model_->servedSystem()).scanMachine); }
-    static QString scanSymbol() { return toText(tidewell::scanSymbol); }
-    static QString scanningWord() { return toText(tidewell::scanningWord); }
-    static QString soFarSymbol() { return toText(tidewell::soFarSymbol); }
 
     Q_INVOKABLE void startScan();
 

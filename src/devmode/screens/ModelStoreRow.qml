@@ -5,12 +5,9 @@ import Tidewell
 Surface {
     id: root
 
-    property string symbol
     property string title
     property string size
     property string note
-    property string revealLabel
-    property string revealSymbol
 
     signal revealed()
 
@@ -23,7 +20,7 @@ Surface {
         id: icon
         x: 16
         anchors.verticalCenter: parent.verticalCenter
-        symbol: root.symbol
+        symbol: "cube.box.fill"
     }
     Column {
         id: words
@@ -67,8 +64,8 @@ Surface {
         anchors.right: parent.right
         anchors.rightMargin: Theme.gapWide
         anchors.verticalCenter: parent.verticalCenter
-        symbol: root.revealSymbol
-        text: root.revealLabel
+        symbol: "magnifyingglass"
+        text: "Reveal"
         description: root.title
         onClicked: root.revealed()
     }

@@ -5,9 +5,8 @@ import Tidewell
 Surface {
     id: root
 
-    property string symbol
-    property string title
-    property string lines
+    readonly property string title: "Never touches"
+    readonly property string lines: "Your chats and memory\nYour projects, code and git\nYour keys and credentials"
 
     implicitHeight: column.implicitHeight + 28
     tint: Ambient.palette.primary
@@ -27,7 +26,7 @@ Surface {
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
-                symbol: root.symbol
+                symbol: "lock.shield.fill"
                 size: Theme.symbolRow
                 tint: Ambient.palette.soft
                 hole: Theme.base

@@ -12,29 +12,10 @@ namespace tidewell {
 
 // Every word, figure and condition of the Dev Mode screen, from the view model's values. Pure.
 
-inline constexpr std::string_view devStartTitle =
-    "Dev tools and AI apps quietly hoard tens of gigabytes.";
-inline constexpr std::string_view devStartLine =
-    "Every build, install and prompt leaves artifacts behind. Tidewell clears only what your tools "
-    "can rebuild on their own.";
-inline constexpr std::string_view devSymbol = "hammer.fill";
-inline constexpr std::string_view devScanButtonLabel = "Scan Dev & AI";
 inline constexpr std::string_view devScanningLine = "Checking your dev tools and AI apps…";
-inline constexpr std::string_view devReviewSubtitle =
-    "Only what your tools rebuild on their own. Your work is never touched.";
-inline constexpr std::string_view devCleaningTitle = "Cleaning…";
-inline constexpr std::string_view devRescanLabel = "Rescan";
-inline constexpr std::string_view devDoneSymbol = "checkmark.seal.fill";
-inline constexpr std::string_view devModelSymbol = "cube.box.fill";
-inline constexpr std::string_view devRevealLabel = "Reveal";
-inline constexpr std::string_view devRevealSymbol = "magnifyingglass";
 inline constexpr std::string_view devModelsLine =
     "These mix re-downloadable weights with models you trained and images you made, so Tidewell "
     "never deletes them. Reveal to manage yourself.";
-inline constexpr std::string_view neverTouchesSymbol = "lock.shield.fill";
-inline constexpr std::string_view neverTouchesTitle = "Never touches";
-inline constexpr std::string_view neverTouchesLines =
-    "Your chats and memory\nYour projects, code and git\nYour keys and credentials";
 inline constexpr std::string_view devReviewTag = "review";
 inline constexpr std::string_view modelsGroupID = "__models__";
 

@@ -51,33 +51,10 @@ class DevModeScreen final : public Screen {
     Q_PROPERTY(bool canClean READ canClean NOTIFY changed)
     Q_PROPERTY(QString doneTitle READ doneTitle NOTIFY changed)
     Q_PROPERTY(QString failureNote READ failureNote NOTIFY changed)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT)
-    Q_PROPERTY(QString startTitle READ startTitle CONSTANT)
-    Q_PROPERTY(QString startLine READ startLine CONSTANT)
-    Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
     Q_PROPERTY(QString scanningLine READ scanningLine CONSTANT)
-    Q_PROPERTY(QString reviewSubtitle READ reviewSubtitle CONSTANT)
-    Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT)
     Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT)
     Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT)
-    Q_PROPERTY(QString safeOnlyLabel READ safeOnlyLabel CONSTANT)
-    Q_PROPERTY(QString smartLabel READ smartLabel CONSTANT)
-    Q_PROPERTY(QString allLabel READ allLabel CONSTANT)
-    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT)
-    Q_PROPERTY(QString rescanLabel READ rescanLabel CONSTANT)
     Q_PROPERTY(QString modelsLine READ modelsLine CONSTANT)
-    Q_PROPERTY(QString modelSymbol READ modelSymbol CONSTANT)
-    Q_PROPERTY(QString revealLabel READ revealLabel CONSTANT)
-    Q_PROPERTY(QString revealSymbol READ revealSymbol CONSTANT)
-    Q_PROPERTY(QString neverTouchesSymbol READ neverTouchesSymbol CONSTANT)
-    Q_PROPERTY(QString neverTouchesTitle READ neverTouchesTitle CONSTANT)
-    Q_PROPERTY(QString neverTouchesLines READ neverTouchesLines CONSTANT)
-    Q_PROPERTY(QString cleanUpSymbol READ cleanUpSymbol CONSTANT)
-    Q_PROPERTY(QString cleanUpLabel READ cleanUpLabel CONSTANT)
-    Q_PROPERTY(QString cleaningTitle READ cleaningTitle CONSTANT)
-    Q_PROPERTY(QString doneSymbol READ doneSymbol CONSTANT)
-    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT)
-    Q_PROPERTY(QString failureSymbol READ failureSymbol CONSTANT)
     Q_PROPERTY(QString failureTitle READ failureTitle CONSTANT)
 
  public:
@@ -105,33 +82,10 @@ class DevModeScreen final : public Screen {
     bool canClean() const { return review_.canClean; }
     QString doneTitle() const { return toText(devDoneTitle(*model_)); }
     QString failureNote() const;
-    static QString symbol() { return toText(devSymbol); }
-    static QString startTitle() { return toText(devStartTitle); }
-    static QString startLine() { return toText(devStartLine); }
-    static QString scanLabel() { return toText(devScanButtonLabel); }
     static QString scanningLine() { return toText(devScanningLine); }
-    static QString reviewSubtitle() { return toText(devReviewSubtitle); }
-    static QString emptySymbol() { return toText(nothingToCleanSymbol); }
     static QString emptyTitle() { return toText(nothingToCleanTitle); }
     QString emptyLine() const { return toText(wordsOf(model_->servedSystem()).nothingToClean); }
-    static QString safeOnlyLabel() { return toText(tidewell::safeOnlyLabel); }
-    static QString smartLabel() { return toText(tidewell::smartLabel); }
-    static QString allLabel() { return toText(tidewell::allLabel); }
-    static QString noneLabel() { return toText(tidewell::noneLabel); }
-    static QString rescanLabel() { return toText(devRescanLabel); }
     static QString modelsLine() { return toText(devModelsLine); }
-    static QString modelSymbol() { return toText(devModelSymbol); }
-    static QString revealLabel() { return toText(devRevealLabel); }
-    static QString revealSymbol() { return toText(devRevealSymbol); }
-    static QString neverTouchesSymbol() { return toText(tidewell::neverTouchesSymbol); }
-    static QString neverTouchesTitle() { return toText(tidewell::neverTouchesTitle); }
-    static QString neverTouchesLines() { return toText(tidewell::neverTouchesLines); }
-    static QString cleanUpSymbol() { return toText(tidewell::cleanUpSymbol); }
-    static QString cleanUpLabel() { return toText(tidewell::cleanUpLabel); }
-    static QString cleaningTitle() { return toText(devCleaningTitle); }
-    static QString doneSymbol() { return toText(devDoneSymbol); }
-    static QString doneLabel() { return toText(tidewell::doneLabel); }
-    static QString failureSymbol() { return toText(notCleanedSymbol); }
     static QString failureTitle() { return toText(notCleanedTitle); }
 
     /// To be called when the screen comes into sight: it begins with the first group. Has its

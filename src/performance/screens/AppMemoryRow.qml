@@ -10,7 +10,6 @@ Surface {
     property double fraction: 0
     property string size
     property bool isBusy: false
-    property string quitLabel
 
     signal quit()
 
@@ -72,7 +71,7 @@ Surface {
         anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter
         width: 58
-        text: root.quitLabel
+        text: "Quit"
         description: root.name
         isBusy: root.isBusy
         onClicked: root.quit()

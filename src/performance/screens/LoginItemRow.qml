@@ -9,7 +9,6 @@ Surface {
     property string label
     property string program
     property string scope
-    property string revealLabel
 
     signal reveal()
 
@@ -83,7 +82,7 @@ Surface {
         fontSize: Theme.sizeNote
         horizontalPadding: 13
         verticalPadding: 6
-        text: root.revealLabel
+        text: "Reveal"
         description: root.label
         onClicked: root.reveal()
     }

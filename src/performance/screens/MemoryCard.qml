@@ -21,7 +21,7 @@ GlowCard {
 
         Symbol {
             anchors.centerIn: parent
-            symbol: root.screen.symbol
+            symbol: "speedometer"
             size: 34
             tint: Ambient.palette.soft
         }
@@ -36,7 +36,7 @@ GlowCard {
         Row {
             spacing: Theme.gapHair
             Accessible.role: Accessible.StaticText
-            Accessible.name: root.screen.memoryPercent + root.screen.memoryUnit
+            Accessible.name: root.screen.memoryPercent + "% in use"
             Accessible.description: root.screen.memoryLine
 
             FigureText {
@@ -48,7 +48,7 @@ GlowCard {
             }
             Label {
                 y: figure.ascent - baselineOffset
-                text: root.screen.memoryUnit
+                text: "% in use"
                 size: Theme.sizeUnit
                 weight: Font.DemiBold
                 color: Theme.withOpacity(Theme.text, 0.62)

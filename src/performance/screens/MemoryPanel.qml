@@ -16,7 +16,7 @@ Item {
     Column {
         id: column
         x: root.margin
-        y: 24
+        y: Theme.gapSmall
         width: parent.width - 2 * root.margin
         spacing: Theme.gap
 
@@ -49,10 +49,9 @@ Item {
         anchors.bottomMargin: Theme.gapLarge
         width: parent.width - 2 * root.margin
         visible: root.screen.message !== ""
-        symbol: root.screen.messageSymbol
+        symbol: "info.circle.fill"
         title: root.screen.message
-        dismissSymbol: root.screen.dismissSymbol
-        dismissLabel: root.screen.dismissLabel
+        isDismissible: true
         onDismissed: reason => {
             root.screen.dismissMessage()
             root.deserted(reason)
@@ -82,7 +81,6 @@ Item {
             required isBusy
 
             width: list.cardWidth
-            quitLabel: root.screen.quitLabel
             onQuit: root.screen.quit(index)
         }
     }

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewell
 
@@ -7,33 +8,54 @@ FocusScope {
 
     required property PerformanceScreen screen
 
-    readonly property real margin: Theme.pageMargin(width)
+    readonly property bool isList: screen.phase === PerformanceScreen.List
 
     Component.onCompleted: screen.open()
 
-    ScreenHeader {
-        x: root.margin
-        y: 30
-        width: parent.width - 2 * root.margin - 330
-        visible: root.screen.phase !== PerformanceScreen.Idle
-        title: root.screen.title
-        subtitle: root.screen.subtitle
-    }
-
-    ViewLoader {
-        readonly property int phase: root.screen.phase
-
+    ToolPage {
+        id: page
         anchors.fill: parent
-        onPhaseChanged: follow()
-        Component.onCompleted: follow()
+        focus: true
+        phase: root.isList ? ToolPage.Found
+             : root.screen.phase === PerformanceScreen.Scanning ? ToolPage.Scanning : ToolPage.Start
+        symbol: "speedometer"
+        title: "Performance"
+        subtitle: root.screen.subtitle
+        startLine: "See what's using memory and what starts at login."
+        startLabel: "Check Performance"
+        onStarted: root.screen.scan()
+        scanningTitle: "Checking what's running…"
 
-        function follow() {
-            if (phase === PerformanceScreen.Idle)
-                show(Qt.resolvedUrl("PerformanceStart.qml"), {screen: root.screen})
-            else if (phase === PerformanceScreen.Scanning)
-                show(Qt.resolvedUrl("PerformanceScanning.qml"), {screen: root.screen})
-            else
-                show(Qt.resolvedUrl("PerformanceList.qml"), {screen: root.screen, margin: root.margin})
+        actions: [
+            SegmentedPicker {
+                visible: root.isList
+                model: root.screen.panels
+                onChosen: row => root.screen.choosePanel(row)
+            },
+            SmallButton {
+                id: rescan
+                anchors.verticalCenter: parent?.verticalCenter
+                visible: root.isList
+                focus: visible
+                text: "Rescan"
+                onClicked: root.screen.scan()
+            }
+        ]
+
+        Item {
+            MemoryPanel {
+                anchors.fill: parent
+                visible: root.screen.showsMemory
+                screen: root.screen
+                margin: page.margin
+                onDeserted: reason => rescan.forceActiveFocus(reason)
+            }
+            StartupPanel {
+                anchors.fill: parent
+                visible: !root.screen.showsMemory
+                screen: root.screen
+                margin: page.margin
+            }
         }
     }
 }

@@ -12,7 +12,7 @@ Item {
     Label {
         id: explanation
         x: root.margin
-        y: 24
+        y: Theme.gapSmall
         width: Math.min(Theme.longestLine, parent.width - 2 * root.margin)
         text: root.screen.startupExplanation
         size: Theme.sizeText
@@ -69,7 +69,6 @@ Item {
             required scope
 
             width: list.cardWidth
-            revealLabel: root.screen.revealLabel
             onReveal: root.screen.reveal(index)
         }
     }

@@ -11,23 +11,9 @@ namespace tidewell {
 
 // Every word, figure, order and condition of the Performance screen. Pure; any thread.
 
-inline constexpr std::string_view performanceTitle = "Performance";
-inline constexpr std::string_view performanceSymbol = "speedometer";
-inline constexpr std::string_view performanceStartLine =
-    "See what's using memory and what starts at login.";
-inline constexpr std::string_view checkPerformanceLabel = "Check Performance";
-inline constexpr std::string_view performanceScanningLine = "Checking what's running…";
-inline constexpr std::string_view performanceRescanLabel = "Rescan";
-
-inline constexpr std::string_view quitMessageSymbol = "info.circle.fill";
-inline constexpr std::string_view dismissMessageSymbol = "xmark";
-inline constexpr std::string_view dismissMessageLabel = "Dismiss";
-inline constexpr std::string_view memoryFigureUnit = "% in use";
 inline constexpr std::string_view mostMemoryHeading = "Using the most memory";
-inline constexpr std::string_view quitLabel = "Quit";
 
 inline constexpr std::string_view startupHeading = "Starts automatically";
-inline constexpr std::string_view revealLabel = "Reveal";
 
 /// What the list shows, in the order of the picker.
 enum class PerformancePanel { memory, login };

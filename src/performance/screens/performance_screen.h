@@ -28,23 +28,11 @@ class PerformanceScreen final : public Screen {
     Q_PROPERTY(QString memoryLine READ memoryLine NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* apps READ apps CONSTANT)
     Q_PROPERTY(QAbstractItemModel* loginItems READ loginItems CONSTANT)
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT)
-    Q_PROPERTY(QString startLine READ startLine CONSTANT)
-    Q_PROPERTY(QString startLabel READ startLabel CONSTANT)
-    Q_PROPERTY(QString scanningLine READ scanningLine CONSTANT)
-    Q_PROPERTY(QString rescanLabel READ rescanLabel CONSTANT)
-    Q_PROPERTY(QString messageSymbol READ messageSymbol CONSTANT)
-    Q_PROPERTY(QString dismissSymbol READ dismissSymbol CONSTANT)
-    Q_PROPERTY(QString dismissLabel READ dismissLabel CONSTANT)
-    Q_PROPERTY(QString memoryUnit READ memoryUnit CONSTANT)
     Q_PROPERTY(QString memoryFootnote READ memoryFootnote CONSTANT)
     Q_PROPERTY(QString appsHeading READ appsHeading CONSTANT)
-    Q_PROPERTY(QString quitLabel READ quitLabel CONSTANT)
     Q_PROPERTY(QString startupExplanation READ startupExplanation CONSTANT)
     Q_PROPERTY(QString startupHeading READ startupHeading CONSTANT)
     Q_PROPERTY(QString openSettingsLabel READ openSettingsLabel CONSTANT)
-    Q_PROPERTY(QString revealLabel READ revealLabel CONSTANT)
 
  public:
     // NOLINTNEXTLINE(readability-identifier-naming): QML knows enumerators by their capital
@@ -65,25 +53,13 @@ class PerformanceScreen final : public Screen {
     QString memoryLine() const { return toText(content_.memoryLine); }
     QAbstractItemModel* apps() { return &apps_; }
     QAbstractItemModel* loginItems() { return &loginItems_; }
-    static QString title() { return toText(performanceTitle); }
-    static QString symbol() { return toText(performanceSymbol); }
-    static QString startLine() { return toText(performanceStartLine); }
-    static QString startLabel() { return toText(checkPerformanceLabel); }
-    static QString scanningLine() { return toText(performanceScanningLine); }
-    static QString rescanLabel() { return toText(performanceRescanLabel); }
-    static QString messageSymbol() { return toText(quitMessageSymbol); }
-    static QString dismissSymbol() { return toText(dismissMessageSymbol); }
-    static QString dismissLabel() { return toText(dismissMessageLabel); }
-    static QString memoryUnit() { return toText(memoryFigureUnit); }
     QString memoryFootnote() const { return toText(wordsOf(model_->system).memoryFootnote); }
     static QString appsHeading() { return toText(mostMemoryHeading); }
-    static QString quitLabel() { return toText(tidewell::quitLabel); }
     QString startupExplanation() const {
         return toText(wordsOf(model_->system).startupExplanation);
     }
     static QString startupHeading() { return toText(tidewell::startupHeading); }
     QString openSettingsLabel() const { return toText(wordsOf(model_->system).openLoginSettings); }
-    static QString revealLabel() { return toText(tidewell::revealLabel); }
 
     /// To be called when the screen comes into sight: it begins with the first panel.
     Q_INVOKABLE void open() { setPanel(PerformancePanel::memory); }

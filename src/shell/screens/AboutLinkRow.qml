@@ -6,7 +6,6 @@ Pressable {
     id: root
 
     property string symbol
-    property string outwardSymbol
 
     implicitHeight: 40
     leftPadding: 12
@@ -39,7 +38,7 @@ Pressable {
         Symbol {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            symbol: root.outwardSymbol
+            symbol: "arrow.up.right"
             size: Theme.symbolSmall
             tint: Theme.withOpacity(Theme.text, 0.34 + 0.40 * root.lift)
         }

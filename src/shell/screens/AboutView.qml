@@ -9,7 +9,7 @@ Modal {
     required property AboutScreen screen
 
     width: 400
-    title: screen.title
+    title: "About Tidewell"
     isWanted: screen.isOpen
     firstFocus: closeButton
     onCancelled: screen.close()
@@ -24,8 +24,8 @@ Modal {
             anchors.rightMargin: -10
             y: -10
             size: 28
-            symbol: root.screen.closeSymbol
-            text: root.screen.closeLabel
+            symbol: "xmark"
+            text: "Close"
             onClicked: root.screen.close()
         }
 
@@ -48,7 +48,8 @@ Modal {
             }
             Item { width: 1; height: 20 }
             Repeater {
-                model: [root.screen.purpose, root.screen.usage]
+                model: [root.screen.purpose, "Scan your storage, review what's taking up space, and "
+                                             + "remove only what you no longer need."]
 
                 Label {
                     required property string modelData
@@ -70,13 +71,13 @@ Modal {
 
                 Symbol {
                     id: shield
-                    symbol: root.screen.privacySymbol
+                    symbol: "lock.shield.fill"
                     size: Theme.symbolRow
                     tint: root.sectionPalette.primary
                 }
                 Label {
                     anchors.verticalCenter: shield.verticalCenter
-                    text: root.screen.privacy
+                    text: "Your files stay yours. No one else can read them, not even us."
                     size: Theme.sizeDetail
                     weight: Font.Medium
                 }
@@ -102,7 +103,6 @@ Modal {
 
                             width: links.width
                             text: title
-                            outwardSymbol: root.screen.outwardSymbol
                             onClicked: root.screen.openLink(index)
                         }
                     }

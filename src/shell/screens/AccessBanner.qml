@@ -14,7 +14,7 @@ GlowCard {
     IconChip {
         id: icon
         anchors.verticalCenter: parent.verticalCenter
-        symbol: root.screen.accessSymbol
+        symbol: "lock.shield.fill"
         size: 40
     }
     Column {
@@ -50,12 +50,12 @@ GlowCard {
             fontSize: Theme.sizeControl
             horizontalPadding: 18
             verticalPadding: 9
-            text: root.screen.openSettingsLabel
+            text: "Open Settings"
             onClicked: root.screen.openSettings()
         }
         GhostPillButton {
             fontSize: Theme.sizeControl
-            text: root.screen.revealAppLabel
+            text: "Reveal App"
             onClicked: root.screen.revealApp()
         }
     }

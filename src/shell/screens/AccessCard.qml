@@ -65,7 +65,7 @@ Item {
             }
             Label {
                 width: parent.width
-                text: root.screen.accessLine
+                text: "Grant access to unlock all cleaning features."
                 size: Theme.sizeDetail
                 lineHeight: 1.2
                 color: Theme.secondary
@@ -76,7 +76,7 @@ Item {
                 topPadding: 8
                 bottomPadding: 8
                 fontSize: Theme.sizeControl
-                text: root.screen.enableAccessLabel
+                text: "Enable Access"
                 onClicked: root.screen.enableAccess()
             }
         }

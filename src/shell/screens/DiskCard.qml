@@ -20,7 +20,7 @@ GlowCard {
 
     Label {
         id: caption
-        text: root.screen.freeFigureLabel
+        text: "FREE RIGHT NOW"
         size: Theme.sizeMinor
         weight: Font.DemiBold
         font.letterSpacing: 1.5
@@ -51,7 +51,7 @@ GlowCard {
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            symbol: root.screen.winningsSymbol
+            symbol: "arrow.up.right.circle.fill"
             size: Theme.symbolRow
             tint: Theme.success
         }
@@ -104,7 +104,7 @@ GlowCard {
         used: root.screen.usedFraction
         Accessible.ignored: false
         Accessible.role: Accessible.ProgressBar
-        Accessible.name: root.screen.gaugeCaption
+        Accessible.name: "used"
         Accessible.description: root.screen.usedPercent
 
         Column {
@@ -121,7 +121,7 @@ GlowCard {
             }
             Label {
                 anchors.horizontalCenter: parent.horizontalCenter
-                text: root.screen.gaugeCaption
+                text: "used"
                 size: Theme.sizeNote
                 color: Theme.secondary
                 Accessible.ignored: true

@@ -47,7 +47,7 @@ Item {
 
             Symbol {
                 anchors.verticalCenter: words.verticalCenter
-                symbol: root.screen.reclaimedSymbol
+                symbol: "arrow.up.right"
                 size: Theme.symbolTiny
                 tint: Ambient.palette.primary
             }

@@ -22,8 +22,8 @@ FocusScope {
             anchors.right: actions.left
             anchors.rightMargin: Theme.gapLarge
             y: 30
-            title: root.screen.title
-            subtitle: root.screen.subtitle
+            title: "Overview"
+            subtitle: "Free up space, safely"
         }
         Row {
             id: actions
@@ -39,7 +39,7 @@ FocusScope {
             }
             PillButton {
                 focus: true
-                symbol: root.screen.scanSymbol
+                symbol: "sparkles"
                 text: root.screen.scanLabel
                 onClicked: root.screen.startScan()
             }

@@ -41,7 +41,7 @@ FocusScope {
         Item { width: 1; height: 26 }
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: root.screen.title
+            text: "Tidewell"
             size: Theme.sizeHero
             weight: Font.Bold
             font.letterSpacing: -0.8
@@ -64,7 +64,7 @@ FocusScope {
             verticalPadding: 14
             fontSize: Theme.sizeCard
             focus: true
-            text: root.screen.getStartedLabel
+            text: "Get Started"
             onClicked: {
                 frost.isLive = false  // on the way out it shows what it showed
                 root.screen.getStarted()

@@ -13,7 +13,7 @@ Surface {
         id: icon
         x: 18
         anchors.verticalCenter: parent.verticalCenter
-        symbol: root.screen.scheduleSymbol
+        symbol: "sparkles"
         size: Theme.symbolRow
         tint: Ambient.palette.primary
     }

@@ -26,7 +26,7 @@ Item {
         width: parent.width - 28
         spacing: Theme.gapTight
         Accessible.role: Accessible.PageTabList
-        Accessible.name: root.screen.title
+        Accessible.name: "Tidewell"
 
         Keys.onUpPressed: step(false)
         Keys.onDownPressed: step(true)
@@ -77,8 +77,8 @@ Item {
         }
         SidebarLink {
             width: parent.width
-            symbol: root.screen.aboutSymbol
-            text: root.screen.aboutLabel
+            symbol: "info.circle"
+            text: "About Tidewell"
             onClicked: root.screen.showAbout()
         }
         SidebarLink {

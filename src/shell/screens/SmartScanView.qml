@@ -123,7 +123,6 @@ FocusScope {
                         required opens
 
                         text: title
-                        finishedSymbol: root.screen.finishedSymbol
                         Ambient.palette: accent
                         onClicked: root.screen.openCard(index)
                     }
@@ -169,16 +168,16 @@ FocusScope {
                     id: stopButton
                     anchors.verticalCenter: parent.verticalCenter
                     visible: root.isRunning
-                    text: root.screen.stopLabel
+                    text: "Stop"
                     onClicked: root.screen.stop()
                 }
                 GhostPillButton {
                     id: backButton
                     anchors.verticalCenter: parent.verticalCenter
                     visible: !root.isRunning
-                    symbol: root.screen.backSymbol
+                    symbol: "chevron.left"
                     horizontalPadding: 13
-                    Accessible.name: root.screen.backLabel
+                    Accessible.name: "Back"
                     onClicked: root.screen.back()
                 }
                 PillButton {
@@ -186,7 +185,7 @@ FocusScope {
                     anchors.verticalCenter: parent.verticalCenter
                     visible: root.hasNextStep
                     text: root.screen.primaryLabel
-                    symbol: root.screen.primarySymbol
+                    symbol: "arrow.right"
                     isSymbolLast: true
                     onClicked: root.screen.openPrimary()
                 }

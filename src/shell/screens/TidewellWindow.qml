@@ -13,7 +13,7 @@ Window {
     height: 740
     minimumWidth: 1060
     minimumHeight: 680
-    title: windowScreen.title
+    title: "Tidewell"
     color: Theme.base
 
     ContentView {

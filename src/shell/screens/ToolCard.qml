@@ -9,7 +9,6 @@ Pressable {
     property string line
     property string mark
     property string hoverMark
-    property string finishedSymbol
     property bool isActive: false
     property bool isDone: false
     property bool opens: false
@@ -76,7 +75,7 @@ Pressable {
 
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
-                    symbol: root.finishedSymbol
+                    symbol: "checkmark.circle.fill"
                     size: Theme.symbolTiny
                     tint: Ambient.palette.primary
                 }

@@ -15,22 +15,10 @@ namespace tidewell {
 
 // Every word, figure and condition of the Home screen. Pure.
 
-inline constexpr std::string_view homeTitle = "Overview";
-inline constexpr std::string_view homeSubtitle = "Free up space, safely";
-inline constexpr std::string_view smartScanSymbol = "sparkles";
-
-inline constexpr std::string_view accessBannerSymbol = "lock.shield.fill";
 inline constexpr std::string_view accessBannerTitle = "Turn on Full Disk Access";
 inline constexpr std::string_view accessBannerLine =
     "macOS hides some junk until you allow access. Flip it on in Settings and Tidewell picks it up "
     "automatically.";
-inline constexpr std::string_view openSettingsLabel = "Open Settings";
-inline constexpr std::string_view revealAppLabel = "Reveal App";
-
-inline constexpr std::string_view freeFigureLabel = "FREE RIGHT NOW";
-inline constexpr std::string_view gaugeCaption = "used";
-inline constexpr std::string_view winningsSymbol = "arrow.up.right.circle.fill";
-inline constexpr std::string_view scheduleSymbol = "sparkles";
 
 /// What the screen shows beside the tools' results.
 struct HomeReadings {

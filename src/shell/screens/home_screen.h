@@ -34,19 +34,9 @@ class HomeScreen final : public Screen {
     Q_PROPERTY(QAbstractItemModel* tools READ tools CONSTANT)
     Q_PROPERTY(QString lastCleanup READ lastCleanup NOTIFY changed)
     Q_PROPERTY(QString nextScan READ nextScan NOTIFY changed)
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString subtitle READ subtitle CONSTANT)
     Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
-    Q_PROPERTY(QString scanSymbol READ scanSymbol CONSTANT)
-    Q_PROPERTY(QString accessSymbol READ accessSymbol CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
     Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
-    Q_PROPERTY(QString openSettingsLabel READ openSettingsLabel CONSTANT)
-    Q_PROPERTY(QString revealAppLabel READ revealAppLabel CONSTANT)
-    Q_PROPERTY(QString freeFigureLabel READ freeFigureLabel CONSTANT)
-    Q_PROPERTY(QString gaugeCaption READ gaugeCaption CONSTANT)
-    Q_PROPERTY(QString winningsSymbol READ winningsSymbol CONSTANT)
-    Q_PROPERTY(QString scheduleSymbol READ scheduleSymbol CONSTANT)
 
  public:
     HomeScreen(std::shared_ptr<ContentView> view, QObject* parent);
@@ -65,19 +55,9 @@ class HomeScreen final : public Screen {
     QAbstractItemModel* tools() { return &tools_; }
     QString lastCleanup() const { return toText(content_.lastCleanup); }
     QString nextScan() const { return toText(content_.nextScan); }
-    static QString title() { return toText(homeTitle); }
-    static QString subtitle() { return toText(homeSubtitle); }
     QString scanLabel() const { return toText(wordsOf(view_->host().system).scanMachine); }
-    static QString scanSymbol() { return toText(smartScanSymbol); }
-    static QString accessSymbol() { return toText(accessBannerSymbol); }
     static QString accessTitle() { return toText(accessBannerTitle); }
     static QString accessLine() { return toText(accessBannerLine); }
-    static QString openSettingsLabel() { return toText(tidewell::openSettingsLabel); }
-    static QString revealAppLabel() { return toText(tidewell::revealAppLabel); }
-    static QString freeFigureLabel() { return toText(tidewell::freeFigureLabel); }
-    static QString gaugeCaption() { return toText(tidewell::gaugeCaption); }
-    static QString winningsSymbol() { return toText(tidewell::winningsSymbol); }
-    static QString scheduleSymbol() { return toText(tidewell::scheduleSymbol); }
 
     /// To be called when the screen comes into sight, for its dates are told from now. Has its
     /// effect in a later turn.

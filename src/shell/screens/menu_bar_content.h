@@ -16,7 +16,6 @@ namespace tidewell {
 inline constexpr std::string_view statusItemTitle = "Tidewell";
 /// The status item's image where the logo is missing.
 inline constexpr std::string_view statusItemSymbol = "sparkles";
-inline constexpr std::string_view reclaimedSymbol = "arrow.up.right";
 inline constexpr std::string_view openFullAppLabel = "Open full app";
 inline constexpr std::string_view quitProgramLabel = "Quit Tidewell";
 

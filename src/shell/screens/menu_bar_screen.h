@@ -32,7 +32,6 @@ class MenuBarScreen final : public Screen {
     Q_PROPERTY(QString reclaimed READ reclaimed NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel* cards READ cards CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString reclaimedSymbol READ reclaimedSymbol CONSTANT)
     Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT)
     Q_PROPERTY(QString openLabel READ openLabel CONSTANT)
 
@@ -52,7 +51,6 @@ class MenuBarScreen final : public Screen {
     QString reclaimed() const { return toText(content_.reclaimed.value_or("")); }
     QAbstractItemModel* cards() { return &cards_; }
     static QString title() { return toText(statusItemTitle); }
-    static QString reclaimedSymbol() { return toText(tidewell::reclaimedSymbol); }
     QString scanLabel() const { return toText(wordsOf(application_.host.system).scanMachine); }
     static QString openLabel() { return toText(openFullAppLabel); }
 

@@ -19,17 +19,13 @@ class OnboardingScreen final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString line READ line CONSTANT)
-    Q_PROPERTY(QString getStartedLabel READ getStartedLabel CONSTANT)
 
  public:
     OnboardingScreen(std::shared_ptr<ContentView> view, QObject* parent)
         : QObject(parent), view_(std::move(view)) {}
 
-    static QString title() { return toText(productName); }
     QString line() const { return toText(wordsOf(view_->host().system).purpose); }
-    static QString getStartedLabel() { return toText(tidewell::getStartedLabel); }
 
     Q_INVOKABLE void getStarted() { view_->finishOnboarding(Intro::play); }
 

@@ -16,12 +16,6 @@ namespace tidewell {
 // Every word, figure and condition of the smart scan's screen, from the controller and the four
 // view models behind it. Pure. Where something has a section, it is drawn in that section's accent.
 
-inline constexpr std::string_view stopScanLabel = "Stop";
-inline constexpr std::string_view backToOverviewLabel = "Back";
-inline constexpr std::string_view backSymbol = "chevron.left";
-inline constexpr std::string_view primaryActionSymbol = "arrow.right";
-inline constexpr std::string_view finishedCardSymbol = "checkmark.circle.fill";
-
 /// A quarter of the ring.
 struct RingSegmentContent {
     Mode section = Mode::clean;

@@ -28,11 +28,6 @@ class SmartScanScreen final : public Screen {
     Q_PROPERTY(QAbstractItemModel* cards READ cards CONSTANT)
     Q_PROPERTY(QAbstractItemModel* insights READ insights CONSTANT)
     Q_PROPERTY(QString primaryLabel READ primaryLabel NOTIFY changed)
-    Q_PROPERTY(QString primarySymbol READ primarySymbol CONSTANT)
-    Q_PROPERTY(QString finishedSymbol READ finishedSymbol CONSTANT)
-    Q_PROPERTY(QString stopLabel READ stopLabel CONSTANT)
-    Q_PROPERTY(QString backLabel READ backLabel CONSTANT)
-    Q_PROPERTY(QString backSymbol READ backSymbol CONSTANT)
 
  public:
     SmartScanScreen(std::shared_ptr<ContentView> view, QObject* parent);
@@ -48,11 +43,6 @@ class SmartScanScreen final : public Screen {
     QAbstractItemModel* insights() { return &insights_; }
     /// Empty if there is nothing to go on with.
     QString primaryLabel() const;
-    static QString primarySymbol() { return toText(primaryActionSymbol); }
-    static QString finishedSymbol() { return toText(finishedCardSymbol); }
-    static QString stopLabel() { return toText(stopScanLabel); }
-    static QString backLabel() { return toText(backToOverviewLabel); }
-    static QString backSymbol() { return toText(tidewell::backSymbol); }
 
     Q_INVOKABLE void stop() { view_->smartScan->stop(); }
     /// Back to the overview, once the run has ended.

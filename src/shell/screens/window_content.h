@@ -9,14 +9,9 @@ namespace tidewell {
 
 // Every word and condition of the main window around its screens. Pure.
 
-inline constexpr std::string_view windowTitle = "Tidewell";
 inline constexpr std::string_view accessTitle = "Full Disk Access";
-inline constexpr std::string_view accessLine = "Grant access to unlock all cleaning features.";
 inline constexpr std::string_view accessSymbol = "lock.shield.fill";
 inline constexpr std::string_view accessGrantedSymbol = "checkmark.shield.fill";
-inline constexpr std::string_view enableAccessLabel = "Enable Access";
-inline constexpr std::string_view aboutLabel = "About Tidewell";
-inline constexpr std::string_view aboutSymbol = "info.circle";
 
 struct SidebarRowContent {
     Mode mode;

@@ -53,14 +53,9 @@ class WindowScreen final : public Screen {
     Q_PROPERTY(tidewell::DevModeScreen* devMode READ devMode CONSTANT)
     Q_PROPERTY(tidewell::DeepScanScreen* deepScan READ deepScan CONSTANT)
     Q_PROPERTY(tidewell::AdvisorScreen* advisor READ advisor CONSTANT)
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString accessTitle READ accessTitle CONSTANT)
     Q_PROPERTY(QString quitLabel READ quitLabel CONSTANT)
-    Q_PROPERTY(QString accessLine READ accessLine CONSTANT)
     Q_PROPERTY(QString accessSymbol READ accessSymbol NOTIFY changed)
-    Q_PROPERTY(QString enableAccessLabel READ enableAccessLabel CONSTANT)
-    Q_PROPERTY(QString aboutLabel READ aboutLabel CONSTANT)
-    Q_PROPERTY(QString aboutSymbol READ aboutSymbol CONSTANT)
 
  public:
     WindowScreen(std::shared_ptr<ContentView> view, const QString& filmFolder);
@@ -86,14 +81,9 @@ class WindowScreen final : public Screen {
     DevModeScreen* devMode() { return &devMode_; }
     DeepScanScreen* deepScan() { return &deepScan_; }
     AdvisorScreen* advisor() { return &advisor_; }
-    static QString title() { return toText(windowTitle); }
     static QString quitLabel() { return toText(quitProgramLabel); }
     static QString accessTitle() { return toText(tidewell::accessTitle); }
-    static QString accessLine() { return toText(tidewell::accessLine); }
     QString accessSymbol() const;
-    static QString enableAccessLabel() { return toText(tidewell::enableAccessLabel); }
-    static QString aboutLabel() { return toText(tidewell::aboutLabel); }
-    static QString aboutSymbol() { return toText(tidewell::aboutSymbol); }
 
     /// Shows the section of the sidebar's row; nothing happens for a row that is not there.
     Q_INVOKABLE void openRow(int row);

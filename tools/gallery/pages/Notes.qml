@@ -15,8 +15,8 @@ Page {
             name: "banners"
             Column {
                 spacing: 12
-                Banner { width: 620; symbol: "checkmark.circle.fill"; title: "Moved Sketchpad to the Trash"; line: "3 items · 1.2 GB. Empty the Trash to lock it in."; dismissLabel: "Dismiss" }
-                Banner { width: 620; symbol: "exclamationmark.triangle.fill"; tint: "#fa9e3d"; title: "Couldn't move it."; line: "A line that is much longer than the strip is wide and so needs a second one, because it names a lot of files, one after the other"; dismissLabel: "Dismiss" }
+                Banner { width: 620; symbol: "checkmark.circle.fill"; title: "Moved Sketchpad to the Trash"; line: "3 items · 1.2 GB. Empty the Trash to lock it in."; isDismissible: true }
+                Banner { width: 620; symbol: "exclamationmark.triangle.fill"; tint: "#fa9e3d"; title: "Couldn't move it."; line: "A line that is much longer than the strip is wide and so needs a second one, because it names a lot of files, one after the other"; isDismissible: true }
                 Banner { width: 620; symbol: "info.circle.fill"; title: "Deleted iOS 16.4." }
             }
         }
