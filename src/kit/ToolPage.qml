@@ -46,6 +46,26 @@ FocusScope {
 
     readonly property real margin: Theme.pageMargin(width)
 
+    Component.onCompleted: settle()
+    onPhaseChanged: settling.restart()
+
+    /// The keyboard is where the phase has something to press. If what it was at in the list has gone
+    /// out of sight, it goes on to the actions.
+    function settle() {
+        const isLeft = body.isLeft
+        body.isLeft = false
+        if (isLeft)
+            buttons.nextItemInFocusChain().forceActiveFocus(body.lastReason)
+        else if (note.visible && note.buttonLabel !== "")
+            note.focus = true
+    }
+
+    Timer {
+        id: settling
+        interval: 0  // as soon as the phase shows
+        onTriggered: root.settle()
+    }
+
     ScreenHeader {
         anchors.left: parent.left
         anchors.leftMargin: root.margin
@@ -66,12 +86,13 @@ FocusScope {
     }
 
     StartNote {
+        id: note
+
         readonly property bool isStart: root.phase === ToolPage.Start
 
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -8
         visible: isStart || root.phase === ToolPage.Nothing
-        focus: visible && buttonLabel !== ""
         symbol: root.symbol
         title: isStart ? root.startTitle : root.nothingTitle
         line: isStart ? root.startLine : root.nothingLine
@@ -102,6 +123,8 @@ FocusScope {
 
         readonly property bool isWanted: root.phase === ToolPage.Found
         property bool isMade: false
+        /// It went out of sight with the keyboard in it.
+        property bool isLeft: false
         property int lastReason: Qt.OtherFocusReason
 
         anchors.fill: parent
@@ -109,16 +132,17 @@ FocusScope {
         visible: isWanted
         focus: isWanted && root.isListFirst
         Component.onCompleted: follow()
-        onIsWantedChanged: follow()
+        onIsWantedChanged: {
+            isLeft = !isWanted && activeFocus
+            follow()
+        }
 
         function follow() {
-            if (isWanted) {
-                isMade = true
-                if (root.Motion.hasPassages)
-                    coming.restart()
-            } else if (activeFocus) {  // the keyboard goes on to the actions
-                Qt.callLater(() => buttons.nextItemInFocusChain().forceActiveFocus(lastReason))
-            }
+            if (!isWanted)
+                return
+            isMade = true
+            if (root.Motion.hasPassages)
+                coming.restart()
         }
 
         Window.onActiveFocusItemChanged: {

@@ -83,7 +83,7 @@ TEST_F(AppsTest, EscapeLeavesTheAppWhereItIsAndGivesTheKeyboardBack) {
     EXPECT_FALSE(model().lastResult());
 }
 
-TEST_F(AppsTest, TheKeyboardGoesOnToTheNextCardAndFromTheLastToTheMenu) {
+TEST_F(AppsTest, TheKeyboardGoesOnToTheNextCardAndFromTheLastToTheButton) {
     scan();
     ASSERT_TRUE(comesToRest());
     const auto top = find("Atlas", QAccessible::ListItem)->rect().top();
@@ -103,7 +103,7 @@ TEST_F(AppsTest, TheKeyboardGoesOnToTheNextCardAndFromTheLastToTheMenu) {
     EXPECT_EQ(find("Atlas", QAccessible::ListItem)->rect().top(), top)
         << "the banner moves no card";
     uninstall("Atlas");
-    EXPECT_TRUE(comesTo([&] { return focused() == "Least used"; })) << focused().toStdString();
+    EXPECT_TRUE(comesTo([&] { return focused() == "Scan Apps"; })) << focused().toStdString();
     EXPECT_TRUE(showsFocus());
 }
 
