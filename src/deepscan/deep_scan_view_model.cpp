@@ -20,6 +20,21 @@ struct Found {
     std::vector<TrashedThing> inTrash;
 };
 
+struct Returned {
+    PuttingBack outcome;
+    bool isInTrash = true;
+};
+
+/// What somebody else has taken out of the Trash meanwhile is not there to be tried again.
+Returned returned(const BigItemScanner& scanner, const TrashedItem& item, const Host& host) {
+    Returned end{.outcome = scanner.putBack(item)};
+    if (end.outcome.place) return end;
+    end.isInTrash = std::ranges::any_of(trashedItems(host), [&item](const TrashedItem& other) {
+        return other.path == item.path && other.identity == item.identity;
+    });
+    return end;
+}
+
 }  // namespace
 
 std::vector<BigItem> mergeDeepScan(std::vector<BigItem> walked, std::vector<BigItem> installers,
@@ -69,7 +84,7 @@ Task<> DeepScanViewModel::scanWith(std::shared_ptr<MeasuredFolders> known) {
                               std::move(foundContainers), containers.walkExclusionPaths());
             return Found{.leftOut = {std::move(silent), unread.count()},
                          .items = std::move(merged),
-                         .inTrash = findTrashed(machine)};
+                         .inTrash = findTrashed(machine, known.get())};
         });
         auto found = co_await scanning;
         leftOut = std::move(found.leftOut);
@@ -99,15 +114,17 @@ Task<> DeepScanViewModel::trash(BigItem item) {
 Task<> DeepScanViewModel::putBack(TrashedItem item) {
     auto thing = takeFromTrash(item);
     if (!thing) co_return;
-    auto puttingBack = background([scanner = scanner_, item] { return scanner.putBack(item); });
-    PuttingBack failed;
-    failed.problem = "Something went wrong inside the program.";
-    auto outcome = co_await valueOr(puttingBack, failed);
+    auto puttingBack = background(
+        [scanner = scanner_, item, machine = host] { return returned(scanner, item, machine); });
+    Returned failed;
+    failed.outcome.problem = "Something went wrong inside the program.";
+    auto end = co_await valueOr(puttingBack, failed);
+    auto& outcome = end.outcome;
     PutBackOutcome told{.name = thing->name(), .problem = std::move(outcome.problem), .stayed = {}};
-    if (!outcome.place) {
+    if (!outcome.place && end.isInTrash) {
         addToTrash(std::move(*thing));
         told.stayed = std::move(item);
-    } else if (thing->was) {
+    } else if (outcome.place && thing->was) {
         items.mutate().push_back(std::move(*thing->was));
         sortBySize(items.mutate());
     }

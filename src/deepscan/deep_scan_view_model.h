@@ -32,8 +32,8 @@ class DeepScanViewModel : public std::enable_shared_from_this<DeepScanViewModel>
 
     struct PutBackOutcome {
         std::string name;
-        std::string problem;                ///< why it stays in the Trash, a sentence; else empty
-        std::optional<TrashedItem> stayed;  ///< then what stays
+        std::string problem;                ///< why it is not back, a sentence; empty if it is
+        std::optional<TrashedItem> stayed;  ///< what is in the Trash as before
     };
 
     explicit DeepScanViewModel(const Host& machine);

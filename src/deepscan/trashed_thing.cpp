@@ -18,11 +18,12 @@ void sortBySize(std::vector<TrashedThing>& things) {
     std::ranges::stable_sort(things, std::greater<>{}, &TrashedThing::sizeBytes);
 }
 
-std::vector<TrashedThing> findTrashed(const Host& host) {
+std::vector<TrashedThing> findTrashed(const Host& host, MeasuredFolders* known) {
     std::vector<TrashedThing> things;
     if (deepScanKnowledge(host.system).trash == TrashInList::none) return things;
     for (auto& item : trashedItems(host)) {
-        const auto size = freedUsage(item.path, host.system).freedBytes;
+        const auto measured = known ? diskUsage(item.path, *known) : diskUsage(item.path);
+        const auto size = freedUsage(item.path, measured, host.system).freedBytes;
         things.push_back({.item = std::move(item), .sizeBytes = size});
     }
     sortBySize(things);

@@ -6,6 +6,7 @@
 
 #include "deepscan/big_item.h"
 #include "platform/host.h"
+#include "platform/measured_folders.h"
 #include "platform/trash.h"
 
 namespace tidewell {
@@ -26,7 +27,8 @@ struct TrashedThing {
 void sortBySize(std::vector<TrashedThing>& things);
 
 /// All that lies in the user's Trashes, whoever put it there, largest first; nothing on machines
-/// whose deep scan does not tell of the Trash. Blocks; any thread but the main one.
-std::vector<TrashedThing> findTrashed(const Host& host);
+/// whose deep scan does not tell of the Trash. What `known` knows is taken over. Blocks; any thread
+/// but the main one.
+std::vector<TrashedThing> findTrashed(const Host& host, MeasuredFolders* known = nullptr);
 
 }  // namespace tidewell

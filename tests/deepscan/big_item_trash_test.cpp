@@ -102,14 +102,6 @@ TEST_F(BigItemTrash, KeepsWhatAPersonalFolderOrAKeyLeadsTo) {
     EXPECT_TRUE(trash("~/Work/Documents/thesis").success) << "one thing in it may go, if asked";
 }
 
-TEST_F(BigItemTrash, LeavesAnItemWhereTheTrashIsALink) {
-    machine.folder("~/Elsewhere");
-    machine.link("~/.Trash", "Elsewhere");
-    machine.text("~/Documents/x", "kept");
-    expectRefused("~/Documents/x");
-    EXPECT_TRUE(machine.has("~/Documents/x"));
-}
-
 /// What the deep scan of a Linux machine lists may go, up to the home folder's own entries; what
 /// holds the folders that it lists from, or a machine's disks, may not.
 TEST(BigItemTrashGuard, TakesALinuxHomesEntriesButNoRootAndNoDisks) {

@@ -155,6 +155,11 @@ TEST(DeepScanOfALinuxMachine, TellsOfTheTrashApartAndPutsBackWhatAnyoneMovedTher
     EXPECT_EQ(model->items().size(), 1) << "what was in the list is there again";
     EXPECT_EQ(model->inTrash().size(), 1);
     EXPECT_EQ(deepScanContent(*model, {}).banner->text, "Put note back where it was.");
+
+    machine.remove("~/.local/share/Trash/files/stray");
+    end(&DeepScanViewModel::putBack, model->inTrash()[0].item);
+    EXPECT_EQ(model->lastPutBack()->problem, "It is not in the Trash any more.");
+    EXPECT_TRUE(model->inTrash().empty() && !model->undoable());
 }
 
 TEST_F(DeepScan, TakesLateProgressButIsNotKeptAliveByIt) {
