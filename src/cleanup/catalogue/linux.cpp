@@ -541,6 +541,7 @@ constexpr auto rows = std::to_array<CatalogueRow>({
         .detail = "Pictures, media and logs that Discord has kept. Loaded again as you chat and "
                   "you stay signed in, but favourites that Discord keeps only here may be lost.",
         .category = CleanupCategory::appCaches,
+        .safety = SafetyLevel::caution,
         .products = products::discord,
         .programs = programs::discord,
     },
@@ -699,6 +700,7 @@ constexpr auto rows = std::to_array<CatalogueRow>({
                   "built again by the next update; installed programs stay. Changes you made to "
                   "build files there are lost.",
         .category = CleanupCategory::system,
+        .safety = SafetyLevel::caution,
         .paths = {"{cache}/yay", "{cache}/paru"},
     },
     {
