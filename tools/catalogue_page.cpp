@@ -90,7 +90,7 @@ std::string listed(const ConstantTexts& texts, std::string_view separator = "<br
 std::string placesOf(const CatalogueRow& row) {
     if (row.source == PathSource::deletableRoots) return "your own scratch folders";
     std::string places = listed(row.paths);
-    if (row.kind != TargetKind::plain) places = "swept: " + places;
+    if (isSweep(row.kind)) places = "swept: " + places;
     for (const auto& product : row.products) {
         if (!places.empty()) places += "<br>";
         places += listed(product.parts, ", ") + "<br>in " + listed(product.homes);

@@ -34,9 +34,14 @@ std::string_view title(CleanupCategory category);
 /// What a target stands for at its paths.
 enum class TargetKind {
     plain,        ///< each of them as a whole
+    trash,        ///< the same, and the user's Trashes on other disks
     sweep,        ///< the entries of a shared folder that no other target claims
     taggedSweep,  ///< those of them that a CACHEDIR.TAG says to be caches
 };
+
+constexpr bool isSweep(TargetKind kind) {
+    return kind == TargetKind::sweep || kind == TargetKind::taggedSweep;
+}
 
 /// Whose work a target's paths may be, beside the programs that it names.
 enum class PathUsers { unknown, applicationOfPath };
@@ -54,7 +59,7 @@ struct CleanupTarget {
     PathUsers users = PathUsers::unknown;
     std::string_view devGroup = {};  ///< Dev Mode's group; empty where the words tell it
 
-    bool isSweep() const { return kind != TargetKind::plain; }
+    bool isSweep() const { return tidewell::isSweep(kind); }
     bool hasPrograms() const { return !programs.empty() || users != PathUsers::unknown; }
 };
 

@@ -8,6 +8,7 @@
 
 #include "cleanup/cache_signs.h"
 #include "cleanup/running_check.h"
+#include "cleanup/sweep_obstacles.h"
 #include "cleanup/target_catalogue.h"
 #include "platform/files.h"
 #include "platform/freed_usage.h"
@@ -99,6 +100,16 @@ ByteCount mayBeLeft(const DiskUsage& now, const DiskUsage& atScan) {
     return now.unread.areAmong(atScan.unread) ? now.bytes : std::max(now.bytes, atScan.bytes);
 }
 
+/// The home folder's own is among the places that the row names.
+std::vector<std::string> withTrashesElsewhere(std::vector<std::string> places, const Host& host) {
+    for (auto& folder : trashFolders(host)) {
+        const bool isNamed = std::ranges::any_of(
+            places, [&folder](const auto& place) { return resolvedPath(place) == folder; });
+        if (!isNamed) places.push_back(std::move(folder));
+    }
+    return places;
+}
+
 }  // namespace
 
 DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
@@ -106,18 +117,7 @@ DiskScanner::DiskScanner(Host host) : host_(std::move(host)), guard_(host_) {}
 std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target, MeasuredFolders* known,
                                                 UnreadThings* unread) const {
     Found found;
-    for (auto& path : existingPlaces(target.paths, host_)) {
-        switch (target.kind) {
-            case TargetKind::plain:
-                found.add(std::move(path), known);
-                break;
-            case TargetKind::sweep:
-            case TargetKind::taggedSweep:
-                for (auto& child : sweptChildren(path, target.kind))
-                    found.add(std::move(child), known);
-                break;
-        }
-    }
+    for (auto& path : placesOf(target)) found.add(std::move(path), known);
     if (unread) unread->add(found.sum.unread);
     if (found.paths.empty()) return std::nullopt;
     const auto together = freedUsage(found.paths, found.sum, host_.system);
@@ -129,8 +129,26 @@ std::optional<CleanupItem> DiskScanner::measure(const CleanupTarget& target, Mea
                        .isSelected = target.safety == SafetyLevel::safe};
 }
 
-std::vector<std::string> DiskScanner::sweptChildren(const std::string& sweptFolder,
-                                                    TargetKind kind) const {
+std::vector<std::string> DiskScanner::placesOf(const CleanupTarget& target) const {
+    auto places = existingPlaces(target.paths, host_);
+    switch (target.kind) {
+        case TargetKind::plain:
+            return places;
+        case TargetKind::trash:
+            return withTrashesElsewhere(std::move(places), host_);
+        case TargetKind::sweep:
+        case TargetKind::taggedSweep:
+            break;
+    }
+    std::vector<std::string> swept;
+    const SweepObstacles obstacles(host_);
+    for (const auto& folder : places)
+        std::ranges::move(sweptChildren(folder, target.kind, obstacles), std::back_inserter(swept));
+    return swept;
+}
+
+std::vector<std::string> DiskScanner::sweptChildren(const std::string& sweptFolder, TargetKind kind,
+                                                    const SweepObstacles& obstacles) const {
     const auto claimed = sweepExclusions(sweptFolder);
     const auto never = neverSweptPaths(host_);
     const bool looksInside = catalogueOf(host_.system).sweepCare == SweepCare::byContent;
@@ -142,6 +160,7 @@ std::vector<std::string> DiskScanner::sweptChildren(const std::string& sweptFold
         const bool isTagged = hasTagged && isTaggedCache(child);
         if (isTagged != (kind == TargetKind::taggedSweep)) continue;
         if (looksInside && holdsVirtualEnvironment(child)) continue;
+        if (obstacles.standIn(child)) continue;
         children.push_back(std::move(child));
     }
     return children;
@@ -159,9 +178,11 @@ std::set<std::string, std::less<>> DiskScanner::sweepExclusions(
 DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
     if (hasStartedSince(item, host_)) return {.freedBytes = 0, .failedTitle = item.target.title};
     const auto before = heldBefore(item, host_.system);
+    const auto inUse = newlyInUse(item);
     auto outcome = Removal::complete;
     for (const auto& path : item.resolvedPaths)
-        if (attempt(path) == Removal::incomplete) outcome = Removal::incomplete;
+        if (inUse.contains(path) || attempt(path) == Removal::incomplete)
+            outcome = Removal::incomplete;
     const auto after = heldBy(item.resolvedPaths, host_.system);
     auto left = after.together.freedBytes;
     for (std::size_t i = 0; i < item.resolvedPaths.size(); ++i) {
@@ -173,6 +194,15 @@ DiskScanner::CleanResult DiskScanner::clean(const CleanupItem& item) const {
                        .failedTitle = std::nullopt};
     if (outcome == Removal::incomplete) result.failedTitle = item.target.title;
     return result;
+}
+
+std::set<std::string> DiskScanner::newlyInUse(const CleanupItem& item) const {
+    std::set<std::string> paths;
+    if (!item.target.isSweep()) return paths;
+    const SweepObstacles obstacles(host_);
+    for (const auto& path : item.resolvedPaths)
+        if (obstacles.standIn(path)) paths.insert(path);
+    return paths;
 }
 
 /// A path for which the memory does not suffice stays, and stops no other: what went is counted.

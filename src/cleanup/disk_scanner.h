@@ -13,6 +13,8 @@
 
 namespace tidewell {
 
+class SweepObstacles;
+
 /// Turns a target into a measured item, cleans what an item names, and owns the one reading of free
 /// space of the program. Has no state but the machine that it works
 /// on; every operation blocks, may be called from any thread but the main one, and never fails
@@ -47,7 +49,10 @@ class DiskScanner {
     const Host& host() const { return host_; }
 
  private:
-    std::vector<std::string> sweptChildren(const std::string& sweptFolder, TargetKind kind) const;
+    std::vector<std::string> placesOf(const CleanupTarget& target) const;
+    std::set<std::string> newlyInUse(const CleanupItem& item) const;
+    std::vector<std::string> sweptChildren(const std::string& sweptFolder, TargetKind kind,
+                                           const SweepObstacles& obstacles) const;
     Removal attempt(const std::string& path) const;
     Removal cleanPath(const std::string& path) const;
 

@@ -65,7 +65,7 @@ std::vector<CleanupTarget> cleanupCatalogue(const Host& host) {
 std::vector<TablePath> claimedPaths(const Host& host) {
     std::vector<TablePath> claimed;
     for (const auto& row : catalogueOf(host.system).rows)
-        if (row.kind == TargetKind::plain)
+        if (!isSweep(row.kind))
             for (const auto& stored : pathsOf(row, host)) claimed.emplace_back(stored, host);
     return claimed;
 }
@@ -75,7 +75,7 @@ std::vector<std::string> namedCacheFolders(const Host& host) {
     std::vector<std::string> stored;
     for (const auto rows : {catalogue.rows, catalogue.modelCaches})
         for (const auto& row : rows)
-            if (row.kind == TargetKind::plain && row.source == PathSource::stored)
+            if (!isSweep(row.kind) && row.source == PathSource::stored)
                 std::ranges::move(storedPaths(row), std::back_inserter(stored));
     return existingPlaces(stored, host);
 }

@@ -41,4 +41,17 @@ class RunningPrograms {
     std::shared_ptr<const Seen> seen_;
 };
 
+/// What programs of the user have open at this moment, seen once; this program's own is left out.
+/// Of which processes, and what is passed over, as above. Any thread.
+class OpenFiles {
+ public:
+    explicit OpenFiles(const Host& host);
+
+    /// Whether one of them is `folder`, which is a real path, or lies below it.
+    bool areIn(const std::string& folder) const;
+
+ private:
+    std::vector<std::string> paths_;
+};
+
 }  // namespace tidewell

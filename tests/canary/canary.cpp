@@ -29,6 +29,7 @@ constexpr Verb verbs[] = {Verb::clean,
                           Verb::cleanAtHome,
                           Verb::dev,
                           Verb::trash,
+                          Verb::trash,
                           Verb::uninstall,
                           Verb::uninstallKilled};
 

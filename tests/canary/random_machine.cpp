@@ -229,7 +229,7 @@ void RandomMachine::layOutBigItems() {
 
 /// With names that are taken already; or as somebody has it who keeps what he throws away.
 void RandomMachine::layOutTrash() {
-    if (chance.percent(10)) {
+    if (chance.percent(25)) {
         const auto trash = machine.path(ground.trash);
         fs::create_directories(fs::path(trash).parent_path());
         return fs::create_symlink(machine.path("~/Documents"), trash);
@@ -261,9 +261,12 @@ void RandomMachine::layOutApplications() {
 /// What is mounted inside a cache, or where one is expected, is another disk, or another place of
 /// this one.
 void RandomMachine::mountSome() {
-    constexpr std::array<const char*, 4> places = {"~/.npm/_cacache/disk",
+    constexpr std::array<const char*, 6> places = {"~/.npm/_cacache/disk",
                                                    "~/Library/Caches/com.example.disk/files",
-                                                   "~/.gradle", "~/.bundle"};
+                                                   "~/.gradle",
+                                                   "~/.bundle",
+                                                   "~/.ivy2",
+                                                   "~/.konan"};
     for (const char* place : places) {
         // What a mount hides nobody can know of, keys that lead elsewhere among it.
         if (chance.percent(50) || machine.has(place)) continue;

@@ -1,11 +1,15 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 
 #include "cleanup/disk_scanner.h"
 #include "cleanup/target_catalogue.h"
 #include "platform/path_text.h"
+#include "support/running_program.h"
 #include "support/sample_machine.h"
 
 namespace tidewell {
@@ -119,6 +123,29 @@ TEST_F(LinuxSweep, TakesOfFlatpakApplicationsWhatNoOtherRowHas) {
               (std::vector<std::string>{".var/app/org.example.App/cache/pictures",
                                         ".var/app/org.mozilla.firefox/cache/fontconfig"}));
     EXPECT_FALSE(measure("flatpak-app-caches")->isSelected);
+}
+
+TEST_F(LinuxSweep, LeavesWhatAProgramHasOpenAndWhatIsMountedThere) {
+    machine.file("~/.cache/still/x");
+    machine.file("~/.cache/writing/deep/x");
+    const auto before = measure("other-app-caches");
+    ASSERT_EQ(before->resolvedPaths.size(), 2U);
+    // The program inherits what is open.
+    const int file = ::open(machine.path("~/.cache/writing/deep/x").c_str(), O_RDONLY);
+    const test::RunningProgram writer(machine.path("/usr/bin/writer"));
+    ::close(file);
+    EXPECT_EQ(taken("other-app-caches"), std::vector<std::string>{".cache/still"});
+    EXPECT_EQ(DiskScanner(machine.host()).clean(*before).failedTitle, before->target.title);
+    EXPECT_TRUE(machine.has("~/.cache/writing/deep/x"));
+    EXPECT_FALSE(machine.has("~/.cache/still/x"));
+
+    machine.file("~/.cache/mounted/x");
+    const auto place = machine.path("~/.cache/mounted");
+    if (::mount("none", place.c_str(), "tmpfs", 0, nullptr) != 0) GTEST_SKIP() << "no mounts here";
+    machine.file("~/.cache/mounted/x");
+    EXPECT_EQ(taken("other-app-caches"), std::vector<std::string>{});
+    ::umount(place.c_str());
+    EXPECT_EQ(taken("other-app-caches"), std::vector<std::string>{".cache/mounted"});
 }
 
 TEST_F(LinuxSweep, FollowsNoLinkThatAPatternMeets) {

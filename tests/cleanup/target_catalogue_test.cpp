@@ -74,8 +74,9 @@ TEST(TargetCatalogue, SaysTheSameOfARowOnBothSystems) {
         const auto* other = rowNamed(System::macOS, row.id);
         if (!other) continue;
         EXPECT_EQ(row.category, other->category) << row.id;
-        const bool holdsMore = row.id == "maven-repo" || row.id == "other-app-caches";
-        EXPECT_TRUE(holdsMore || row.safety == other->safety) << row.id;
+        const std::set<std::string_view> holdMore = {"maven-repo", "other-app-caches",
+                                                     "discord-cache"};
+        EXPECT_TRUE(holdMore.contains(row.id) || row.safety == other->safety) << row.id;
     }
 }
 
@@ -112,7 +113,7 @@ TEST(TargetCatalogue, FindsEachPlaceOfALinuxMachineOnceAndInItsOwnRow) {
     const SampleMachine machine(System::linux);
     const auto rows = catalogueOf(System::linux).rows;
     for (const auto& row : rows)
-        if (row.kind == TargetKind::plain)
+        if (!isSweep(row.kind))
             for (const auto& stored : storedPaths(row))
                 machine.file(placeOf(stored) + "/some file");
     std::vector<std::string> all;

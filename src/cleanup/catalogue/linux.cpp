@@ -700,8 +700,8 @@ constexpr auto rows = std::to_array<CatalogueRow>({
                   "built again by the next update; installed programs stay. Changes you made to "
                   "build files there are lost.",
         .category = CleanupCategory::system,
-        .safety = SafetyLevel::caution,
         .paths = {"{cache}/yay", "{cache}/paru"},
+        .safety = SafetyLevel::caution,
     },
     {
         .id = "user-logs",
@@ -729,6 +729,7 @@ constexpr auto rows = std::to_array<CatalogueRow>({
         .category = CleanupCategory::system,
         .paths = {"{data}/Trash/files"},
         .safety = SafetyLevel::caution,
+        .kind = TargetKind::trash,
     },
 });
 

@@ -9,6 +9,7 @@
 #include <tuple>
 
 #include "platform/files.h"
+#include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
 
 namespace tidewell::linux_system {
@@ -111,6 +112,17 @@ std::vector<std::string> argumentsOf(std::int32_t id) {
     }
     if (!words.empty()) words.erase(words.begin());
     return words;
+}
+
+std::vector<std::string> openFilesOf(std::int32_t id) {
+    const auto descriptors = processFolder(id) + "/fd";
+    std::vector<std::string> files;
+    for (const auto& name : folderNames(descriptors).value_or(std::vector<std::string>{})) {
+        char path[PATH_MAX];
+        const auto length = ::readlink(joinPath(descriptors, name).c_str(), path, sizeof path);
+        if (length > 0) files.emplace_back(path, static_cast<std::size_t>(length));
+    }
+    return files;
 }
 
 std::optional<std::uint64_t> startTime(std::int32_t id) {

@@ -26,6 +26,10 @@ std::vector<Process> ownProcesses();
 /// None once it has ended.
 std::vector<std::string> argumentsOf(std::int32_t id);
 
+/// Where what the process has open lies by now, as the system tells it: files and folders, and
+/// words for what lies nowhere. None once it has ended.
+std::vector<std::string> openFilesOf(std::int32_t id);
+
 /// Absent once the process has ended, also while its parent has not taken note of it.
 std::optional<std::uint64_t> startTime(std::int32_t id);
 

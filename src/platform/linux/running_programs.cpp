@@ -69,10 +69,8 @@ bool wasThereFor(const std::string& lock, const Process& holder) {
 
 bool hasFileOpenIn(const std::vector<std::string>& folders, std::int32_t process) {
     if (folders.empty()) return false;
-    const auto descriptors = "/proc/" + std::to_string(process) + "/fd";
-    const auto names = folderNames(descriptors).value_or(std::vector<std::string>{});
-    return std::ranges::any_of(names, [&](const std::string& name) {
-        const auto file = linkText(joinPath(descriptors, name));
+    const auto files = linux_system::openFilesOf(process);
+    return std::ranges::any_of(files, [&](const std::string& file) {
         return std::ranges::any_of(
             folders, [&file](const std::string& folder) { return isBelow(file, folder); });
     });
@@ -125,6 +123,18 @@ RunningPrograms::RunningPrograms(const Host& host) {
         if (isBelow(process.executable, host.root))
             seen.processes.push_back(look(std::move(process)));
     seen_ = std::make_shared<const Seen>(std::move(seen));
+}
+
+OpenFiles::OpenFiles(const Host& host) {
+    for (const auto& process : linux_system::ownProcesses())
+        if (process.identity.id != ::getpid() && isBelow(process.executable, host.root))
+            std::ranges::move(linux_system::openFilesOf(process.identity.id),
+                              std::back_inserter(paths_));
+}
+
+bool OpenFiles::areIn(const std::string& folder) const {
+    return std::ranges::any_of(
+        paths_, [&folder](const std::string& path) { return isAtOrBelow(path, folder); });
 }
 
 std::optional<std::string> RunningPrograms::firstRunning(
