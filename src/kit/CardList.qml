@@ -39,6 +39,8 @@ ListView {
 
     T.ScrollBar.vertical: ScrollHandle {}
 
+    SoftEnds { area: root }
+
     RowKeeper {
         id: keeper
         rows: root

@@ -16,19 +16,19 @@ T.Popup {
     property Item firstFocus
     property Item lastFocus
     property int lastReason: Qt.OtherFocusReason
-    property double shownAt: 0
+    readonly property Settling settling: Settling {}
 
     signal confirmed()
     signal cancelled()
 
     /// For what cannot be taken back: not as soon as the card has come under the pointer.
     function confirm() {
-        if (Math.abs(Date.now() - shownAt) >= Kit.settlingTime)
+        if (settling.isOver())
             confirmed()
     }
 
     onAboutToShow: {
-        shownAt = Date.now()
+        settling.begin()
         if (!lastFocus) {  // it may be on its way out
             lastFocus = parent.Window.activeFocusItem
             lastReason = (lastFocus as Pressable)?.focusReason ?? Qt.OtherFocusReason

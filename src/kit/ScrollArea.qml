@@ -14,5 +14,7 @@ Flickable {
 
     T.ScrollBar.vertical: ScrollHandle {}
 
+    SoftEnds { area: root }
+
     FocusFollower { area: root }
 }

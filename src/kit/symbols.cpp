@@ -59,23 +59,22 @@ constexpr std::array symbolRows = std::to_array<SymbolRow>({
     {"magnifyingglass", {0xe8b6}},                          // search
     {"minus", {0xe15b}},                                    // remove
     {"mug.fill", {0xf1f3}},                                 // sports_bar
-    {"p.square.fill",
-     {0xe835, 0xe54f, Inner::drawn}},        // check_box_outline_blank with local_parking
-    {"person.crop.circle", {0xe853}},        // account_circle
-    {"play.rectangle.fill", {0xf06a}},       // smart_display
-    {"power", {0xe8ac}},                     // power_settings_new
-    {"questionmark.circle.fill", {0xe887}},  // help
-    {"scope", {0xe55c}},                     // my_location
-    {"shippingbox", {0xe149}},               // archive
-    {"shippingbox.fill", {0xe1a1}},          // inventory_2
-    {"sparkles", {0xe65f}},                  // auto_awesome
-    {"speedometer", {0xe9e4}},               // speed
-    {"square.grid.2x2.fill", {0xe9b0}},      // grid_view
-    {"terminal", {0xeb8e}},                  // terminal
-    {"trash", {0xe92e}},                     // delete_outline
-    {"trash.fill", {0xe872}},                // delete
-    {"wand.and.stars", {0xe663}},            // auto_fix_high
-    {"xmark", {0xe5cd}},                     // close
+    {"p.square.fill", {0xeb36, 0xe54f, Inner::cutOut}},     // square with local_parking
+    {"person.crop.circle", {0xe853}},                       // account_circle
+    {"play.rectangle.fill", {0xf06a}},                      // smart_display
+    {"power", {0xe8ac}},                                    // power_settings_new
+    {"questionmark.circle.fill", {0xe887}},                 // help
+    {"scope", {0xe55c}},                                    // my_location
+    {"shippingbox", {0xe149}},                              // archive
+    {"shippingbox.fill", {0xe1a1}},                         // inventory_2
+    {"sparkles", {0xe65f}},                                 // auto_awesome
+    {"speedometer", {0xe9e4}},                              // speed
+    {"square.grid.2x2.fill", {0xf088}},                     // window
+    {"terminal", {0xeb8e}},                                 // terminal
+    {"trash", {0xe92e}},                                    // delete_outline
+    {"trash.fill", {0xe872}},                               // delete
+    {"wand.and.stars", {0xe663}},                           // auto_fix_high
+    {"xmark", {0xe5cd}},                                    // close
 });
 static_assert(std::ranges::is_sorted(symbolRows, std::ranges::less{}, &SymbolRow::name));
 

@@ -32,6 +32,8 @@ TEST_F(CleanTest, RunsFromTheScanToTheEndByPointer) {
     ASSERT_EQ(view->cleanupModel->items().size(), 3);
     ASSERT_TRUE(comesTo([&] { return shows("Found 6.3 MB of junk."); }));
     EXPECT_EQ(picked(), 2) << "the Trash is not ticked by itself";
+    press("Clean Up");
+    EXPECT_EQ(phase(), Phase::review) << "the button has just come under the pointer";
 
     click("None");
     EXPECT_EQ(picked(), 0);
@@ -60,6 +62,7 @@ TEST_F(CleanTest, RunsFromTheScanToTheEndByPointer) {
     EXPECT_FALSE(isChecked(chip("trash")));
 
     ASSERT_TRUE(comesTo([&] { return isEnabled("Clean Up"); }));
+    settle();
     click("Clean Up");
     ASSERT_TRUE(comesTo([&] { return phase() == Phase::done; }));
     EXPECT_TRUE(isRemoved("~/.npm/_cacache/one"));
@@ -94,6 +97,7 @@ TEST_F(CleanTest, RunsFromTheScanToTheEndByKeyboard) {
     EXPECT_EQ(focused(), "Back");
     key(Qt::Key_Tab);
     EXPECT_EQ(focused(), "Clean Up");
+    settle();
     key(Qt::Key_Return);
     ASSERT_TRUE(comesTo([&] { return phase() == Phase::done; }));
     EXPECT_TRUE(machine.has("~/.npm/_cacache/one"));

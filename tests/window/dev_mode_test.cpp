@@ -52,6 +52,7 @@ TEST_F(DevModeTest, WhatIsPickedInAGroupGoesAndTheWorkBesideItStays) {
     viewGroup("Node & JS", "npm cache", QAccessible::CheckBox);
     click("npm cache", QAccessible::CheckBox);
     ASSERT_TRUE(comesTo([&] { return shows("1 picked"); })) << picked();
+    settle();
     click("Clean Up");
     ASSERT_TRUE(comesTo([&] { return shows("Freed 2.1 MB"); })) << told();
     EXPECT_FALSE(machine.has("~/.gradle/caches/two"));

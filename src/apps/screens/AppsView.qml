@@ -94,6 +94,8 @@ FocusScope {
 
                 T.ScrollBar.vertical: ScrollHandle {}
 
+                SoftEnds { area: grid }
+
                 RowKeeper {
                     rows: grid
                     onDeserted: reason => sort.forceActiveFocus(reason)

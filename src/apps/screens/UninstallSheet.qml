@@ -62,6 +62,8 @@ Modal {
 
             T.ScrollBar.vertical: ScrollHandle {}
 
+            SoftEnds { area: list }
+
             delegate: UninstallRow {
                 required property int index
                 required hasTick

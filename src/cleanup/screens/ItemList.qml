@@ -92,6 +92,8 @@ FocusScope {
 
         T.ScrollBar.vertical: ScrollHandle {}
 
+        SoftEnds { area: list }
+
         delegate: ItemChip {
             required property int index
             required title

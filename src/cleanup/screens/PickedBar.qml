@@ -21,6 +21,10 @@ Item {
     readonly property bool showsHint: !canClean && hint !== ""
 
     implicitHeight: 88
+    Component.onCompleted: settling.begin()
+    onVisibleChanged: settling.begin()
+
+    Settling { id: settling }
 
     Rectangle {
         anchors.fill: parent
@@ -104,7 +108,10 @@ Item {
             enabled: root.canClean
             symbol: "sparkles"
             text: "Clean Up"
-            onClicked: root.cleanUp()
+            onClicked: {
+                if (settling.isOver())  // what goes does not come back
+                    root.cleanUp()
+            }
         }
     }
 }
