@@ -27,7 +27,7 @@ Row {
         id: metrics
         font.family: Kit.fontFamily(root.isRounded)
         font.weight: Kit.fontWeight(root.weight, root.isRounded)
-        font.pixelSize: root.size
+        font.pixelSize: Math.floor(root.size)
     }
 
     TextMetrics {

@@ -10,7 +10,7 @@ Text {
     color: Theme.text
     font.family: Kit.fontFamily(isRounded)
     font.weight: Kit.fontWeight(weight, isRounded)
-    font.pixelSize: size
+    font.pixelSize: Math.floor(size)  // a font has no halves, and either way of running this rounds its own
     textFormat: Text.PlainText
     linkColor: color
     Accessible.role: Accessible.StaticText

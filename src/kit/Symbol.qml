@@ -24,13 +24,13 @@ Item {
 
     Glyph {
         text: Kit.glyph(root.symbol)
-        font.pixelSize: root.size
+        font.pixelSize: Math.floor(root.size)
         color: root.tint
     }
 
     Glyph {
         text: Kit.innerGlyph(root.symbol)
-        font.pixelSize: root.size * 0.54
+        font.pixelSize: Math.floor(root.size * 0.54)
         color: Kit.isInnerCutOut(root.symbol) ? root.hole : root.tint
     }
 }

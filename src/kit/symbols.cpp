@@ -69,7 +69,8 @@ constexpr std::array symbolRows = std::to_array<SymbolRow>({
     {"shippingbox.fill", {0xe1a1}},                         // inventory_2
     {"sparkles", {0xe65f}},                                 // auto_awesome
     {"speedometer", {0xe9e4}},                              // speed
-    {"square.grid.2x2.fill", {0xf088}},                     // window
+    {"square", {0xe3c6}},                                   // crop_square
+    {"square.grid.2x2.fill", {0xe9b0}},                     // grid_view
     {"terminal", {0xeb8e}},                                 // terminal
     {"trash", {0xe92e}},                                    // delete_outline
     {"trash.fill", {0xe872}},                               // delete

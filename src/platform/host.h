@@ -13,7 +13,8 @@ struct OwnBundle {
     std::string identifier;
     std::string version;
     std::string build;
-    std::string path;  ///< what the file manager shows as the program itself
+    std::string path;     ///< what the file manager shows as the program itself
+    std::string website;  ///< its address, with a slash at the end; empty where there is none
 };
 
 /// The folders of a home in which programs keep what is theirs, by the XDG Base Directory rules.

@@ -66,6 +66,7 @@ void SampleMachine::layOut(const std::string& root, System system) {
     auto found = findHost({.root = root});
     if (!found.host) throw std::runtime_error(found.problem);
     host_ = std::move(*found.host);
+    host_.ownBundle.website = "https://tidewell.example/";
 }
 
 void SampleMachine::folder(std::string_view machinePath) const {

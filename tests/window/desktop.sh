@@ -90,6 +90,22 @@ await "no bar comes" has_bar
 running=$!
 await "no window comes" sees_window
 
+# It is known by its desktop entry, and has a frame of its own that it is moved by.
+window_id=$(xdotool search --onlyvisible --name '^Tidewell$' | head -1)
+xprop -id "$window_id" WM_CLASS | grep -q '"io.tidewell.Tidewell"$' || fail "its windows are of another class"
+where() { xdotool getwindowgeometry --shell "$window_id" | sed -n 's/^[XY]=//p' | xargs; }
+drag() {
+    local x y
+    read -r x y <<<"$(where)"
+    xdotool mousemove $((x + 500)) $((y + 14)) mousedown 1
+    for _ in {1..5}; do xdotool mousemove_relative 8 8; sleep 0.05; done
+    xdotool mouseup 1
+}
+at_first=$(where)
+has_moved() { [ "$(where)" != "$at_first" ]; }
+drag
+await "the window is not moved by its upper edge" has_moved
+
 open_popover
 sleep 0.6 # or it is a double click, which opens only
 click_item

@@ -195,7 +195,8 @@ HostResult findHost(const HostOptions& options) {
     host.ownBundle = {.identifier = "io.tidewell.Tidewell",
                       .version = TIDEWELL_VERSION,
                       .build = "1",
-                      .path = ownProgram()};
+                      .path = ownProgram(),
+                      .website = TIDEWELL_WEBSITE};
     const auto root = resolvedFolder(options.root.value_or("/"));
     if (!root) return failure("There is no folder " + *options.root);
     host.root = *root;

@@ -96,8 +96,9 @@ int start(int& count, char** words, const StartWish& wish) {
     SingleInstance instance(*found.host);
     if (instance.role() == SingleInstance::Role::later) return handOver(instance, wish);
     chooseFilmPlayer();
-    QLoggingCategory::setFilterRules("default.debug=false");  // the player tells what it tries
-    QApplication::setApplicationName("tidewell");
+    QLoggingCategory::setFilterRules("default.debug=false");   // the player tells what it tries
+    QApplication::setApplicationName("io.tidewell.Tidewell");  // the class of its windows on X11
+    QApplication::setApplicationDisplayName("Tidewell");
     QApplication::setDesktopFileName("io.tidewell.Tidewell");
     QApplication::setQuitOnLastWindowClosed(false);
     const auto setIcon = [] {

@@ -86,6 +86,7 @@ Modal {
             Surface {
                 width: parent.width
                 height: links.height + 12
+                visible: rows.count > 0
 
                 Column {
                     id: links
@@ -94,6 +95,7 @@ Modal {
                     width: parent.width - 12
 
                     Repeater {
+                        id: rows
                         model: root.screen.links
 
                         AboutLinkRow {

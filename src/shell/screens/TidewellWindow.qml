@@ -15,11 +15,24 @@ Window {
     minimumHeight: 680
     title: "Tidewell"
     color: Theme.base
+    flags: hasOwnFrame ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
+
+    /// Where the desktop lets a window move itself. Whether an X11 one does, it says when it is asked to.
+    property bool hasOwnFrame: Qt.platform.pluginName === "xcb"
+                               || Qt.platform.pluginName.startsWith("wayland")
 
     ContentView {
         id: content
         anchors.fill: parent
         screen: root.windowScreen
+    }
+
+    WindowFrame {
+        anchors.fill: parent
+        z: 1e7  // above the sheets too, or the window could not be moved while there is one
+        visible: root.hasOwnFrame
+        window: root
+        onFailed: root.hasOwnFrame = false
     }
 
     Shortcut {

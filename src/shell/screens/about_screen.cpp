@@ -12,12 +12,11 @@ AboutScreen::AboutScreen(std::shared_ptr<ContentView> view, QObject* parent)
               {"title", [](const AboutLink& link) { return toText(link.label); }}},
              this) {
     observe(view_->willChange);
-    const auto links = aboutLinks();
-    links_.set({links.begin(), links.end()});
+    links_.set(aboutLinks(view_->host().ownBundle.website));
 }
 
 void AboutScreen::openLink(int row) {
-    if (const auto* link = links_.at(row)) view_->workspace().openUrl(std::string(link->target));
+    if (const auto* link = links_.at(row)) view_->workspace().openUrl(link->target);
 }
 
 }  // namespace tidewell

@@ -1,6 +1,7 @@
 #include "shell/screens/welcome_content.h"
 
 #include <array>
+#include <string>
 
 namespace tidewell {
 
@@ -8,13 +9,12 @@ namespace {
 
 constexpr std::string_view shortVersionWithoutBundle = "1.0.0";
 
-/// The addresses are for whoever ships the program to settle. The reserved domain, which leads
-/// nowhere, stands for a website until then, and its pages lead on to those elsewhere.
-constexpr std::array links = std::to_array<AboutLink>({
-    {"globe", "Website", "https://tidewell.example/"},
-    {"camera.fill", "Instagram", "https://tidewell.example/instagram"},
-    {"play.rectangle.fill", "YouTube", "https://tidewell.example/youtube"},
-    {"hand.raised.fill", "Privacy Policy", "https://tidewell.example/privacy"},
+/// Below the website, whose pages lead on to those elsewhere.
+const std::array pages = std::to_array<AboutLink>({
+    {"globe", "Website", ""},
+    {"camera.fill", "Instagram", "instagram"},
+    {"play.rectangle.fill", "YouTube", "youtube"},
+    {"hand.raised.fill", "Privacy Policy", "privacy"},
 });
 
 }  // namespace
@@ -26,7 +26,10 @@ std::string versionLine(const OwnBundle& bundle) {
     return line;
 }
 
-std::span<const AboutLink> aboutLinks() {
+std::vector<AboutLink> aboutLinks(const std::string& website) {
+    if (website.empty()) return {};
+    std::vector<AboutLink> links(pages.begin(), pages.end());
+    for (auto& link : links) link.target = website + link.target;
     return links;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/host.h"
 
@@ -16,11 +16,12 @@ std::string versionLine(const OwnBundle& bundle);
 struct AboutLink {
     std::string_view symbol;
     std::string_view label;
-    std::string_view target;
+    std::string target;
 
     bool operator==(const AboutLink&) const = default;
 };
 
-std::span<const AboutLink> aboutLinks();
+/// To the pages of the website; none where there is no website.
+std::vector<AboutLink> aboutLinks(const std::string& website);
 
 }  // namespace tidewell
