@@ -57,6 +57,8 @@ TEST(UserDirs, TakesWhatNamesAFolderAndPassesOverTheRest) {
     machine.text("~/elsewhere", "XDG_MUSIC_DIR=\"$HOME/Klang\"\n");
     machine.link("~/.config/user-dirs.dirs", "../elsewhere");
     EXPECT_EQ(userDirs(host).size(), 2u);
+    machine.text("~/elsewhere", "XDG_MUSIC_DIR=\"$HOME/Klang\"\n" + std::string(1 << 20, '#'));
+    EXPECT_EQ(userDirs(host).size(), 1u) << "no desktop wrote that";
     EXPECT_TRUE(userDirs(machine.host()).empty()) << "not on such a machine";
 }
 
