@@ -70,7 +70,9 @@ Place atHome(RandomMachine& random) {
                                                random.machine.path("~/Documents/Thesis"),
                                                random.machine.path("~/.ssh")};
     auto scratch = anything;
-    scratch.push_back(random.machine.path(random.ground.scratch));
+    // One that leads out of the machine is the user's as well, where that machine is this one.
+    const auto own = random.machine.path(random.ground.scratch);
+    if (isBelow(fs::weakly_canonical(own).string(), random.machine.root())) scratch.push_back(own);
     Place place = {{"env", "--chdir=" + work, "HOME=" + random.machine.home(),
                     "TMPDIR=" + random.chance.oneOf(scratch)},
                    {}};
@@ -372,13 +374,17 @@ Findings Trial::clean(RandomMachine& random, Verb verb) {
     if (!done.findings.empty()) return done.findings;
 
     const auto after = snapshotOf(random);
+    const auto isOthersGround = [&](const std::string& path) {
+        return hasCompany(verb) &&
+               (rules.isInArea(path) || rules.isInArea(otherNameOf(random, path)));
+    };
     auto findings = losses(before, after, [&](const std::string& path) {
         if (kidnapper &&
             (kidnapper->changes(path) || kidnapper->changes(otherNameOf(random, path))))
             return true;
         return !isTreasure(random, path) &&
                (rules.mayGo(path) || rules.mayGo(otherNameOf(random, path)) ||
-                isOwnSettings(random, path) || (hasCompany(verb) && rules.isInArea(path)));
+                isOwnSettings(random, path) || isOthersGround(path));
     });
     if (kidnapper && kidnapper->losses() > 0)
         findings.push_back(

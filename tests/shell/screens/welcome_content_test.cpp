@@ -12,7 +12,8 @@ TEST(WelcomeContent, TellsTheVersionWithWhatTheBundleHas) {
         return versionLine({.identifier = {},
                             .version = std::move(version),
                             .build = std::move(build),
-                            .path = {}});
+                            .path = {},
+                            .website = {}});
     };
     EXPECT_EQ(line("2.4.1", "310"), "Version 2.4.1 (310)");
     EXPECT_EQ(line("2.4.1", ""), "Version 2.4.1");
