@@ -24,6 +24,7 @@ RunningApp runningApp(const RunningApplication& application) {
             .name = application.name.value_or("App"),
             .bundleID = application.bundleIdentifier,
             .url = application.bundlePath,
+            .iconFile = application.iconFile,
             .memoryBytes = memoryOf(application),
             .processCount = processCount(application),
             .process = application.process};

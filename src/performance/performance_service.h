@@ -18,6 +18,7 @@ struct RunningApp {
     std::string name;
     std::optional<std::string> bundleID;
     std::optional<std::string> url;  ///< the bundle's path
+    std::string iconFile = {};       ///< its picture's path; empty for none, and bundles
     ByteCount memoryBytes = 0;       ///< physical footprint, 0 if it could not be read
     /// How many processes the memory is of, where all of an application's are counted.
     std::optional<std::int64_t> processCount = std::nullopt;

@@ -29,6 +29,7 @@ struct RunningApplication {
     std::optional<std::string> bundleIdentifier;
     std::optional<std::string> bundlePath;  ///< absent for an application that is no bundle
     ActivationPolicy activationPolicy = ActivationPolicy::regular;
+    std::string iconFile = {};  ///< its picture's path; empty for none, and bundles
     /// All of it, `process` first, in the order of their start; empty where only that one counts.
     std::vector<ProcessIdentity> processes = {};
 };

@@ -106,8 +106,12 @@ TEST_F(RunningApplicationsTest, AreListedWhileOthersComeAndGo) {
 TEST_F(RunningApplicationsTest, AreFoundByDesktopEntriesOnTheUsersOwnMachine) {
     const auto home = machine.home();
     machine.text("~/.local/share/applications/org.example.Sketch.desktop",
-                 "[Desktop Entry]\nType=Application\nName=Sketch\nExec=\"" + home +
+                 "[Desktop Entry]\nType=Application\nName=Sketch\nIcon=sketch\nExec=\"" + home +
                      "/tools/my sketch\" %U\n[Desktop Action New]\nName=New\nExec=/bin/false\n");
+    machine.text("~/.local/share/applications/a-settings.desktop",
+                 "[Desktop Entry]\nType=Application\nName=Settings\nExec=\"" + home +
+                     "/tools/my sketch\" --settings\n");
+    machine.file("~/.local/share/icons/hicolor/scalable/apps/sketch.svg");
     machine.text(
         "~/share/applications/org.example.Sketch.desktop",
         "[Desktop Entry]\nType=Application\nName=System's\nExec=" + home + "/tools/other\n");
@@ -140,6 +144,8 @@ TEST_F(RunningApplicationsTest, AreFoundByDesktopEntriesOnTheUsersOwnMachine) {
     ASSERT_EQ(idsOf(applications), (std::vector{sketch.processId(), show.processId()}));
     EXPECT_EQ(applications[0].name, "Sketch");
     EXPECT_EQ(applications[0].bundleIdentifier, "org.example.Sketch");
+    EXPECT_EQ(applications[0].iconFile,
+              machine.path("~/.local/share/icons/hicolor/scalable/apps/sketch.svg"));
     EXPECT_EQ(applications[1].bundleIdentifier, "kde-Show");
 
     EXPECT_TRUE(runningApplications(machine.host()).empty());

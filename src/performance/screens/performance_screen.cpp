@@ -29,9 +29,10 @@ std::vector<ListModel<PanelChoice>::Role> panelRoles() {
     };
 }
 
-/// Empty for an application that is no bundle.
+/// Empty for an application that has neither a bundle nor a picture.
 QString iconAddress(const RunningApp& app) {
-    return app.url ? BundleIcons::address(*app.url) : QString();
+    const auto place = app.url.value_or(app.iconFile);
+    return place.empty() ? QString() : BundleIcons::address(place);
 }
 
 std::string appKey(const AppRow& row) {

@@ -49,6 +49,7 @@ RunningApplication asApplication(const KnownApplication& known) {
             .bundleIdentifier = known.id,
             .bundlePath = std::nullopt,
             .activationPolicy = known.activationPolicy,
+            .iconFile = known.icon,
             .processes = {}};
 }
 

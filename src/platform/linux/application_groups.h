@@ -16,6 +16,7 @@ struct KnownApplication {
     std::string name;
     std::string executable;  ///< the real location of what it starts; empty if that says nothing
     ActivationPolicy activationPolicy = ActivationPolicy::regular;
+    std::string icon = {};  ///< as its entry names it
 };
 
 /// What is asked of a process to tell whose it is.
@@ -27,9 +28,10 @@ struct ProcessFacts {
 };
 
 /// Sorts processes, given in the order of their start, into applications, given by their first
-/// process. A process belongs to the application that the desktop started its group for, else to
-/// the one whose executable it runs, else to its parent's. A flatpak or snap without an entry goes
-/// by its own name; any other group without one works in the background.
+/// process, with their icons as the entries name them. A process belongs to the application that
+/// the desktop started its group for, else to the one whose executable it runs, else to its
+/// parent's. A flatpak or snap without an entry goes by its own name; any other group without one
+/// works in the background.
 std::vector<RunningApplication> groupedApplications(const std::vector<ProcessFacts>& processes,
                                                     const std::vector<KnownApplication>& known);
 

@@ -1,7 +1,10 @@
 #include "platform/linux/desktop_applications.h"
 
+#include <algorithm>
+
 #include "platform/desktop_entry.h"
 #include "platform/files.h"
+#include "platform/icon_theme.h"
 #include "platform/linux/application_groups.h"
 #include "platform/linux/process_table.h"
 #include "platform/path_text.h"
@@ -23,14 +26,19 @@ std::string executableBehind(const Host& host, const DesktopEntry& entry) {
 }
 
 std::vector<KnownApplication> knownApplications(const Host& host) {
+    auto entries = applicationEntries(host);
+    // Of several that start one program people mean the one with the fewest words.
+    std::ranges::stable_sort(
+        entries, {}, [](const EntryFile& file) { return commandWords(file.entry.exec).size(); });
     std::vector<KnownApplication> known;
-    for (const auto& [id, path, entry] : applicationEntries(host)) {
+    for (const auto& [id, path, entry] : entries) {
         if (entry.isHidden) continue;
         known.push_back({.id = id,
                          .name = entry.name.value_or(id),
                          .executable = executableBehind(host, entry),
                          .activationPolicy = entry.isShownInMenus ? ActivationPolicy::regular
-                                                                  : ActivationPolicy::background});
+                                                                  : ActivationPolicy::background,
+                         .icon = entry.icon});
     }
     return known;
 }
@@ -45,7 +53,11 @@ std::vector<RunningApplication> desktopApplications(const Host& host) {
                                  .parent = process.parent,
                                  .executable = process.executable,
                                  .group = groupedApplication(process.identity.id)});
-    return groupedApplications(processes, knownApplications(host));
+    auto applications = groupedApplications(processes, knownApplications(host));
+    const auto folders = iconFolders(host);
+    for (auto& application : applications)
+        application.iconFile = tidewell::iconFile(host, application.iconFile, folders).value_or("");
+    return applications;
 }
 
 }  // namespace tidewell::linux_system
