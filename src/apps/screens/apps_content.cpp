@@ -104,6 +104,14 @@ std::string doneTitle(const UninstallResult& result) {
     return {};
 }
 
+/// What the system's own tool took is gone, and in no Trash.
+std::string doneLine(const UninstallResult& result) {
+    if (result.way == UninstallWay::ownTool && result.moved.empty())
+        return byteText(result.freedBytes) + " freed.";
+    return std::to_string(result.movedCount) + " items · " + byteText(result.freedBytes) +
+           ". Empty the Trash to lock it in.";
+}
+
 /// What moved can be put back, also where not all did.
 std::string_view undoLabel(const UninstallResult& result) {
     return result.moved.empty() ? std::string_view() : "Put Back";
@@ -124,8 +132,7 @@ ResultBanner resultBanner(const UninstallResult& result) {
         .tone = ResultBanner::Tone::success,
         .symbol = "checkmark.circle.fill",
         .title = doneTitle(result),
-        .line = std::to_string(result.movedCount) + " items · " + byteText(result.freedBytes) +
-                ". Empty the Trash to lock it in.",
+        .line = doneLine(result),
         .undoLabel = undoLabel(result),
     };
 }
