@@ -102,8 +102,10 @@ Answer ask(const std::string& program, const RandomMachine& random, const Words&
     }
     const auto ended = runProgram(words.front(), {words.begin() + 1, words.end()});
     if (killAfter && (!ended.status || ended.status == killed)) return {{}, {}, true};
-    if (!ended.status || *ended.status > 1)
-        return {{}, {"`" + orders.front() + "` ended badly: " + ended.errors}};
+    if (!ended.status || *ended.status > 1) {
+        const auto status = ended.status ? std::to_string(*ended.status) : "a signal";
+        return {{}, {"`" + orders.front() + "` ended with " + status + ": " + ended.errors}};
+    }
     auto document = parseJson(ended.output);
     if (!document) return {{}, {"`" + orders.front() + "` printed no JSON"}};
     return {std::move(*document), {}};
