@@ -1,0 +1,2 @@
+TEST(Guard, RefusesKeys) {}
+TEST_F(Guard, KeepsLinksAndMounts) {}
