@@ -140,17 +140,46 @@ TEST(Trash, LeavesWhatWasMovedAwayWithItsFolderAtTheLastMoment) {
                                 .folderPath = folder};
     const auto to = link_free::openPlace(machine.path("~/.Trash"));
     fs::rename(folder, machine.path("~/Documents"));
-    EXPECT_EQ(trash::moveWithoutOverwriting(seen, to.get(), "film"), ESTALE);
+    EXPECT_EQ(trash::moveWithoutOverwriting(seen, to.get(), "film", trash::Detour::byLink), ESTALE);
     EXPECT_TRUE(machine.has("~/Documents/film"));
 }
 
-TEST(Trash, SaysWhereAFileSystemCannotMoveWithoutOverwriting) {
+TEST(Trash, FindsAWayWhereAFileSystemKnowsNoMoveWithoutOverwriting) {
+    test::expectInSeparateProcess([] {
+        const SampleMachine machine;
+        machine.text("~/Movies/film", "mine");
+        machine.text("~/Movies/reel/film", "x");
+        machine.text("~/.Trash/film", "other");
+        machine.text("~/.Trash/reel", "other");
+        if (!test::refuseCall(SYS_renameat2, EINVAL)) GTEST_SKIP() << "may not filter calls";
+        for (const std::string name : {"film", "reel"}) {
+            const auto moved = trashAt(machine, "~/Movies/" + name).moved;
+            ASSERT_TRUE(moved);
+            EXPECT_EQ(moved->path, machine.path("~/.Trash/" + name + " 2"));
+            EXPECT_EQ(machine.contentOf("~/.Trash/" + name), "other");
+            machine.text("~/Movies/" + name, "new");
+            EXPECT_EQ(putBack(*moved, machine.host()).problem, "Something stands there already.");
+            EXPECT_EQ(machine.contentOf("~/Movies/" + name), "new");
+            machine.remove("~/Movies/" + name);
+            EXPECT_EQ(putBack(*moved, machine.host()).problem, "");
+        }
+        EXPECT_EQ(machine.contentOf("~/Movies/film"), "mine");
+        EXPECT_TRUE(machine.has("~/Movies/reel/film"));
+        EXPECT_FALSE(machine.has("~/.Trash/film 2") || machine.has("~/.Trash/reel 2"));
+    });
+}
+
+/// What was made for an entry that does not come is not left standing.
+TEST(Trash, SaysWhereAFileSystemKnowsNoWayAtAll) {
     test::expectInSeparateProcess([] {
         const SampleMachine machine;
         machine.text("~/Movies/film", "x");
-        if (!test::refuseCall(SYS_renameat2, EINVAL)) GTEST_SKIP() << "may not filter calls";
-        expectStays(machine, "~/Movies/film",
-                    "The disk's file system cannot move it without overwriting.");
+        machine.text("~/Movies/reel/film", "x");
+        if (!test::refuseCall(SYS_renameat2, EINVAL) || !test::refuseCall(SYS_renameat, EINVAL))
+            GTEST_SKIP() << "may not filter calls";
+        for (const auto* path : {"~/Movies/film", "~/Movies/reel"})
+            expectStays(machine, path,
+                        "The disk's file system cannot move it without overwriting.");
         EXPECT_FALSE(machine.has("~/.Trash"));
     });
 }

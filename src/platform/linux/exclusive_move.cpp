@@ -20,12 +20,14 @@ bool liesWhereSeen(const SeenPlace& seen) {
 
 }  // namespace
 
-int moveWithoutOverwriting(const SeenPlace& from, int folder, const std::string& name) {
+int moveWithoutOverwriting(const SeenPlace& from, int folder, const std::string& name,
+                           Detour detour) {
     if (!liesWhereSeen(from)) return ESTALE;
     const int result = ::renameat2(from.place.folder.get(), from.place.name.c_str(), folder,
                                    name.c_str(), RENAME_NOREPLACE);
     if (result == 0) return 0;
-    return errno == ENOSYS ? EINVAL : errno;
+    const bool isUnknown = errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+    return isUnknown ? moveByDetour(from.place, folder, name, detour) : errno;
 }
 
 /// By a path below the descriptor, since the entry may not be one that can be opened.

@@ -107,7 +107,7 @@ class DesktopTrash final : public OpenTrash {
     int takeAs(const std::string& name, const SeenPlace& item, const std::string& text) {
         int error = writeNewFile(info_.get(), infoName(name), text);
         if (error != 0) return error;
-        error = moveWithoutOverwriting(item, files_.get(), name);
+        error = moveWithoutOverwriting(item, files_.get(), name, Detour::overPlaceholder);
         if (error != 0) ::unlinkat(info_.get(), infoName(name).c_str(), 0);
         return error;
     }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/posix/link_free.h"
+#include "platform/trash/detour.h"
 
 namespace tidewell::trash {
 
@@ -14,9 +15,11 @@ struct SeenPlace {
 };
 
 /// Moves an entry to a place on the same volume where nothing may stand. Never overwrites, also not
-/// what appears there at that very moment. 0, or the error: EEXIST if something stands there,
-/// EINVAL if the file system cannot promise it, ESTALE if the entry's folder lies elsewhere by now.
-int moveWithoutOverwriting(const SeenPlace& from, int folder, const std::string& name);
+/// what appears there at that very moment; on a file system that cannot promise it, by the detour.
+/// 0, or the error: EEXIST if something stands there, EINVAL if there is no detour either, ESTALE
+/// if the entry's folder lies elsewhere by now.
+int moveWithoutOverwriting(const SeenPlace& from, int folder, const std::string& name,
+                           Detour detour);
 
 // Where an entry came from, kept with it; as well as the file system allows. Links keep nothing.
 inline constexpr auto originAttribute = "user.tidewell.origin";

@@ -38,7 +38,8 @@ class MacosTrash final : public OpenTrash {
         const auto limit = longestNameIn(folder_.get());
         for (int number = 1;; ++number) {
             const auto name = trashName(item.place.name, number, limit);
-            const int error = moveWithoutOverwriting(item, folder_.get(), name);
+            const int error =
+                moveWithoutOverwriting(item, folder_.get(), name, Detour::overPlaceholder);
             if (error == EEXIST) continue;
             if (error != 0) return problemOf(error);
             noteOrigin(folder_.get(), name, departure.origin);

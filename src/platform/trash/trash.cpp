@@ -118,7 +118,8 @@ OrProblem<std::string> putBackOrSayWhy(const TrashedItem& item, const Host& host
         .place = {.folder = Descriptor(::fcntl(trash.entries(), F_DUPFD_CLOEXEC, 0)),
                   .name = item.name},
         .folderPath = std::string(parentPath(item.path))};
-    const int error = trash::moveWithoutOverwriting(from, to.folder.get(), to.name);
+    const int error =
+        trash::moveWithoutOverwriting(from, to.folder.get(), to.name, trash::Detour::byLink);
     if (error != 0) return problemOf(error);
     folders.keep();
     trash.forget(item, to);
