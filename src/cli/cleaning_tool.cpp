@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "cleanup/screens/scan_content.h"
-#include "cli/interruption.h"
 #include "cli/progress_line.h"
 #include "cli/report.h"
+#include "platform/interruption.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {

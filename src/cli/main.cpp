@@ -7,6 +7,7 @@
 #include "kit/left_out.h"
 #include "platform/silent_mounts.h"
 #include "platform/terminal.h"
+#include "platform/termination.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {
@@ -57,6 +58,7 @@ int runWords(int count, char** words) {
 
 int main(int count, char** words) {
     tidewell::keepStandardStreamsApart();
+    tidewell::outliveForbiddenWrites();
     try {
         return tidewell::cli::runWords(count, words);
     } catch (...) {

@@ -9,4 +9,8 @@ namespace tidewell {
 /// descriptor is to be had. To be called once, on the main thread.
 void hearTermination(std::function<void()> asked);
 
+/// From then on a write beyond a limit of size fails, instead of ending the process. To be called
+/// first of all.
+void outliveForbiddenWrites();
+
 }  // namespace tidewell

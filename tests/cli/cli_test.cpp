@@ -135,12 +135,14 @@ TEST(CommandLine, OpensNothingInThePlaceOfAStandardStreamThatIsClosed) {
     }
 }
 
-/// A watcher beside it sends the interrupt as soon as the first of many items is gone.
-ProgramRun interruptedWhenGone(const SampleMachine& machine, const std::string& path, Words words) {
+/// A watcher beside it sends the interrupts as soon as the first of
+/// many items is gone.
+ProgramRun interruptedWhenGone(const SampleMachine& machine, const std::string& path, Words words,
+                               const std::string& signals = "INT") {
     words.insert(words.begin(),
                  {"-c",
-                  "(while [ -e \"$0\" ] && kill -0 $$; do :; done; kill -INT $$) >/dev/null & "
-                  "exec \"$@\"",
+                  "(while [ -e \"$0\" ] && kill -0 $$; do :; done; for signal in " + signals +
+                      "; do kill -$signal $$; done) >/dev/null & exec \"$@\"",
                   path, TIDEWELL_CLI, "--root", machine.root()});
     return test::runProgram("/bin/sh", words);
 }
@@ -162,15 +164,16 @@ TEST(CommandLine, StopsMovesToTheTrashBehindTheItemInHandOnAFirstInterrupt) {
     EXPECT_TRUE(machine.has("~/Games/" + std::to_string(count - 1)));
 }
 
-TEST(CommandLine, StopsACleanBehindTheItemInHandOnAFirstInterrupt) {
+void expectStopsBehindTheItemInHand(const std::string& signals) {
+    SCOPED_TRACE(signals);
     const SampleMachine machine;
     constexpr int count = 150;
     for (int i = 0; i < count; ++i)
         for (int j = 0; j < 10; ++j)
             machine.text("~/Code/" + std::to_string(i) + "/node_modules/" + std::to_string(j), "x");
     machine.file("~/.npm/one", megabyte);  // the largest goes first
-    const auto ended =
-        interruptedWhenGone(machine, machine.path("~/.npm/one"), {"--json", "clean", "--yes"});
+    const auto ended = interruptedWhenGone(machine, machine.path("~/.npm/one"),
+                                           {"--json", "clean", "--yes"}, signals);
     EXPECT_EQ(ended.status, 1);
     const auto document = parseJson(ended.output).value_or(Value());
     int left = 0;
@@ -181,6 +184,11 @@ TEST(CommandLine, StopsACleanBehindTheItemInHandOnAFirstInterrupt) {
     }
     EXPECT_GT(left, 0);
     EXPECT_EQ(*at(document, "freedBytes").integer(), megabyte + (count - left) * 10 * 4096);
+}
+
+TEST(CommandLine, StopsACleanBehindTheItemInHandOnAFirstInterrupt) {
+    for (const auto* signals : {"INT", "TERM HUP", "HUP HUP", "PIPE PIPE"})
+        expectStopsBehindTheItemInHand(signals);
 }
 
 TEST(CommandLine, TellsHowMuchCouldNotBeReadWhereThatIsTold) {

@@ -35,6 +35,14 @@ TEST(Scarcity, ACleanNeedsNoThreads) {
               200 * 4096);
 }
 
+TEST(Scarcity, ACleanEndsByItselfWhereNothingCanBeWritten) {
+    const SampleMachine machine;
+    machine.file("~/.npm/one", 4096);
+    const auto ended = runUnder("ulimit -f 0", machine);
+    EXPECT_EQ(ended.status, 0) << ended.output;
+    EXPECT_FALSE(machine.has("~/.npm/one"));
+}
+
 }  // namespace
 
 }  // namespace tidewell

@@ -1,10 +1,10 @@
 #include "advisor/screens/advisor_content.h"
 #include "cli/commands/commands.h"
-#include "cli/interruption.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "kit/words.h"
 #include "platform/dates.h"
+#include "platform/interruption.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {

@@ -2,13 +2,13 @@
 
 #include "apps/screens/apps_content.h"
 #include "cli/commands/commands.h"
-#include "cli/interruption.h"
 #include "cli/progress_line.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
 #include "kit/words.h"
 #include "platform/dates.h"
+#include "platform/interruption.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {

@@ -1,10 +1,10 @@
 #include "cli/commands/commands.h"
-#include "cli/interruption.h"
 #include "cli/progress_line.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "deepscan/screens/deep_scan_content.h"
 #include "kit/byte_text.h"
+#include "platform/interruption.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {

@@ -2,12 +2,12 @@
 #include <iterator>
 
 #include "cli/commands/commands.h"
-#include "cli/interruption.h"
 #include "cli/report.h"
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
 #include "platform/dates.h"
 #include "platform/freed_usage.h"
+#include "platform/interruption.h"
 #include "platform/removal.h"
 #include "platform/text.h"
 

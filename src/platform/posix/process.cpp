@@ -57,8 +57,7 @@ class PlainStart {
         sigset_t signals;
         sigemptyset(&signals);
         ::posix_spawnattr_setsigmask(&attributes_, &signals);
-        sigaddset(&signals, SIGPIPE);
-        sigaddset(&signals, SIGCHLD);
+        for (const int signal : {SIGPIPE, SIGCHLD, SIGXFSZ}) sigaddset(&signals, signal);
         ::posix_spawnattr_setsigdefault(&attributes_, &signals);
         int flags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
         if (group == Group::itsOwn) flags |= POSIX_SPAWN_SETPGROUP;

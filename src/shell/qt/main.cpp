@@ -10,6 +10,7 @@
 #include "kit/qt/motion.h"
 #include "platform/reduced_motion.h"
 #include "platform/single_instance.h"
+#include "platform/termination.h"
 #include "shell/qt/film_player.h"
 #include "shell/qt/main_window.h"
 #include "shell/qt/qt_main_loop.h"
@@ -129,6 +130,7 @@ int run(int& count, char** words) {
 }  // namespace tidewell
 
 int main(int count, char** words) {
+    tidewell::outliveForbiddenWrites();
     try {
         return tidewell::run(count, words);
     } catch (const std::exception& problem) {
