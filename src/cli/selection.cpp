@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
+#include "platform/path_text.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {
@@ -33,6 +35,10 @@ std::variant<std::size_t, WrongCall> findById(const std::vector<std::string>& id
     if (shown.size() == 1) return shown.front();
     const std::string problem = shown.empty() ? "There is no " : "There is more than one ";
     return WrongCall{problem + std::string(what) + " with the id " + terminalText(wanted)};
+}
+
+std::string namedPath(const std::string& word, const Host& host) {
+    return host.throughHome(standardizedPath(absolutePath(word)));
 }
 
 std::variant<std::set<std::string>, WrongCall> selectedIds(const CleanupItems& items,

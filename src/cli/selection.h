@@ -24,6 +24,9 @@ struct SelectionWish {
 std::variant<std::size_t, WrongCall> findById(const std::vector<std::string>& ids,
                                               const std::string& wanted, std::string_view what);
 
+/// The path that a word of a call names: absolute, standardised, through the home folder.
+std::string namedPath(const std::string& word, const Host& host);
+
 /// The ids to tick. Unknown ids are a wrong call.
 std::variant<std::set<std::string>, WrongCall> selectedIds(const CleanupItems& items,
                                                            const SelectionWish& wish);

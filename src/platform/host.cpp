@@ -25,8 +25,13 @@ std::string Host::systemPath(std::string_view absolute) const {
 }
 
 std::string Host::pathNamedInside(std::string_view absolute) const {
-    auto path = standardizedPath(absolute);
-    return isAtOrBelow(path, root) ? path : systemPath(path);
+    const auto path = standardizedPath(absolute);
+    return throughHome(isAtOrBelow(path, root) ? path : systemPath(path));
+}
+
+std::string Host::throughHome(std::string_view path) const {
+    if (namedHome.empty() || !isAtOrBelow(path, namedHome)) return std::string(path);
+    return home + std::string(path.substr(namedHome.size()));
 }
 
 std::string Host::expand(std::string_view path) const {

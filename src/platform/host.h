@@ -37,6 +37,7 @@ struct Host {
     System system = System::macOS;  ///< which one laid the machine out
     std::string root;               ///< folder in which absolute system paths are looked up
     std::string home;               ///< the user's home folder
+    std::string namedHome;  ///< what the user or his environment calls it, if links lead from there
     HomeOwner homeOwner = HomeOwner::user;
     BaseFolders baseFolders;
     std::string temporaryDirectory;      ///< the user's own scratch folder; empty if there is none
@@ -50,8 +51,11 @@ struct Host {
     /// outside `root`.
     std::string toolPath(std::string_view absolute) const;
     /// An absolute path that a file of the machine names: as it stands if it lies below `root`,
-    /// else looked up there.
+    /// else looked up there; through `home`.
     std::string pathNamedInside(std::string_view absolute) const;
+    /// The same path, beginning with `home` where it begins with `namedHome`: as other programs,
+    /// and the user, name what lies there.
+    std::string throughHome(std::string_view path) const;
     /// A leading "~" replaced by `home`, and a leading "{cache}", "{config}", "{data}" or "{state}"
     /// by that base folder; every other path as it is.
     std::string expand(std::string_view path) const;

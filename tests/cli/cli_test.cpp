@@ -269,6 +269,22 @@ TEST(CommandLine, PutsBackWhatIsNamedAndNothingThatTwoThingsAreCalled) {
     EXPECT_TRUE(machine.has("~/.Trash/big/assets") && machine.has("~/.Trash/of others"));
 }
 
+TEST(CommandLine, TakesAPathAsItsUserNamesIt) {
+    const SampleMachine machine;
+    machine.file("~/Games/big/assets", 90 * megabyte);
+    machine.link("/Users/link", machine.home());
+    const auto game = machine.path("/Users/link") + "/Games/big";
+    const auto call = [&](Words words) {
+        words.insert(words.end(), {"--home", machine.path("/Users/link")});
+        return run(machine, words);
+    };
+    EXPECT_NE(call({"explain", game}).output.find("(open-folder)"), std::string::npos);
+    EXPECT_EQ(call({"trash", game, "--yes"}).status, 0);
+    EXPECT_FALSE(machine.has("~/Games/big"));
+    EXPECT_EQ(call({"put-back", game, "--yes"}).status, 0);
+    EXPECT_TRUE(machine.has("~/Games/big/assets"));
+}
+
 TEST(CommandLine, UninstallsByIdOrPathAndRefusesAnIdThatTwoShare) {
     const FurnishedMachine machine;
     machine.application("~/Applications/Notes Copy.app",

@@ -91,6 +91,17 @@ TEST_F(HostTest, LeavesTheCallersScratchFolderAloneWhereAnotherHomeIsGiven) {
     EXPECT_EQ(found({.root = folder.path() + "/machine"}).temporaryDirectory, "");
 }
 
+TEST_F(HostTest, TakesThePathsBelowTheHomesOtherNameForThoseBelowIt) {
+    const auto link = folder.path() + "/link";
+    fs::create_directory_symlink(home, link);
+    ::setenv("HOME", (link + "/").c_str(), 1);
+    const auto host = found({});
+    EXPECT_EQ(host.home, home);
+    EXPECT_EQ(host.pathNamedInside(link + "/Games/x"), home + "/Games/x");
+    EXPECT_EQ(host.throughHome(link), home);
+    EXPECT_EQ(host.throughHome(link + "s/x"), link + "s/x");
+}
+
 TEST_F(HostTest, RefusesAHomeFolderThatWouldOpenTheMachine) {
     const auto machine = made("machine");
     fs::create_directories(machine + "/usr/lib");

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "cli/commands/commands.h"
 #include "cli/progress_line.h"
 #include "cli/report.h"
@@ -63,7 +65,9 @@ std::variant<std::vector<BigItem>, WrongCall> wantedItems(const DeepScanViewMode
     std::set<std::size_t> seen;
     std::vector<BigItem> wanted;
     for (const auto& word : words) {
-        const auto place = findById(ids, word, "item in this scan");
+        const auto path = namedPath(word, model.host);
+        const bool isPath = std::ranges::find(ids, path) != ids.end();
+        const auto place = findById(ids, isPath ? path : word, "item in this scan");
         if (const auto* wrong = std::get_if<WrongCall>(&place)) return *wrong;
         const auto index = std::get<std::size_t>(place);
         if (seen.insert(index).second) wanted.push_back(model.items()[index]);

@@ -4,11 +4,11 @@
 #include "cleanup/target_catalogue.h"
 #include "cli/commands/commands.h"
 #include "cli/report.h"
+#include "cli/selection.h"
 #include "cli/shapes.h"
 #include "deepscan/screens/deep_scan_content.h"
 #include "kit/byte_text.h"
 #include "platform/freed_usage.h"
-#include "platform/path_text.h"
 #include "platform/text.h"
 
 namespace tidewell::cli {
@@ -95,7 +95,7 @@ std::vector<std::string> claimingRows(const std::string& path, const Host& host)
 }
 
 Explanation explain(const std::string& word, const Host& host) {
-    const auto path = standardizedPath(absolutePath(word));
+    const auto path = namedPath(word, host);
     const auto fact = FolderKnowledge::fact(path, host);
     return {
         .path = path,

@@ -3,6 +3,7 @@
 
 #include "cli/commands/commands.h"
 #include "cli/report.h"
+#include "cli/selection.h"
 #include "cli/shapes.h"
 #include "kit/byte_text.h"
 #include "platform/dates.h"
@@ -27,14 +28,17 @@ bool isCalled(const std::optional<std::string>& bytes, const std::string& word) 
 }
 
 /// By its name in the Trash, by where it came from, or by where it lies.
-bool isMeant(const TrashedItem& item, const std::string& word) {
-    return isCalled(item.name, word) || isCalled(item.origin, word) || isCalled(item.path, word);
+bool isMeant(const TrashedItem& item, const std::string& word, const std::string& path) {
+    return isCalled(item.name, word) || isCalled(item.origin, word) || isCalled(item.path, word) ||
+           item.origin == path || item.path == path;
 }
 
-std::variant<TrashedItem, WrongCall> findItem(const Items& items, const std::string& word) {
+std::variant<TrashedItem, WrongCall> findItem(const Items& items, const std::string& word,
+                                              const Host& host) {
+    const auto path = namedPath(word, host);
     Items found;
     std::ranges::copy_if(items, std::back_inserter(found),
-                         [&word](const TrashedItem& item) { return isMeant(item, word); });
+                         [&](const TrashedItem& item) { return isMeant(item, word, path); });
     if (found.size() == 1) return found.front();
     if (found.empty())
         return WrongCall{"Nothing in the Trash is called or came from " + terminalText(word)};
@@ -45,10 +49,11 @@ std::variant<TrashedItem, WrongCall> findItem(const Items& items, const std::str
 }
 
 std::variant<Items, WrongCall> wantedItems(const Items& items,
-                                           const std::vector<std::string>& words) {
+                                           const std::vector<std::string>& words,
+                                           const Host& host) {
     Items wanted;
     for (const auto& word : words) {
-        auto item = findItem(items, word);
+        auto item = findItem(items, word, host);
         if (const auto* wrong = std::get_if<WrongCall>(&item)) return *wrong;
         auto& found = std::get<TrashedItem>(item);
         if (std::ranges::find(wanted, found) == wanted.end()) wanted.push_back(std::move(found));
@@ -128,7 +133,7 @@ ExitStatus putAllBack(const Context& context, const Items& items) {
 Outcome runPutBack(const Context& context, const PutBackCall& call) {
     const auto items = trashedItems(context.host);
     if (call.names.empty()) return list(context, items);
-    const auto wanted = wantedItems(items, call.names);
+    const auto wanted = wantedItems(items, call.names, context.host);
     if (const auto* wrong = std::get_if<WrongCall>(&wanted)) return *wrong;
     const auto& found = std::get<Items>(wanted);
     return call.consent == Consent::given ? putAllBack(context, found) : reportPlan(context, found);

@@ -159,6 +159,8 @@ HostResult withRealHome(Host host) {
     const auto place = host.root == "/" ? *home : home->substr(host.root.size());
     if (!canBeHome(place)) return failure(*home + " belongs to the system: it is no home folder");
     host.home = *home;
+    if (const auto name = standardizedPath(absolutePath(named)); name != *home)
+        host.namedHome = name;
     host.homeOwner = ownerOf(host.home);
     return {.host = std::move(host), .problem = {}};
 }
