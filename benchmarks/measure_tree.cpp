@@ -4,8 +4,8 @@
 
 #include "platform/disk_usage.h"
 #include "platform/linux/folder_measurer.h"
-#include "platform/linux/work_pool.h"
 #include "platform/posix/reach.h"
+#include "platform/posix/work_pool.h"
 
 namespace {
 
@@ -13,9 +13,9 @@ using namespace tidewell;
 
 /// Without the process's own pool, whose width follows from the machine.
 ByteCount measuredBy(int threads, const char* path) {
-    auto& pool = linux_system::WorkPool::make(threads);
-    const linux_system::Measuring how{.helpers = linux_system::Helpers::welcome};
-    return linux_system::usageBelow(pool, posix::openFolder(path), how).bytes;
+    auto& pool = posix::WorkPool::make(threads);
+    const posix::Measuring how{.helpers = posix::Helpers::welcome};
+    return posix::usageBelow(pool, posix::openFolder(path), how).bytes;
 }
 
 }  // namespace

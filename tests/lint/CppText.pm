@@ -6,7 +6,12 @@ package CppText;
 use strict;
 use warnings;
 use Exporter 'import';
-our @EXPORT = qw(sources code textOf lineAt complain verdict);
+our @EXPORT = qw(hosts sources code textOf lineAt complain verdict);
+
+# The systems that the program can be built for: each has a folder below src/platform/.
+sub hosts {
+    return qw(linux macos);
+}
 
 my $complaints = 0;
 

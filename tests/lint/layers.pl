@@ -7,14 +7,16 @@ use warnings;
 use lib $0 =~ s{[^/]*$}{}r . q{.};
 use CppText;
 
+my $hosts = join '|', hosts();
+
 # Headers in angle brackets that a file may not include.
 sub refusedHeader {
     my ($file, $header) = @_;
     if ($header =~ /^Q[A-Z]/ || $header =~ /^Qt/) {
         return $file !~ m{^src/(?:kit|shell)/qt/} && $file !~ m{_screen\.(?:h|cpp)$};
     }
-    return 0 if $file =~ m{^src/platform/linux/};
-    return $header =~ m{^linux/|^sys/(?:syscall|xattr|vfs|statfs|sysinfo|pidfd|inotify)\.h$|^mntent\.h$}
+    return 0 if $file =~ m{^src/platform/(?:$hosts)/};
+    return $header =~ m{^(?:linux|mach|objc)/|^sys/(?:attr|inotify|mount|pidfd|statfs|sysctl|sysinfo|syscall|vfs|xattr)\.h$|^(?:libproc|mntent)\.h$}
         if $file =~ m{^src/platform/(?:posix|trash)/};
     return 0 if $file =~ m{^src/platform/(?:\w+\.cpp$|\w+/)} && $header =~ m{^(?:unicode/|nlohmann/|expat\.h$)};
     return 0 if $file =~ m{^src/cli/} && $header =~ m{^CLI/};
@@ -45,7 +47,7 @@ for my $file (sources($root, 'src')) {
         complain($file, $line, "includes are written from src/ on: \"$own\"")
             if defined $own && $own =~ m{^\.\.?/};
         complain($file, $line, "what one host answers is asked for by its contract: \"$own\"")
-            if defined $own && $own =~ m{^platform/linux/} && $file !~ m{^src/platform/linux/};
+            if defined $own && $own =~ m{^(platform/(?:$hosts)/)} && $file !~ m{^src/\Q$1\E};
     }
     next if $file =~ m{^src/platform/};
     while ($code =~ /\b(?:secure_getenv|getenv|qgetenv|environ|qEnvironmentVariable\w*)\b/g) {

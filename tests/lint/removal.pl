@@ -7,15 +7,17 @@ use warnings;
 use lib $0 =~ s{[^/]*$}{}r . q{.};
 use CppText;
 
+my $hosts = join '|', hosts();
+
 my %doors = (
     removing => [
-        qr{^src/platform/linux/(?:removal\w*|exclusive_move)\.cpp$},
+        qr{^src/platform/(?:posix|$hosts)/(?:exclusive_move|removal|unlinking)\.cpp$},
         qr{^src/platform/trash/\w+\.cpp$},
         qr{^src/platform/\w+/user_defaults\.cpp$},
         qr{^src/platform/\w+/single_instance\.cpp$},  # a socket that an earlier start left behind
     ],
     writing => [
-        qr{^src/platform/linux/(?:removal\w*|exclusive_move)\.cpp$},
+        qr{^src/platform/(?:$hosts)/exclusive_move\.cpp$},
         qr{^src/platform/trash/\w+\.cpp$},
         qr{^src/platform/\w+/user_defaults\.cpp$},
         qr{^src/platform/\w+/process\.cpp$},  # a tool's output to the null device
@@ -27,7 +29,7 @@ my %doors = (
 
 # A name with "(" behind it is a call of a function, not of an object's member.
 my @rules = (
-    [removing => qr/(?<![\w.>])(?:unlink|unlinkat|rmdir|rename|renameat2?|remove|remove_all)\s*\(/],
+    [removing => qr/(?<![\w.>])(?:unlink|unlinkat|rmdir|rename|renameat2?|renamex_np|renameatx_np|remove|remove_all)\s*\(/],
     [removing => qr/\bSYS_(?:unlink|rename|rmdir)\w*/],
     [removing => qr/\b(?:fs|filesystem)::(?:remove|rename|resize_file)\w*/],
     [writing => qr/\bO_(?:WRONLY|RDWR|CREAT|TRUNC|APPEND|TMPFILE)\b/],

@@ -1,4 +1,4 @@
-#include "platform/linux/work_pool.h"
+#include "platform/posix/work_pool.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <thread>
 #include <vector>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 namespace {
 
 /// Counts what is done, in halves that are given away, and fails where it is told to.
@@ -67,4 +67,4 @@ TEST(WorkPool, FailsTheJobOfAShareThatFailsAndNoOther) {
 }
 
 }  // namespace
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -7,10 +7,11 @@
 #include <cerrno>
 #include <utility>
 
-#include "platform/linux/descriptor_limit.h"
+#include "platform/posix/descriptor_limit.h"
+#include "platform/posix/folder_identity.h"
 #include "platform/posix/reach.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 namespace {
 
 constexpr ByteCount bytesPerBlock = 512;
@@ -254,4 +255,4 @@ void FolderMeasurer::shareRestOfPortion(const FolderWork& work, std::size_t next
     measure_.job.offer(std::make_unique<FolderMeasurer>(measure_, std::move(part)));
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

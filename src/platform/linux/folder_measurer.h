@@ -8,14 +8,14 @@
 #include <vector>
 
 #include "platform/disk_usage.h"
-#include "platform/linux/folder_reader.h"
-#include "platform/linux/folder_work.h"
-#include "platform/linux/link_table.h"
-#include "platform/linux/way_down.h"
-#include "platform/linux/work_pool.h"
 #include "platform/measured_folders.h"
+#include "platform/posix/folder_reader.h"
+#include "platform/posix/folder_work.h"
+#include "platform/posix/link_table.h"
+#include "platform/posix/way_down.h"
+#include "platform/posix/work_pool.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// Adds a file, if it is a regular one. With a table, one with several names counts when all of
 /// them were met, and its `linkedBytes` are what is shared.
@@ -32,7 +32,7 @@ struct Measuring {
 };
 
 /// Measures all regular files below an open folder. Blocks until the end.
-DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, const Measuring& how);
+DiskUsage usageBelow(WorkPool& pool, const Descriptor& folder, const Measuring& how);
 
 /// What the threads that work on one measure have in common.
 struct Measure {
@@ -78,4 +78,4 @@ class FolderMeasurer : public Share {
     std::vector<const char*> portion_;  ///< the regular files among the entries just read
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -6,6 +6,7 @@ void refused(const std::string& path) {
     rmdir(path.c_str());                                     // caught
     std::rename(path.c_str(), "y");                          // caught
     ::renameat2(1, "x", 2, "y", 0);                          // caught
+    ::renameatx_np(1, "x", 2, "y", 0);                       // caught
     std::remove(path.c_str());                               // caught
     std::filesystem::remove_all(path);                       // caught
     fs::remove(path);                                        // caught

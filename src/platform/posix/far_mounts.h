@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// A mount that another machine or a program stands behind.
 struct FarMount {
@@ -40,4 +40,4 @@ class MountQuestions {
     std::set<FarMount> open_;
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

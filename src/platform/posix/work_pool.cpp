@@ -1,10 +1,10 @@
-#include "platform/linux/work_pool.h"
+#include "platform/posix/work_pool.h"
 
 #include <algorithm>
 #include <thread>
 #include <utility>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 void Job::run(std::unique_ptr<Share> first) {
     WorkPool::Lock lock(pool_.mutex_);
@@ -113,4 +113,4 @@ void WorkPool::updateAppetite() {
     appetite_.store(room < 0 ? room : std::max(0, room - waiting), std::memory_order_relaxed);
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -4,18 +4,18 @@
 #include <array>
 #include <vector>
 
-#include "platform/linux/way_down.h"
 #include "platform/path_text.h"
 #include "platform/posix/folder_listing.h"
 #include "platform/posix/reach.h"
+#include "platform/posix/way_down.h"
 
 namespace tidewell {
 namespace {
 
-using linux_system::FolderPointer;
-using linux_system::OpenFolder;
-using linux_system::TreeFolder;
 using posix::Descriptor;
+using posix::FolderPointer;
+using posix::OpenFolder;
+using posix::TreeFolder;
 
 /// How many folders on the way down to the current one are held open.
 constexpr std::size_t heldFolders = 16;
@@ -41,7 +41,7 @@ class FolderWalk {
 
     void run() {
         auto opened = posix::openFolder(path_);
-        const auto which = linux_system::mountedFolder(opened.get());
+        const auto which = posix::mountedFolder(opened.get());
         if (!which) return;
         const auto top = FolderPointer<TreeFolder>::top(*which);
         const auto open = top->hold(std::move(opened));
@@ -76,7 +76,7 @@ class FolderWalk {
         const auto& parent = entered_.last();
         auto opened = posix::openSubfolder(parent.descriptor->get(), name);
         if (!opened) return false;
-        const auto which = linux_system::mountedFolder(opened.get());
+        const auto which = posix::mountedFolder(opened.get());
         if (!which || parent.folder->isLoop(*which)) return false;
         const auto folder = parent.folder.below(name, *which);
         return enter(folder, folder->hold(std::move(opened)));
@@ -109,7 +109,7 @@ class FolderWalk {
     std::string path_;
     const HiddenEntries hidden_;
     const std::function<Descent(const WalkEntry&)>& visit_;
-    linux_system::WayDown<EnteredFolder> entered_{heldFolders};
+    posix::WayDown<EnteredFolder> entered_{heldFolders};
 };
 
 constexpr std::array<std::string_view, 30> packageExtensions = {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string_view>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// An entry as a folder tells it.
 struct ReadEntry {
@@ -22,6 +22,10 @@ class FolderReader {
  public:
     enum class Reading { portion, end, failed };
 
+    /// Whether a reading that goes on after entries were removed meets all the others. Where it may
+    /// miss some, a folder is read to its end before anything in it is removed.
+    static const bool outlivesRemoval;
+
     /// Reads on where the descriptor stands; a folder that was removed meanwhile is at its end. A
     /// portion may be of any size: only an empty one tells the end.
     Reading readPortion(int folder);
@@ -30,25 +34,17 @@ class FolderReader {
     /// hold until the next portion.
     template <class Visit>
     void forEachEntry(const Visit& visit) const {
+        ReadEntry entry{};
         for (std::size_t at = 0; at < filled_;) {
-            const auto* record = reinterpret_cast<const Record*>(buffer_.get() + at);
-            at += record->length;
-            const std::string_view name = record->name;
-            if (name != "." && name != "..")
-                visit(
-                    ReadEntry{.name = record->name, .type = record->type, .inode = record->inode});
+            at = takeEntry(at, entry);
+            const std::string_view name = entry.name;
+            if (name != "." && name != "..") visit(entry);
         }
     }
 
  private:
-    /// As getdents64 lays it out.
-    struct Record {
-        ino64_t inode;
-        off64_t next;
-        unsigned short length;
-        unsigned char type;
-        char name[1];
-    };
+    /// Gives where the next one begins.
+    std::size_t takeEntry(std::size_t at, ReadEntry& entry) const;
 
     static constexpr std::size_t capacity = 32 * 1024;
 
@@ -56,4 +52,4 @@ class FolderReader {
     std::size_t filled_ = 0;
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

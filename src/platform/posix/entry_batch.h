@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/folder_reader.h"
+#include "platform/posix/folder_reader.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// A name in a folder, with the file system's own number of what it names.
 struct NumberedEntry {
@@ -28,4 +28,4 @@ struct EntryBatch {
 /// nothing.
 std::optional<EntryBatch> readBatch(FolderReader& reader, int folder);
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -1,9 +1,9 @@
-#include "platform/linux/link_table.h"
+#include "platform/posix/link_table.h"
 
 #include <algorithm>
 #include <new>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 namespace {
 
@@ -70,4 +70,4 @@ LinkTable::Slot& LinkTable::slotOf(std::vector<Slot>& slots, std::uint64_t inode
     return slots[at];
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -1,6 +1,6 @@
-#include "platform/linux/name_list.h"
+#include "platform/posix/name_list.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 bool NameList::hasSeveral() const {
     return packed_.find('\0') + 1 < packed_.size();
@@ -31,4 +31,4 @@ NameList NameList::takeHalf() {
     return half;
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

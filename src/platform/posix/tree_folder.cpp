@@ -1,28 +1,12 @@
-#include "platform/linux/tree_folder.h"
+#include "platform/posix/tree_folder.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/sysmacros.h>
 
 #include <cerrno>
 #include <ranges>
 #include <vector>
 
-namespace tidewell::linux_system {
-
-using posix::Descriptor;
-
-std::optional<MountedFolder> mountedFolder(int descriptor, const char* name) {
-    constexpr int flags = AT_EMPTY_PATH | AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
-    struct statx status;
-    if (::statx(descriptor, name, flags, STATX_INO | STATX_MNT_ID, &status) != 0)
-        return std::nullopt;
-    return MountedFolder{
-        .folder = {.device = ::makedev(status.stx_dev_major, status.stx_dev_minor),
-                   .inode = status.stx_ino},
-        .mount = status.stx_mask & STATX_MNT_ID ? status.stx_mnt_id : 0,
-    };
-}
+namespace tidewell::posix {
 
 TreeFolder::TreeFolder(TreeFolder* above, std::string name, MountedFolder which)
     : above_(above),
@@ -73,7 +57,7 @@ OpenFolder TreeFolder::open() {
     for (auto* next : closed | std::views::reverse) {
         if (!open) return nullptr;
         open = next->holdIfSame(
-            Descriptor(::openat(open->get(), next->name_.c_str(), posix::openFolderFlags)));
+            Descriptor(::openat(open->get(), next->name_.c_str(), openFolderFlags)));
     }
     return open;
 }
@@ -91,8 +75,7 @@ OpenFolder TreeFolder::climbFrom(const TreeFolder& folderBelow, OpenFolder below
         auto& above = *at->above_;
         auto open = above.held();
         if (!open)
-            open =
-                above.holdIfSame(Descriptor(::openat(below->get(), "..", posix::openFolderFlags)));
+            open = above.holdIfSame(Descriptor(::openat(below->get(), "..", openFolderFlags)));
         below = std::move(open);
         at = &above;
     }
@@ -107,4 +90,4 @@ bool TreeFolder::isLoop(const MountedFolder& folder) const {
     return false;
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -11,8 +11,8 @@
 #include <optional>
 
 #include "platform/files.h"
-#include "platform/linux/far_mounts.h"
 #include "platform/path_text.h"
+#include "platform/posix/far_mounts.h"
 #include "platform/posix/folder_identity.h"
 #include "platform/posix/reach.h"
 
@@ -33,7 +33,7 @@ bool liesOnOne(const SilentPlaces& places, std::string_view path) {
                                [&](const auto& place) { return isAtOrBelow(path, place.path); });
 }
 
-SilentPlaces silentPlaces(const std::vector<linux_system::FarMount>& silent) {
+SilentPlaces silentPlaces(const std::vector<posix::FarMount>& silent) {
     SilentPlaces places;
     for (const auto& mount : silent)
         places.push_back({.path = mount.place,
@@ -57,7 +57,7 @@ class Knowledge {
     }
 
     std::shared_ptr<const SilentPlaces> askAgain() {
-        const auto far = linux_system::farMounts();
+        const auto far = posix::farMounts();
         auto found = std::make_shared<const SilentPlaces>(
             far.empty() ? SilentPlaces{} : silentPlaces(questions_.silentAmong(far)));
         const std::lock_guard lock(mutex_);
@@ -76,7 +76,7 @@ class Knowledge {
  private:
     Knowledge() { askAgain(); }
 
-    linux_system::MountQuestions questions_;
+    posix::MountQuestions questions_;
     mutable std::mutex mutex_;
     std::shared_ptr<const SilentPlaces> places_;
     std::atomic<bool> isAnySilent_ = false;

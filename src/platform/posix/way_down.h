@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/tree_folder.h"
+#include "platform/posix/tree_folder.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// Whether the last thing failed because no more files may be open.
 inline bool lacksDescriptors() {
@@ -123,4 +123,4 @@ class WayDown {
     Left left_;
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -8,7 +8,7 @@
 
 #include "platform/byte_count.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// The files with several names that a measure has met, so that each counts once, and only when all
 /// of its names were met. Takes 16 bytes for each, and never more than 64 MB: what comes then
@@ -40,4 +40,4 @@ class LinkTable {
     std::size_t used_ = 0;
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

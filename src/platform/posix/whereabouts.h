@@ -4,9 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/tree_folder.h"
+#include "platform/posix/descriptor_paths.h"
+#include "platform/posix/tree_folder.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// Tells whether the folders of a tree still lie where they lay when the tree was entered. A
 /// descriptor says which folder it is and not where: one that is moved away meanwhile, or that lies
@@ -24,12 +25,11 @@ class Whereabouts {
 
  private:
     bool isTellable(const TreeFolder& folder) const;
-    std::optional<std::string_view> pathOf(int descriptor, char* buffer) const;
     bool isPathOf(std::string_view path, const TreeFolder& folder) const;
     bool isFoundByName(const TreeFolder& folder, OpenFolder open) const;
 
     const std::string topPath_;
-    const posix::Descriptor ownDescriptors_;
+    const DescriptorPaths paths_;
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

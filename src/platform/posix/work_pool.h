@@ -7,7 +7,7 @@
 #include <memory>
 #include <mutex>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// Whose thread does a share: the caller's who waits for the whole, or a helper's.
 enum class Role { caller, helper };
@@ -128,4 +128,4 @@ auto withHelpersOrWithout(const Attempt& attempt) {
     }
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

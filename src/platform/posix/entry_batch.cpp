@@ -1,8 +1,9 @@
-#include "platform/linux/entry_batch.h"
+#include "platform/posix/entry_batch.h"
 
 #include <algorithm>
+#include <limits>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 namespace {
 
@@ -12,7 +13,9 @@ constexpr std::size_t batchLimit = 64 * 1024;
 
 std::optional<EntryBatch> readBatch(FolderReader& reader, int folder) {
     EntryBatch batch{.entries = {}, .isLast = false};
-    while (!batch.isLast && batch.entries.size() < batchLimit) {
+    const auto limit =
+        FolderReader::outlivesRemoval ? batchLimit : std::numeric_limits<std::size_t>::max();
+    while (!batch.isLast && batch.entries.size() < limit) {
         const auto portion = reader.readPortion(folder);
         if (portion == FolderReader::Reading::failed) return std::nullopt;
         batch.isLast = portion == FolderReader::Reading::end;
@@ -25,4 +28,4 @@ std::optional<EntryBatch> readBatch(FolderReader& reader, int folder) {
     return batch;
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -3,13 +3,13 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include "platform/linux/folder_reader.h"
+#include "platform/posix/folder_reader.h"
 
 namespace tidewell::posix {
 namespace {
 
-using linux_system::FolderReader;
-using linux_system::ReadEntry;
+using posix::FolderReader;
+using posix::ReadEntry;
 
 EntryType typeOfMode(mode_t mode) {
     if (S_ISDIR(mode)) return EntryType::folder;

@@ -1,31 +1,18 @@
 #pragma once
 
 #include <atomic>
-#include <cstdint>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <utility>
 
 #include "platform/posix/descriptor.h"
-#include "platform/posix/folder_identity.h"
+#include "platform/posix/mounted_folder.h"
 
-namespace tidewell::linux_system {
-
-/// Which folder it is, and the mount through which it was reached.
-struct MountedFolder {
-    Identity folder;
-    std::uint64_t mount;  ///< 0 where the system does not tell mounts apart
-
-    friend bool operator==(const MountedFolder&, const MountedFolder&) = default;
-};
-
-/// Of an open folder, or of the entry of this name in it. Absent if the system does not tell.
-std::optional<MountedFolder> mountedFolder(int descriptor, const char* name = "");
+namespace tidewell::posix {
 
 /// An open folder that several may use; it is closed with the last of them.
-using OpenFolder = std::shared_ptr<const posix::Descriptor>;
+using OpenFolder = std::shared_ptr<const Descriptor>;
 
 /// A folder of a tree that is walked, measured or removed: its name, which one it is, and the one
 /// above, which is known as long as anybody is below. It need not stay open: who comes back to it
@@ -46,7 +33,7 @@ class TreeFolder {
     std::size_t pathLength() const { return pathLength_; }  ///< of its path below the top
 
     /// Makes a descriptor of this folder known to all who come here while it is open.
-    OpenFolder hold(posix::Descriptor folder);
+    OpenFolder hold(Descriptor folder);
     /// None while nobody holds it open.
     OpenFolder held() const;
 
@@ -65,7 +52,7 @@ class TreeFolder {
 
  private:
     OpenFolder climbFrom(const TreeFolder& folderBelow, OpenFolder below);
-    OpenFolder holdIfSame(posix::Descriptor folder);
+    OpenFolder holdIfSame(Descriptor folder);
 
     std::atomic<std::size_t> references_ = 1;
     TreeFolder* const above_;
@@ -74,7 +61,7 @@ class TreeFolder {
     const std::size_t level_;
     const std::size_t pathLength_;
     mutable std::mutex mutex_;
-    std::weak_ptr<const posix::Descriptor> held_;
+    std::weak_ptr<const Descriptor> held_;
 };
 
 /// Keeps a folder, and all above it, known. `Folder` is TreeFolder or what a user of trees makes of
@@ -118,4 +105,4 @@ class FolderPointer {
     Folder* folder_ = nullptr;
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/linux/name_list.h"
-#include "platform/linux/tree_folder.h"
+#include "platform/posix/name_list.h"
+#include "platform/posix/tree_folder.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// What is left to be measured of one folder. A folder's work may be split among threads; only one
 /// part of it reads on.
@@ -24,4 +24,4 @@ struct FolderWork {
     FolderWork emptyPart() const { return {.folder = folder, .descriptor = descriptor}; }
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

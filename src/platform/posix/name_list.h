@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// Names kept for later, packed one behind the other: millions of them may be waiting.
 class NameList {
@@ -29,4 +29,4 @@ class NameList {
     std::string packed_;  ///< each name with a zero byte behind it
 };
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

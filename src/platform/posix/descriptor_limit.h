@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <limits>
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// How many descriptors the process may have open.
 inline std::size_t descriptorLimit() {
@@ -15,4 +15,4 @@ inline std::size_t descriptorLimit() {
     return limit.rlim_cur;
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

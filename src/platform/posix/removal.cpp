@@ -11,32 +11,33 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/entry_batch.h"
-#include "platform/linux/tree_folder.h"
-#include "platform/linux/way_down.h"
-#include "platform/linux/whereabouts.h"
-#include "platform/linux/work_pool.h"
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
+#include "platform/posix/entry_batch.h"
 #include "platform/posix/link_free.h"
+#include "platform/posix/tree_folder.h"
+#include "platform/posix/unlinking.h"
+#include "platform/posix/way_down.h"
+#include "platform/posix/whereabouts.h"
+#include "platform/posix/work_pool.h"
 
 namespace tidewell {
 
 namespace {
 
-using linux_system::FolderPointer;
-using linux_system::Helpers;
-using linux_system::Job;
-using linux_system::lacksDescriptors;
-using linux_system::MountedFolder;
-using linux_system::NumberedEntry;
-using linux_system::OpenFolder;
-using linux_system::Role;
-using linux_system::TreeFolder;
-using linux_system::WayDown;
-using linux_system::Whereabouts;
-using linux_system::WorkPool;
 using posix::Descriptor;
+using posix::FolderPointer;
+using posix::Helpers;
+using posix::Job;
+using posix::lacksDescriptors;
+using posix::MountedFolder;
+using posix::NumberedEntry;
+using posix::OpenFolder;
+using posix::Role;
+using posix::TreeFolder;
+using posix::WayDown;
+using posix::Whereabouts;
+using posix::WorkPool;
 
 // Folders are emptied depth first; whoever ends the last work in a folder removes it. A thread
 // keeps one piece of work for each folder that it is in, and gives halves of them away.
@@ -84,7 +85,7 @@ class TreeRemoval {
  public:
     /// The guard is asked for each entry directly in `top`, which itself stays.
     TreeRemoval(Descriptor top, const std::string& topPath, ChildGuard guard, Helpers helpers)
-        : which_(linux_system::mountedFolder(top.get())),
+        : which_(posix::mountedFolder(top.get())),
           top_(FolderPointer<Folder>::top(which_.value_or(MountedFolder{}))),
           openTop_(top_->hold(std::move(top))),
           whereabouts_(topPath),
@@ -122,7 +123,7 @@ class TreeRemoval {
 };
 
 /// What one thread does with some work and all that follows from it.
-class Worker : public linux_system::Share {
+class Worker : public posix::Share {
  public:
     Worker(TreeRemoval& removal, WayDown<Piece> pieces)
         : removal_(removal), pieces_(std::move(pieces)) {}
@@ -156,7 +157,7 @@ class Worker : public linux_system::Share {
 
     TreeRemoval& removal_;
     WayDown<Piece> pieces_;
-    linux_system::FolderReader reader_;
+    posix::FolderReader reader_;
     std::size_t removedSinceAsked_ = 0;
     bool isInAnotherFolder_ = true;  ///< than when it was asked where the folder lies
 };
@@ -231,8 +232,7 @@ bool Worker::isInPlace(const Folder& folder, const OpenFolder& open) {
 
 void Worker::readOn() {
     auto& piece = pieces_.last();
-    auto batch =
-        isOpen() ? linux_system::readBatch(reader_, piece.descriptor->get()) : std::nullopt;
+    auto batch = isOpen() ? posix::readBatch(reader_, piece.descriptor->get()) : std::nullopt;
     if (!batch) {
         removal_.keep(*piece.folder);
         piece.giveUp();
@@ -267,7 +267,7 @@ void Worker::remove(const NumberedEntry& entry) {
             if (enter(entry)) return;
             if (errno != ELOOP && errno != ENOTDIR) break;
         } else {
-            if (isGone(::unlinkat(place->get(), name, 0))) return;
+            if (isGone(posix::unlinkNoFolder(place->get(), name))) return;
             if (errno != EISDIR) break;
         }
     }
@@ -287,7 +287,7 @@ bool Worker::enter(const NumberedEntry& entry) {
         if (!opened && lacksDescriptors()) return putOff(entry);
     }
     if (!opened) return errno == ENOENT;
-    const auto which = linux_system::mountedFolder(opened.get());
+    const auto which = posix::mountedFolder(opened.get());
     if (!which) return false;
     const auto below = folder.below(entry.name, *which);
     ++folder->workLeft;
@@ -319,7 +319,7 @@ bool Worker::putOffFinishing(const FolderPointer<Folder>& folder) {
 bool Worker::leaveForLater() {
     auto rest = std::make_unique<Worker>(removal_, pieces_.takeAll());
     auto* const own = rest.get();
-    std::unique_ptr<linux_system::Share> share = std::move(rest);
+    std::unique_ptr<posix::Share> share = std::move(rest);
     if (removal_.job_.leaveForLater(share)) return true;
     pieces_ = std::move(own->pieces_);
     return false;
@@ -381,7 +381,7 @@ bool Worker::readAgain(const FolderPointer<Folder>& folder, const OpenFolder& op
 template <class Attempt>
 Removal attempted(const Attempt& attempt) {
     try {
-        return linux_system::withHelpersOrWithout(attempt);
+        return posix::withHelpersOrWithout(attempt);
     } catch (...) {
         return Removal::incomplete;
     }
