@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cleanup/deletion_guard.h"
+#include "deepscan/big_item.h"
+#include "deepscan/folder_knowledge.h"
+#include "platform/host.h"
+
+namespace tidewell {
+
+/// What a thing is to the user, by all that the program knows.
+enum class MapVerdict {
+    ticked,       ///< a row of Clean or Dev Mode takes it, and the row is ticked by itself
+    review,       ///< a row takes it, once the user has looked
+    rebuildable,  ///< made or loaded again by the program it belongs to
+    appData,      ///< may hold sign-ins and settings
+    personal,     ///< the user's own
+    other,
+};
+
+/// A verdict, and the sentence about the thing itself: a row's, a fact's or a rule's.
+struct PlaceVerdict {
+    MapVerdict verdict = MapVerdict::other;
+    std::string sentence;  ///< may be empty
+    std::string row;       ///< the title of the row that takes it; empty if there is none
+};
+
+/// All that the program knows of a path, whether something stands there or not.
+struct PlaceKnowledge {
+    BigItem::Kind kind = BigItem::Kind::other;
+    std::optional<FolderKnowledge::Fact> fact;
+    std::vector<std::string> claimedBy;  ///< ids of the rows whose paths cover it
+    DeletionRule rule = DeletionRule::outsideHome;
+    PlaceVerdict verdict;
+};
+
+/// Answers for one machine. Made once for many paths; the tables' patterns are looked up on the
+/// disk when it is made. Any thread.
+class PlaceJudge {
+ public:
+    explicit PlaceJudge(const Host& host);
+    ~PlaceJudge();
+
+    PlaceKnowledge know(const std::string& path) const;
+
+ private:
+    struct Rows;
+
+    Host host_;
+    std::unique_ptr<Rows> rows_;
+    DeletionGuard guard_;
+};
+
+}  // namespace tidewell
