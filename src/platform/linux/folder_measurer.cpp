@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <thread>
 #include <utility>
 
 #include "platform/posix/descriptor_limit.h"
@@ -46,7 +47,51 @@ std::optional<DiskUsage> knownUsage(const MeasuredFolders* known, const MountedF
     return known ? known->find(identityOf(which)) : std::nullopt;
 }
 
+/// Disks answer sooner the more they are asked at once, so there are threads to spare; where all is
+/// in memory, they cost next to nothing. A thread needs a few descriptors.
+int poolWidth() {
+    constexpr unsigned leastWidth = 8;
+    constexpr std::size_t descriptorsOfThread = 8;
+    const std::size_t wanted = std::max(leastWidth, 2 * std::thread::hardware_concurrency());
+    const auto affordable = descriptorLimit() / descriptorsOfThread;
+    return static_cast<int>(std::clamp<std::size_t>(affordable, 1, wanted));
+}
+
+/// Makes a file count. Nothing more is asked of a folder whose own size nobody wants to know.
+void count(const struct stat& status, const char*, const FolderPointer<TreeFolder>&,
+           const Measuring& how, DiskUsage& found) {
+    addFile(status, how.links, found);
+}
+
+void count(const struct stat& status, const char* name, const FolderPointer<SizedFolder>& folder,
+           const Measuring&, DiskUsage& found) {
+    if (!S_ISREG(status.st_mode)) return;
+    auto* const shared = folder->sizing().shared;
+    if (shared && status.st_nlink > 1) {
+        found.bytes += shared->meet(status, folder);
+    } else {
+        const ByteCount size = status.st_blocks * bytesPerBlock;
+        folder->add(name, size);
+        found.bytes += size;
+    }
+}
+
+void markUnread(TreeFolder&) {}
+void markUnread(SizedFolder& folder) {
+    folder.markUnread();
+}
+
+void grow(TreeFolder&, ByteCount) {}
+void grow(SizedFolder& folder, ByteCount bytes) {
+    folder.sizing().tree.grow(bytes);
+}
+
 }  // namespace
+
+WorkPool& measuringPool() {
+    static auto& pool = WorkPool::make(poolWidth());
+    return pool;
+}
 
 void addFile(const struct stat& status, LinkTable* links, DiskUsage& usage) {
     if (!S_ISREG(status.st_mode)) return;
@@ -67,33 +112,61 @@ bool isGone() {
     return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
 }
 
-DiskUsage usageBelow(WorkPool& pool, const posix::Descriptor& folder, const Measuring& how) {
+/// From an open folder, which is left as it stands.
+template <class Folder>
+void measureFrom(Measure& measure, Descriptor own, const FolderPointer<Folder>& top) {
+    const auto open = top->hold(std::move(own));
+    measure.job.run(std::make_unique<FolderMeasurer<Folder>>(
+        measure, FolderWork<Folder>{.folder = top, .descriptor = open, .isUnread = true}));
+}
+
+/// With a file position of its own, so that it can be measured more than once.
+Descriptor openAnew(const Descriptor& folder) {
+    return Descriptor(::openat(folder.get(), ".", openFolderFlags));
+}
+
+DiskUsage usageBelow(WorkPool& pool, const Descriptor& folder, const Measuring& how) {
     Measure measure{.job = Job(pool, how.helpers),
                     .foldersHeldByThread = foldersHeld(pool.width()),
                     .how = how};
-    // With a file position of its own, so that it can be measured more than once.
-    posix::Descriptor own(::openat(folder.get(), ".", posix::openFolderFlags));
+    auto own = openAnew(folder);
     const auto which = own ? mountedFolder(own.get()) : std::nullopt;
     if (!which) {
         measure.found.unread.addUnknown();
         return std::move(measure.found);
     }
     if (auto usage = knownUsage(how.known, *which)) return std::move(*usage);
-    const auto top = FolderPointer<TreeFolder>::top(*which);
-    const auto open = top->hold(std::move(own));
-    measure.job.run(std::make_unique<FolderMeasurer>(
-        measure, FolderWork{.folder = top, .descriptor = open, .isUnread = true}));
+    measureFrom(measure, std::move(own), FolderPointer<TreeFolder>::top(*which));
     if (how.known) how.known->add(identityOf(*which), measure.found);
     return std::move(measure.found);
 }
 
-FolderMeasurer::FolderMeasurer(Measure& measure, FolderWork first)
-    : FolderMeasurer(measure, WayDown<FolderWork>(measure.foldersHeldByThread)) {
+bool sizeBelow(WorkPool& pool, const Descriptor& folder, const Measuring& how,
+               SizedFolder::Sizing& sizing) {
+    Measure measure{.job = Job(pool, how.helpers),
+                    .foldersHeldByThread = foldersHeld(pool.width()),
+                    .how = how};
+    auto own = openAnew(folder);
+    const auto which = own ? mountedFolder(own.get()) : std::nullopt;
+    const auto top = FolderPointer<SizedFolder>::top(which.value_or(MountedFolder{}));
+    top->workFor(sizing);
+    if (!which) {
+        top->markUnread();
+        return true;
+    }
+    measureFrom(measure, std::move(own), top);
+    return !how.stop.stop_requested();
+}
+
+template <class Folder>
+FolderMeasurer<Folder>::FolderMeasurer(Measure& measure, Work first)
+    : FolderMeasurer(measure, WayDown<Work>(measure.foldersHeldByThread)) {
     works_.enter(std::move(first));
 }
 
-void FolderMeasurer::work(Role role) {
-    for (; !works_.isEmpty(); ++steps_) {
+template <class Folder>
+void FolderMeasurer<Folder>::work(Role role) {
+    for (; !works_.isEmpty() && !measure_.how.stop.stop_requested(); ++steps_) {
         const int appetite = measure_.job.appetite();
         if (appetite > 0) share();
         if (appetite < 0 && role == Role::helper) {
@@ -108,12 +181,13 @@ void FolderMeasurer::work(Role role) {
     measure_.found.unread.add(found_.unread);
 }
 
-void FolderMeasurer::step() {
+template <class Folder>
+void FolderMeasurer<Folder>::step() {
     auto& work = works_.last();
     if (work.isDone()) {
         works_.leave();
     } else if (!works_.openLast()) {
-        found_.unread.addUnknown();
+        missedUnknown(work);
         works_.leave();
     } else if (!work.files.isEmpty()) {
         measureFilesOf(work);
@@ -125,11 +199,12 @@ void FolderMeasurer::step() {
 }
 
 /// Leaves half of the oldest folder's sub-folders to others, or all that is left of it.
-void FolderMeasurer::share() {
+template <class Folder>
+void FolderMeasurer<Folder>::share() {
     if (steps_ < stepsAlone) return;
     const auto* last = &works_.last();
     auto* oldest = works_.oldestToShare(
-        [&](const FolderWork& work) { return &work != last || work.subfolders.hasSeveral(); });
+        [&](const Work& work) { return &work != last || work.subfolders.hasSeveral(); });
     if (!oldest) return;
     if (oldest->subfolders.hasSeveral()) {
         auto part = oldest->emptyPart();
@@ -141,44 +216,58 @@ void FolderMeasurer::share() {
 }
 
 /// Leaves all to others, for whom it may have to wait: with as few descriptors as can be.
-void FolderMeasurer::stepBack() {
+template <class Folder>
+void FolderMeasurer<Folder>::stepBack() {
     measure_.job.offer(std::make_unique<FolderMeasurer>(measure_, works_.takeAll()));
 }
 
 /// What vanishes was not missed.
-void FolderMeasurer::missed(int folder, std::string_view name) {
+template <class Folder>
+void FolderMeasurer<Folder>::missed(const Work& work, std::string_view name) {
     if (isGone()) return;
-    const auto identity = posix::identityOf(folder);
-    if (!identity) return found_.unread.addUnknown();
+    const auto identity = posix::identityOf(work.descriptor->get());
+    if (!identity) return missedUnknown(work);
+    markUnread(*work.folder);
     found_.unread.add(identity->device ^ identity->inode, name);
 }
 
-void FolderMeasurer::measureFile(int folder, const char* name) {
+template <class Folder>
+void FolderMeasurer<Folder>::missedUnknown(const Work& work) {
+    markUnread(*work.folder);
+    found_.unread.addUnknown();
+}
+
+template <class Folder>
+void FolderMeasurer<Folder>::measureFile(const Work& work, const char* name) {
     // A folder that may not be searched hides all of its files alike.
     constexpr auto allFiles = "";
     struct stat status;
-    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
-        addFile(status, measure_.how.links, found_);
+    if (::fstatat(work.descriptor->get(), name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
+        count(status, name, work.folder, measure_.how, found_);
     } else {
-        missed(folder, errno == EACCES ? allFiles : name);
+        missed(work, errno == EACCES ? allFiles : name);
     }
 }
 
-void FolderMeasurer::measureFilesOf(FolderWork& work) {
-    work.files.forEach([&](const char* name) { measureFile(work.descriptor->get(), name); });
+template <class Folder>
+void FolderMeasurer<Folder>::measureFilesOf(Work& work) {
+    work.files.forEach([&](const char* name) { measureFile(work, name); });
     work.files = {};
+    tellGrowth(work);
 }
 
 /// A folder that is done with its last sub-folder's opening is closed then, so that a long chain of
 /// folders holds none open.
-void FolderMeasurer::enterSubfolder() {
+template <class Folder>
+void FolderMeasurer<Folder>::enterSubfolder() {
     auto& parent = works_.last();
     auto subfolder = entered(parent, parent.subfolders.takeLast());
     if (parent.isDone()) works_.leave();
     if (subfolder) works_.enter(std::move(*subfolder));
 }
 
-bool FolderMeasurer::takeOver(const MountedFolder& folder) {
+template <class Folder>
+bool FolderMeasurer<Folder>::takeOver(const MountedFolder& folder) {
     const auto usage = knownUsage(measure_.how.known, folder);
     if (!usage) return false;
     found_.bytes += usage->bytes;
@@ -187,25 +276,27 @@ bool FolderMeasurer::takeOver(const MountedFolder& folder) {
     return true;
 }
 
-std::optional<FolderWork> FolderMeasurer::entered(const FolderWork& parent, std::string name) {
+template <class Folder>
+std::optional<FolderWork<Folder>> FolderMeasurer<Folder>::entered(const Work& parent,
+                                                                  std::string name) {
     const int place = parent.descriptor->get();
     auto opened = posix::openSubfolder(place, name);
     const auto which = opened ? mountedFolder(opened.get()) : std::nullopt;
     if (!which) {
-        missed(place, name);
+        missed(parent, name);
         return std::nullopt;
     }
     if (parent.folder->isLoop(*which) || takeOver(*which)) return std::nullopt;
     const auto folder = parent.folder.below(std::move(name), *which);
-    return FolderWork{
-        .folder = folder, .descriptor = folder->hold(std::move(opened)), .isUnread = true};
+    return Work{.folder = folder, .descriptor = folder->hold(std::move(opened)), .isUnread = true};
 }
 
-void FolderMeasurer::read(FolderWork& work) {
+template <class Folder>
+void FolderMeasurer<Folder>::read(Work& work) {
     const bool mayHaveToBeLetGo = works_.size() > measure_.foldersHeldByThread;
     while (mayHaveToBeLetGo || work.subfolders.sizeInMemory() < subfolderNamesAtOnce) {
         const auto reading = reader_.readPortion(work.descriptor->get());
-        if (reading == FolderReader::Reading::failed) found_.unread.addUnknown();
+        if (reading == FolderReader::Reading::failed) missedUnknown(work);
         work.isUnread = reading == FolderReader::Reading::portion;
         if (!work.isUnread) return;
         sortPortion(work);
@@ -213,7 +304,8 @@ void FolderMeasurer::read(FolderWork& work) {
     }
 }
 
-void FolderMeasurer::sortPortion(FolderWork& work) {
+template <class Folder>
+void FolderMeasurer<Folder>::sortPortion(Work& work) {
     portion_.clear();
     reader_.forEachEntry([&](const ReadEntry& entry) {
         if (entry.type == DT_REG) {
@@ -227,25 +319,34 @@ void FolderMeasurer::sortPortion(FolderWork& work) {
 }
 
 /// Some file systems do not tell in a folder what its entries are.
-void FolderMeasurer::addUntold(FolderWork& work, const char* name) {
+template <class Folder>
+void FolderMeasurer<Folder>::addUntold(Work& work, const char* name) {
     struct stat status;
     if (::fstatat(work.descriptor->get(), name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return missed(work.descriptor->get(), name);
+        return missed(work, name);
     if (S_ISDIR(status.st_mode)) work.subfolders.add(name);
-    addFile(status, measure_.how.links, found_);
+    count(status, name, work.folder, measure_.how, found_);
 }
 
-void FolderMeasurer::measurePortion(const FolderWork& work) {
-    const int folder = work.descriptor->get();
+template <class Folder>
+void FolderMeasurer<Folder>::measurePortion(const Work& work) {
     for (std::size_t next = 0; next < portion_.size(); ++next) {
         if (next % filesBetweenLooks == filesBetweenLooks - 1 && measure_.job.appetite() > 0)
             shareRestOfPortion(work, next);
-        measureFile(folder, portion_[next]);
+        measureFile(work, portion_[next]);
     }
+    tellGrowth(work);
+}
+
+template <class Folder>
+void FolderMeasurer<Folder>::tellGrowth(const Work& work) {
+    grow(*work.folder, found_.bytes - told_);
+    told_ = found_.bytes;
 }
 
 /// This is what lets several threads work on one large flat folder.
-void FolderMeasurer::shareRestOfPortion(const FolderWork& work, std::size_t next) {
+template <class Folder>
+void FolderMeasurer<Folder>::shareRestOfPortion(const Work& work, std::size_t next) {
     if (portion_.size() - next < 2 * filesBetweenLooks) return;
     const auto kept = next + (portion_.size() - next) / 2;
     auto part = work.emptyPart();

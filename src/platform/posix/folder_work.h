@@ -7,6 +7,7 @@ namespace tidewell::posix {
 
 /// What is left to be measured of one folder. A folder's work may be split among threads; only one
 /// part of it reads on.
+template <class TreeFolder>
 struct FolderWork {
     using Folder = TreeFolder;
 
