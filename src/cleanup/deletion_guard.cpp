@@ -143,9 +143,12 @@ KeptPlaces DeletionGuard::keptPlaces() const {
 }
 
 DeletionRule DeletionGuard::verdict(const std::string& path) const {
+    return verdict(path, keptPlaces());
+}
+
+DeletionRule DeletionGuard::verdict(const std::string& path, const KeptPlaces& kept) const {
     const auto named = standardizedPath(path);
     const auto real = realLocation(named);
-    const auto kept = keptPlaces();
     if (!real) return deletionRule(named, host_.home, roots_, kept.entries());
     return judge(named, kept.namesOf(*real), kept);
 }

@@ -46,6 +46,9 @@ class DeletionGuard {
     /// refused, and so are keys that were put elsewhere, from either side; whether by links, by
     /// mounts or by letter case. Only the name counts if the folder that holds the path is missing.
     DeletionRule verdict(const std::string& path) const;
+    /// The same as it was when that was seen, for whoever asks much at one moment.
+    DeletionRule verdict(const std::string& path, const KeptPlaces& seen) const;
+    KeptPlaces keptPlaces() const;
 
     /// The path, if the verdict allows it and the folder that holds it exists.
     std::optional<DeletablePath> approve(const std::string& path) const;
@@ -58,7 +61,6 @@ class DeletionGuard {
  private:
     struct View;
 
-    KeptPlaces keptPlaces() const;
     DeletionRule judge(std::string_view named, const std::vector<std::string>& names,
                        const KeptPlaces& kept) const;
 

@@ -34,6 +34,9 @@ class DiskScanner {
                                        MeasuredFolders* known = nullptr,
                                        UnreadThings* unread = nullptr) const;
 
+    /// What stands on the machine of what a target names, and so what cleaning it would work on.
+    std::vector<std::string> placesOf(const CleanupTarget& target) const;
+
     /// Empties the folders and removes the files at the item's resolved paths, for good. Folders at
     /// a resolved path stay, empty. A path of which something could be read at the scan and cannot
     /// be read now counts as wholly there; whatever cannot be read counts as a failure.
@@ -49,7 +52,6 @@ class DiskScanner {
     const Host& host() const { return host_; }
 
  private:
-    std::vector<std::string> placesOf(const CleanupTarget& target) const;
     std::set<std::string> newlyInUse(const CleanupItem& item) const;
     std::vector<std::string> sweptChildren(const std::string& sweptFolder, TargetKind kind,
                                            const SweepObstacles& obstacles) const;

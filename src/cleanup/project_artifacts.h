@@ -1,13 +1,12 @@
 #pragma once
 
-#include <span>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "cleanup/cleanup_model.h"
 #include "cleanup/kept_entries.h"
-#include "platform/folder_walk.h"
 #include "platform/host.h"
 
 namespace tidewell {
@@ -17,11 +16,10 @@ namespace tidewell {
 /// is passed over.
 std::vector<CleanupTarget> findProjectArtifacts(const Host& host);
 
-/// Whether a folder of this name, among these siblings, is a project's artifact: by its name alone,
-/// or for "build", "target" and what else people use such names for, and where the rule says so for
-/// all, by a project's marker beside it.
-bool isProjectArtifact(std::string_view name, std::span<const FolderEntry> siblings, System system,
-                       BuildOutput rule = BuildOutput::byName);
+/// The artifact that a path is or lies in, as that search would find it. Reads from the disk what
+/// stands beside a folder where that counts; any thread but the main one.
+std::optional<CleanupTarget> artifactHolding(std::string_view path, const Host& host,
+                                             const KeptEntries& kept);
 
 /// Whether what lies in a personal folder, in something with the name of build output, is that also
 /// by the rule of the machine: looks on the disk for the marker beside it, where one is wanted.

@@ -65,6 +65,14 @@ bool liesInOneOf(std::string_view path, const Places& places) {
     return false;
 }
 
+/// The first component of what is left of a path, which it leaves behind; empty at the end.
+std::string_view takePiece(std::string_view& path) {
+    path.remove_prefix(std::min(path.find_first_not_of('/'), path.size()));
+    const auto piece = path.substr(0, path.find('/'));
+    path.remove_prefix(piece.size());
+    return piece;
+}
+
 }  // namespace
 
 bool standsFor(std::string_view piece, std::string_view name) {
@@ -115,6 +123,21 @@ bool TablePath::covers(std::string_view path) const {
     return std::equal(
         pieces_.begin(), pieces_.end(), names.begin(),
         [](const auto& piece, std::string_view name) { return standsFor(piece, name); });
+}
+
+bool covers(std::string_view stored, const Host& host, std::string_view path) {
+    const auto [folder, rest] = host.split(stored);
+    if (folder.empty() || stored.find("..") != std::string_view::npos)
+        return TablePath(stored, host).covers(path);
+    if (!isAtOrBelow(path, folder)) return false;
+    auto left = path.substr(folder.size());
+    for (auto wanted = rest; !wanted.empty();) {
+        const auto piece = takePiece(wanted);
+        if (piece.empty()) break;
+        const auto name = takePiece(left);
+        if (name.empty() || !standsFor(piece, name)) return false;
+    }
+    return true;
 }
 
 std::optional<std::string> TablePath::nameDirectlyIn(std::string_view folder) const {

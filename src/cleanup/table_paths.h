@@ -32,6 +32,9 @@ class TablePath {
     std::vector<std::string> pieces_;
 };
 
+/// The same as `covers` of the table path, for a single question: without taking it apart first.
+bool covers(std::string_view stored, const Host& host, std::string_view path);
+
 /// Whether a component of a table path stands for a name.
 bool standsFor(std::string_view piece, std::string_view name);
 

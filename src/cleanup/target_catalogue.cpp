@@ -54,6 +54,18 @@ std::vector<std::string> storedPaths(const CatalogueRow& row) {
     return paths;
 }
 
+bool claims(const CatalogueRow& row, std::string_view path, const Host& host) {
+    const auto coversIt = [&](std::string_view stored) { return covers(stored, host, path); };
+    if (std::ranges::any_of(row.paths, coversIt)) return true;
+    for (const auto& product : row.products)
+        for (const auto home : product.homes)
+            if (coversIt(home) && std::ranges::any_of(product.parts, [&](const auto part) {
+                    return coversIt(std::string(home) + "/" + std::string(part));
+                }))
+                return true;
+    return false;
+}
+
 std::vector<CleanupTarget> cleanupCatalogue(const Host& host) {
     const auto rows = catalogueOf(host.system).rows;
     std::vector<CleanupTarget> targets;

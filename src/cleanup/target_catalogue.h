@@ -18,6 +18,9 @@ Catalogue catalogueOf(System system);
 /// The paths of a row, as they are stored.
 std::vector<std::string> storedPaths(const CatalogueRow& row);
 
+/// Whether a standardised path is one that a row names, or lies below one. By the text alone.
+bool claims(const CatalogueRow& row, std::string_view path, const Host& host);
+
 /// What a row stands for on a machine.
 CleanupTarget targetOf(const CatalogueRow& row, const Host& host);
 

@@ -9,6 +9,10 @@ namespace tidewell::cli {
 
 namespace {
 
+/// Documents nest no deeper than readers of JSON follow.
+constexpr int deepestShown = 64;
+constexpr int mostShown = 20'000;
+
 /// Adds a command whose call is filled in by its options and run as given.
 template <class CommandCall>
 CommandCall& addCommand(CLI::App& app, Call& call, const std::string& name,
@@ -172,6 +176,17 @@ void addKnowledgeCommands(CLI::App& app, Call& call) {
     command->add_option("paths", measure.paths, "Files or folders")->required()->type_name("PATH");
     command->add_flag("--shared", measure.showsShared,
                       "Say also what would stay, since it has names elsewhere");
+
+    auto& map = addCommand<MapCall>(
+        app, call, "map", "Show what takes the room, and what may go, as a tree", runMap, command);
+    command->add_option("path", map.path, "A folder; the home folder if not given")
+        ->type_name("PATH");
+    command->add_option("--depth", map.depth, "How many levels are shown; 2 if not given")
+        ->check(CLI::Range(1, deepestShown))
+        ->type_name("N");
+    command->add_option("--top", map.top, "How many entries of a folder are shown; 10 if not given")
+        ->check(CLI::Range(1, mostShown))
+        ->type_name("N");
 
     auto& explain = addCommand<ExplainCall>(
         app, call, "explain", "Say what is known of a path, and whether Clean may remove it",

@@ -22,9 +22,13 @@ ProgressLine::~ProgressLine() {
 }
 
 void ProgressLine::show(double fraction, std::string_view what) {
+    show(percentText(fraction) + "  " + std::string(what));
+}
+
+void ProgressLine::show(std::string_view what) {
     if (!isTerminal_) return;
     isShown_ = true;
-    const auto text = percentText(fraction) + "  " + terminalText(what);
+    const auto text = terminalText(what);
     // One that wrapped into a second line could not be wiped.
     const int columns = terminalWidth(StandardStream::error) - 1;
     std::cerr << wipe << textThatFits(text, columns) << std::flush;

@@ -15,6 +15,8 @@ class ProgressLine {
 
     /// Shows how much is done, from 0 to 1, and what is being worked on.
     void show(double fraction, std::string_view what);
+    /// The same where nobody knows how much there is to do.
+    void show(std::string_view what);
 
  private:
     bool isShown_ = false;

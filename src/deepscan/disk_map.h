@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -58,6 +59,10 @@ class DiskMap {
  private:
     std::vector<DiskMapNode> nodes_;
 };
+
+/// What each verdict has of a node and all below it, by the parts that are told; in the order of
+/// the verdicts. Together they are the node's bytes.
+std::array<ByteCount, mapVerdictCount> bytesByVerdict(const DiskMap& map, std::uint32_t node = 0);
 
 struct DiskMapping {
     std::stop_token stop = {};

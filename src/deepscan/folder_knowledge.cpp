@@ -15,7 +15,7 @@ std::optional<FolderKnowledge::Fact> FolderKnowledge::fact(std::string_view path
     for (const auto& folder : known.parts)
         if (name.find(folder.name) != std::string_view::npos) return folder.fact;
     for (const auto& folder : known.places)
-        if (TablePath(folder.name, host).covers(path)) return folder.fact;
+        if (covers(folder.name, host, path)) return folder.fact;
     return std::nullopt;
 }
 

@@ -23,11 +23,13 @@ enum class MapVerdict {
     other,
 };
 
+inline constexpr std::size_t mapVerdictCount = 6;
+
 /// A verdict, and the sentence about the thing itself: a row's, a fact's or a rule's.
 struct PlaceVerdict {
     MapVerdict verdict = MapVerdict::other;
-    std::string sentence;  ///< may be empty
-    std::string row;       ///< the title of the row that takes it; empty if there is none
+    std::string sentence = {};  ///< may be empty
+    std::string row = {};       ///< the title of the row that takes it; empty if there is none
 };
 
 /// All that the program knows of a path, whether something stands there or not.
@@ -39,8 +41,11 @@ struct PlaceKnowledge {
     PlaceVerdict verdict;
 };
 
-/// Answers for one machine. Made once for many paths; the tables' patterns are looked up on the
-/// disk when it is made. Any thread.
+/// Why the guard decides so: a sentence about the thing.
+std::string_view reason(DeletionRule rule);
+
+/// Answers for one machine at one moment: what the rows would work on, and what must stay, is
+/// looked up on the disk when it is made. Any thread but the main one.
 class PlaceJudge {
  public:
     explicit PlaceJudge(const Host& host);
@@ -51,9 +56,12 @@ class PlaceJudge {
  private:
     struct Rows;
 
+    PlaceVerdict judge(const std::string& path, const PlaceKnowledge& known) const;
+
     Host host_;
-    std::unique_ptr<Rows> rows_;
+    std::unique_ptr<const Rows> rows_;
     DeletionGuard guard_;
+    std::unique_ptr<const KeptPlaces> kept_;
 };
 
 }  // namespace tidewell

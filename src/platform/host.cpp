@@ -34,14 +34,17 @@ std::string Host::throughHome(std::string_view path) const {
     return home + std::string(path.substr(namedHome.size()));
 }
 
+Host::Split Host::split(std::string_view path) const {
+    if (isAtOrBelow(path, "~")) return {home, path.substr(1)};
+    for (const auto& [token, folder] : baseFolderTokens)
+        if (isAtOrBelow(path, token)) return {baseFolders.*folder, path.substr(token.size())};
+    return {{}, path};
+}
+
 std::string Host::expand(std::string_view path) const {
-    if (path == "~") return home;
-    if (path.starts_with("~/")) return joinPath(home, path.substr(2));
-    for (const auto& [token, folder] : baseFolderTokens) {
-        if (!isAtOrBelow(path, token)) continue;
-        return std::string(baseFolders.*folder).append(path.substr(token.size()));
-    }
-    return std::string(path);
+    const auto [folder, rest] = split(path);
+    if (folder.ends_with('/') && rest.starts_with('/')) return joinPath(folder, rest.substr(1));
+    return std::string(folder).append(rest);
 }
 
 std::string Host::locate(std::string_view tablePath) const {

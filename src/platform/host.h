@@ -56,6 +56,12 @@ struct Host {
     /// The same path, beginning with `home` where it begins with `namedHome`: as other programs,
     /// and the user, name what lies there.
     std::string throughHome(std::string_view path) const;
+    /// What `expand` puts together: the folder that a path names first, and the rest behind it.
+    struct Split {
+        std::string_view folder;  ///< empty if it names none
+        std::string_view rest;
+    };
+    Split split(std::string_view path) const;
     /// A leading "~" replaced by `home`, and a leading "{cache}", "{config}", "{data}" or "{state}"
     /// by that base folder; every other path as it is.
     std::string expand(std::string_view path) const;

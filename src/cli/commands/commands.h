@@ -90,6 +90,13 @@ struct ExplainCall {
 };
 Outcome runExplain(const Context& context, const ExplainCall& call);
 
+struct MapCall {
+    std::optional<std::string> path;  ///< the home folder if not given
+    int depth = 2;                    ///< levels shown below it
+    int top = 10;                     ///< entries shown of a folder
+};
+Outcome runMap(const Context& context, const MapCall& call);
+
 struct StatusCall {};
 Outcome runStatus(const Context& context, const StatusCall& call);
 

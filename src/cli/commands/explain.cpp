@@ -1,11 +1,10 @@
-#include <algorithm>
+#include <cctype>
 
-#include "cleanup/deletion_guard.h"
-#include "cleanup/target_catalogue.h"
 #include "cli/commands/commands.h"
 #include "cli/report.h"
 #include "cli/selection.h"
 #include "cli/shapes.h"
+#include "deepscan/place_verdict.h"
 #include "deepscan/screens/deep_scan_content.h"
 #include "kit/byte_text.h"
 #include "platform/freed_usage.h"
@@ -15,14 +14,10 @@ namespace tidewell::cli {
 
 namespace {
 
-/// All that the program knows of a path, whether something stands there or not.
 struct Explanation {
     std::string path;
     ByteCount sizeBytes = 0;
-    BigItem::Kind kind = BigItem::Kind::other;
-    std::optional<FolderKnowledge::Fact> fact;
-    std::vector<std::string> claimedBy;
-    DeletionRule rule = DeletionRule::outsideHome;
+    PlaceKnowledge known;
 };
 
 std::string_view nameOf(DeletionRule rule) {
@@ -47,26 +42,11 @@ std::string_view nameOf(DeletionRule rule) {
     return {};
 }
 
-std::string_view sentenceFor(DeletionRule rule) {
-    switch (rule) {
-        case DeletionRule::protectedPath:
-            return "No: keys and credentials are never removed.";
-        case DeletionRule::namedCache:
-            return "Yes, if you pick it: a cache inside a program's protected profile.";
-        case DeletionRule::neverSwept:
-            return "No: it looks like a cache, but holds what nothing can make anew.";
-        case DeletionRule::deletableRoot:
-            return "Yes: scratch space that the system clears anyway.";
-        case DeletionRule::outsideHome:
-            return "No: it lies outside your home folder.";
-        case DeletionRule::openFolder:
-            return "Yes, if you pick it: it lies outside your own files.";
-        case DeletionRule::buildFolder:
-            return "Yes, if you pick it: build output of a project.";
-        case DeletionRule::personalFolder:
-            return "No: these are your own files.";
-    }
-    return {};
+std::string sentenceFor(DeletionRule rule) {
+    std::string why(reason(rule));
+    why.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(why.front())));
+    if (!allows(rule)) return "No: " + why;
+    return (rule == DeletionRule::deletableRoot ? "Yes: " : "Yes, if you pick it: ") + why;
 }
 
 std::string_view nameOf(FolderKnowledge::Verdict verdict) {
@@ -83,34 +63,18 @@ std::string_view nameOf(FolderKnowledge::Verdict verdict) {
     return {};
 }
 
-std::vector<std::string> claimingRows(const std::string& path, const Host& host) {
-    std::vector<std::string> ids;
-    for (const auto& target : cleanupCatalogue(host)) {
-        const bool claims = std::ranges::any_of(target.paths, [&](const std::string& stored) {
-            return TablePath(stored, host).covers(path);
-        });
-        if (claims) ids.push_back(target.id);
-    }
-    return ids;
-}
-
 Explanation explain(const std::string& word, const Host& host) {
     const auto path = namedPath(word, host);
-    const auto fact = FolderKnowledge::fact(path, host);
-    return {
-        .path = path,
-        .sizeBytes = freedUsage(path, host.system).freedBytes,
-        .kind = finalKind(classifyPlace(path, host, KeptPlaces(host)), fact),
-        .fact = fact,
-        .claimedBy = claimingRows(path, host),
-        .rule = DeletionGuard(host).verdict(path),
-    };
+    return {.path = path,
+            .sizeBytes = freedUsage(path, host.system).freedBytes,
+            .known = PlaceJudge(host).know(path)};
 }
 
-Value document(const Explanation& known) {
+Value document(const Explanation& explanation) {
+    const auto& known = explanation.known;
     Value::Object shape = {
-        {"path", known.path},
-        {"sizeBytes", known.sizeBytes},
+        {"path", explanation.path},
+        {"sizeBytes", explanation.sizeBytes},
         {"kind", cli::nameOf(known.kind)},
     };
     if (known.fact)
@@ -122,9 +86,10 @@ Value document(const Explanation& known) {
     return shape;
 }
 
-void print(const Explanation& known) {
-    printLine(inked(terminalText(known.path), Ink::strong));
-    printLine("  Size on disk        " + byteText(known.sizeBytes));
+void print(const Explanation& explanation) {
+    const auto& known = explanation.known;
+    printLine(inked(terminalText(explanation.path), Ink::strong));
+    printLine("  Size on disk        " + byteText(explanation.sizeBytes));
     printLine("  For the deep scan   " + std::string(badge(known.kind)));
     if (known.fact) printLine("  What it holds       " + std::string(known.fact->note));
     for (const auto& id : known.claimedBy) printLine("  Cleaned as          " + id);
@@ -136,11 +101,11 @@ void print(const Explanation& known) {
 }  // namespace
 
 Outcome runExplain(const Context& context, const ExplainCall& call) {
-    const auto known = explain(call.path, context.host);
+    const auto explanation = explain(call.path, context.host);
     if (context.form == OutputForm::json) {
-        printDocument(document(known));
+        printDocument(document(explanation));
     } else {
-        print(known);
+        print(explanation);
     }
     return ExitStatus::done;
 }

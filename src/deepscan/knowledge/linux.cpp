@@ -363,8 +363,7 @@ constexpr auto walkExclusions = std::to_array<std::string_view>({
 bool isRebuiltCache(std::string_view path, const Host& host) {
     for (const auto& row : catalogueOf(host.system).rows) {
         if (row.kind != TargetKind::plain || row.safety != SafetyLevel::safe) continue;
-        for (const auto& stored : storedPaths(row))
-            if (TablePath(stored, host).covers(path)) return true;
+        if (claims(row, path, host)) return true;
     }
     return false;
 }

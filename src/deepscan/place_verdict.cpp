@@ -1,0 +1,163 @@
+#include "deepscan/place_verdict.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "cleanup/disk_scanner.h"
+#include "cleanup/kept_places.h"
+#include "cleanup/project_artifacts.h"
+#include "cleanup/target_catalogue.h"
+#include "deepscan/big_item_scanner.h"
+#include "platform/path_text.h"
+
+namespace tidewell {
+
+namespace {
+
+/// The rows of Clean and Dev Mode but for those of projects.
+std::vector<CleanupTarget> allRows(const Host& host) {
+    auto rows = cleanupCatalogue(host);
+    for (const auto& row : catalogueOf(host.system).modelCaches)
+        rows.push_back(targetOf(row, host));
+    return rows;
+}
+
+MapVerdict verdictOf(BigItem::Kind kind) {
+    switch (kind) {
+        case BigItem::Kind::cache:
+        case BigItem::Kind::rebuildable:
+            return MapVerdict::rebuildable;
+        case BigItem::Kind::container:
+        case BigItem::Kind::appData:
+            return MapVerdict::appData;
+        case BigItem::Kind::personal:
+            return MapVerdict::personal;
+        case BigItem::Kind::installer:
+        case BigItem::Kind::other:
+            return MapVerdict::other;
+    }
+    return MapVerdict::other;
+}
+
+PlaceVerdict byRow(const CleanupTarget& row) {
+    return {.verdict = row.safety == SafetyLevel::safe ? MapVerdict::ticked : MapVerdict::review,
+            .sentence = row.detail,
+            .row = row.title};
+}
+
+/// What must stay is no thing that is made again, whatever its name.
+PlaceVerdict byRule(DeletionRule rule, BigItem::Kind kind) {
+    const auto verdict = verdictOf(kind);
+    const std::string sentence(reason(rule));
+    switch (rule) {
+        case DeletionRule::personalFolder:
+            return {.verdict = MapVerdict::personal, .sentence = sentence};
+        case DeletionRule::protectedPath:
+        case DeletionRule::neverSwept:
+            return {.verdict = verdict == MapVerdict::personal ? verdict : MapVerdict::appData,
+                    .sentence = sentence};
+        case DeletionRule::buildFolder:
+            return {.verdict = verdict, .sentence = sentence};
+        case DeletionRule::outsideHome:
+        case DeletionRule::namedCache:
+        case DeletionRule::deletableRoot:
+        case DeletionRule::openFolder:
+            return {.verdict = verdict};
+    }
+    return {};
+}
+
+/// Of a path, or of the innermost folder that it lies in and of which something is known.
+std::optional<FolderKnowledge::Fact> nearestFact(std::string_view path, const Host& host) {
+    for (; isBelow(path, host.home); path = parentPath(path))
+        if (auto fact = FolderKnowledge::fact(path, host)) return fact;
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::string_view reason(DeletionRule rule) {
+    switch (rule) {
+        case DeletionRule::protectedPath:
+            return "Keys and credentials are never removed.";
+        case DeletionRule::namedCache:
+            return "A cache inside a program's protected profile.";
+        case DeletionRule::neverSwept:
+            return "It looks like a cache, but holds what nothing can make anew.";
+        case DeletionRule::deletableRoot:
+            return "Scratch space that the system clears anyway.";
+        case DeletionRule::outsideHome:
+            return "It lies outside your home folder.";
+        case DeletionRule::openFolder:
+            return "It lies outside your own files.";
+        case DeletionRule::buildFolder:
+            return "Build output of a project.";
+        case DeletionRule::personalFolder:
+            return "These are your own files.";
+    }
+    return {};
+}
+
+/// What the rows would work on now, and by which of their paths they claim what is not there.
+struct PlaceJudge::Rows {
+    explicit Rows(const Host& host) : targets(allRows(host)) {
+        const DiskScanner scanner(host);
+        for (std::size_t row = 0; row < targets.size(); ++row) {
+            claims.emplace_back();
+            for (const auto& stored : targets[row].paths) claims.back().emplace_back(stored, host);
+            for (auto& place : scanner.placesOf(targets[row])) places.emplace(place, row);
+            if (targets[row].isSweep())
+                for (auto& folder : existingPlaces(targets[row].paths, host))
+                    sweptFolders.emplace(folder, row);
+        }
+    }
+
+    const CleanupTarget* takerOf(std::string_view path) const {
+        if (const auto at = sweptFolders.find(std::string(path)); at != sweptFolders.end())
+            return &targets[at->second];
+        for (; path.size() > 1; path = parentPath(path))
+            if (const auto at = places.find(std::string(path)); at != places.end())
+                return &targets[at->second];
+        return nullptr;
+    }
+
+    std::vector<CleanupTarget> targets;
+    std::vector<std::vector<TablePath>> claims;  ///< of each target
+    std::unordered_map<std::string, std::size_t> places;
+    std::unordered_map<std::string, std::size_t> sweptFolders;  ///< not all in them is taken
+};
+
+PlaceJudge::PlaceJudge(const Host& host)
+    : host_(host),
+      rows_(std::make_unique<Rows>(host)),
+      guard_(host),
+      kept_(std::make_unique<KeptPlaces>(guard_.keptPlaces())) {}
+
+PlaceJudge::~PlaceJudge() = default;
+
+PlaceKnowledge PlaceJudge::know(const std::string& path) const {
+    const auto fact = FolderKnowledge::fact(path, host_);
+    PlaceKnowledge known{.kind = finalKind(classifyPlace(path, host_, *kept_), fact),
+                         .fact = fact,
+                         .claimedBy = {},
+                         .rule = guard_.verdict(path, *kept_),
+                         .verdict = {}};
+    for (std::size_t row = 0; row < rows_->targets.size(); ++row)
+        if (covers(rows_->claims[row], path)) known.claimedBy.push_back(rows_->targets[row].id);
+    known.verdict = judge(path, known);
+    return known;
+}
+
+PlaceVerdict PlaceJudge::judge(const std::string& path, const PlaceKnowledge& known) const {
+    if (allows(known.rule)) {
+        if (const auto* row = rows_->takerOf(path)) return byRow(*row);
+        if (const auto artifact = artifactHolding(path, host_, kept_->entries()))
+            return byRow(*artifact);
+    }
+    const auto fact = nearestFact(path, host_);
+    auto verdict = byRule(known.rule, finalKind(known.kind, fact));
+    if (fact) verdict.sentence = fact->note;
+    return verdict;
+}
+
+}  // namespace tidewell
