@@ -8,11 +8,16 @@
 #include "cleanup/project_artifacts.h"
 #include "cleanup/target_catalogue.h"
 #include "deepscan/big_item_scanner.h"
+#include "deepscan/knowledge/knowledge.h"
+#include "devmode/knowledge/knowledge.h"
+#include "platform/files.h"
 #include "platform/path_text.h"
 
 namespace tidewell {
 
 namespace {
+
+using Verdict = FolderKnowledge::Verdict;
 
 /// The rows of Clean and Dev Mode but for those of projects.
 std::vector<CleanupTarget> allRows(const Host& host) {
@@ -67,11 +72,23 @@ PlaceVerdict byRule(DeletionRule rule, BigItem::Kind kind) {
     return {};
 }
 
-/// Of a path, or of the innermost folder that it lies in and of which something is known.
-std::optional<FolderKnowledge::Fact> nearestFact(std::string_view path, const Host& host) {
-    for (; isBelow(path, host.home); path = parentPath(path))
-        if (auto fact = FolderKnowledge::fact(path, host)) return fact;
-    return std::nullopt;
+using Facts = std::unordered_map<std::string, FolderKnowledge::Fact>;
+
+/// What is known of tools' virtual disks and models where they lie on this machine: what to do with
+/// them is the tool's own business.
+Facts factsOfTools(const Host& host) {
+    Facts facts;
+    const auto add = [&](const ConstantTexts& detect, const ConstantTexts& places, auto note) {
+        const auto isThere = [&](std::string_view place) { return fileExists(host.locate(place)); };
+        if (std::ranges::none_of(detect, isThere)) return;
+        for (const auto place : places)
+            facts.emplace(host.locate(place), FolderKnowledge::Fact{Verdict::mixed, note});
+    };
+    for (const auto& engine : deepScanKnowledge(host.system).engines)
+        add(engine.detect, engine.measure, engine.note);
+    for (const auto& store : devKnowledge(host.system).modelStores)
+        add(store.detect, store.measure, store.note);
+    return facts;
 }
 
 }  // namespace
@@ -100,7 +117,7 @@ std::string_view reason(DeletionRule rule) {
 
 /// What the rows would work on now, and by which of their paths they claim what is not there.
 struct PlaceJudge::Rows {
-    explicit Rows(const Host& host) : targets(allRows(host)) {
+    explicit Rows(const Host& host) : targets(allRows(host)), toolFacts(factsOfTools(host)) {
         const DiskScanner scanner(host);
         for (std::size_t row = 0; row < targets.size(); ++row) {
             claims.emplace_back();
@@ -125,6 +142,7 @@ struct PlaceJudge::Rows {
     std::vector<std::vector<TablePath>> claims;  ///< of each target
     std::unordered_map<std::string, std::size_t> places;
     std::unordered_map<std::string, std::size_t> sweptFolders;  ///< not all in them is taken
+    Facts toolFacts;
 };
 
 PlaceJudge::PlaceJudge(const Host& host)
@@ -154,10 +172,21 @@ PlaceVerdict PlaceJudge::judge(const std::string& path, const PlaceKnowledge& kn
         if (const auto artifact = artifactHolding(path, host_, kept_->entries()))
             return byRow(*artifact);
     }
-    const auto fact = nearestFact(path, host_);
-    auto verdict = byRule(known.rule, finalKind(known.kind, fact));
-    if (fact) verdict.sentence = fact->note;
+    const auto nearest = nearestFact(path);
+    if (!nearest) return byRule(known.rule, known.kind);
+    auto verdict = byRule(known.rule, nearest->isOfTool ? BigItem::Kind::appData
+                                                        : finalKind(known.kind, nearest->fact));
+    verdict.sentence = nearest->fact.note;
     return verdict;
+}
+
+std::optional<PlaceJudge::Nearest> PlaceJudge::nearestFact(std::string_view path) const {
+    for (; isBelow(path, host_.home); path = parentPath(path)) {
+        if (const auto at = rows_->toolFacts.find(std::string(path)); at != rows_->toolFacts.end())
+            return Nearest{at->second, true};
+        if (const auto fact = FolderKnowledge::fact(path, host_)) return Nearest{*fact, false};
+    }
+    return std::nullopt;
 }
 
 }  // namespace tidewell

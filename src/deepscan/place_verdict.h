@@ -56,7 +56,14 @@ class PlaceJudge {
  private:
     struct Rows;
 
+    /// The fact about a path, or about the innermost folder around it of which one is known.
+    struct Nearest {
+        FolderKnowledge::Fact fact;
+        bool isOfTool = false;  ///< about a tool's own disks or models
+    };
+
     PlaceVerdict judge(const std::string& path, const PlaceKnowledge& known) const;
+    std::optional<Nearest> nearestFact(std::string_view path) const;
 
     Host host_;
     std::unique_ptr<const Rows> rows_;
