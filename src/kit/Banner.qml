@@ -23,10 +23,23 @@ Item {
 
     implicitHeight: words.implicitHeight + 24
     z: 1
+    onVisibleChanged: {
+        if (visible && Motion.hasPassages)
+            coming.restart()
+    }
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title
     Accessible.description: line
 
+    NumberAnimation {
+        id: coming
+        target: root
+        property: "opacity"
+        from: 0
+        to: 1
+        duration: Theme.comeTime
+        easing.type: Easing.OutCubic
+    }
     GlowBox {
         anchors.fill: parent
         cornerRadius: Theme.radius

@@ -62,6 +62,7 @@ T.Popup {
 
     T.Overlay.modal: Rectangle {
         color: Theme.scrim
+        Fade on opacity {}
     }
     background: GlowBox {
         cornerRadius: Theme.radiusPanel

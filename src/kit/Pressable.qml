@@ -17,7 +17,8 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    opacity: enabled ? 1 : Theme.disabledOpacity
+    // Not where all around it takes no press for a while.
+    opacity: enabled || parent?.enabled === false ? 1 : Theme.disabledOpacity
     scale: pressed ? pressedScale : 1
 
     Accessible.name: text

@@ -13,17 +13,33 @@ Column {
     property double progress: -1
     property real barWidth: 260
 
+    // The last of each: a tool that is ready has none, and they are in sight while this goes.
+    property string lastSymbol
+    property string lastTitle
+    property string lastLine
+
+    function keep() {
+        if (title === "" || symbol === "")
+            return
+        lastSymbol = symbol
+        lastTitle = title
+        lastLine = line
+    }
+    onSymbolChanged: keep()
+    onTitleChanged: keep()
+    onLineChanged: keep()
+
     spacing: 0
 
     GlossyBlob {
         anchors.horizontalCenter: parent.horizontalCenter
         size: 92
-        symbol: root.symbol
+        symbol: root.lastSymbol
     }
     Item { width: 1; height: 30 }
     Label {
         anchors.horizontalCenter: parent.horizontalCenter
-        text: root.title
+        text: root.lastTitle
         size: Theme.sizeHeading
         weight: Font.DemiBold
         Accessible.role: Accessible.Heading
@@ -32,7 +48,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         visible: text !== ""
         topPadding: 5
-        text: root.line
+        text: root.lastLine
         size: Theme.sizeNote
         color: Theme.secondary
     }
@@ -42,7 +58,7 @@ Column {
         visible: root.progress >= 0
         width: root.barWidth
         fraction: root.progress
-        Accessible.name: root.title
+        Accessible.name: root.lastTitle
     }
     Spinner {
         anchors.horizontalCenter: parent.horizontalCenter

@@ -56,8 +56,10 @@ Surface {
 
                 background: Item {
                     GlowBox {
+                        id: fill
                         anchors.fill: parent
-                        visible: segment.isChosen
+                        opacity: segment.isChosen ? 1 : 0
+                        visible: opacity > 0
                         cornerRadius: height / 2
                         reach: 18
                         glow: Theme.withOpacity(segment.Ambient.palette.primary, 0.22)
@@ -65,6 +67,7 @@ Surface {
                         fillBottom: Theme.raisedBottom(segment.Ambient.palette.primary, 0)
                         rim: Theme.raisedRim
                         shade: 0.2
+                        Fade on opacity {}
                     }
                     Rectangle {
                         anchors.fill: parent
@@ -78,8 +81,9 @@ Surface {
                     text: segment.label
                     size: Theme.sizeControl
                     weight: segment.isChosen ? Font.DemiBold : Font.Medium
-                    tint: segment.isChosen ? Theme.textOn(segment.Ambient.palette.primary)
-                                           : Theme.quiet(segment.lift)
+                    // Readable at each moment of the fill's coming and going.
+                    tint: fill.opacity > 0.5 ? Theme.textOn(segment.Ambient.palette.primary)
+                                             : Theme.quiet(segment.lift)
                 }
             }
         }

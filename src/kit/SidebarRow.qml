@@ -9,6 +9,8 @@ Pressable {
     property alias label: root.text
     property bool isActive: false
     property sectionPalette sectionPalette: Ambient.palette
+    /// Words are readable at each moment of the fill's coming and going.
+    readonly property bool isFilled: fill.opacity > 0.5
 
     implicitHeight: 42
     leftPadding: 10
@@ -22,14 +24,17 @@ Pressable {
 
     background: Item {
         GlowBox {
+            id: fill
             anchors.fill: parent
-            visible: root.isActive
+            opacity: root.isActive ? 1 : 0
+            visible: opacity > 0
             cornerRadius: root.cornerRadius
             reach: 24
             glow: Theme.withOpacity(root.sectionPalette.primary, 0.45)
             fillTop: Theme.raisedTop(root.sectionPalette.primary, 0)
             fillBottom: Theme.raisedBottom(root.sectionPalette.primary, 0)
             rim: Theme.raisedRim
+            Fade on opacity {}
         }
         Rectangle {
             anchors.fill: parent
@@ -56,7 +61,7 @@ Pressable {
             text: root.label
             size: Theme.sizeRow
             weight: root.isActive ? Font.DemiBold : Font.Medium
-            color: root.isActive ? Theme.textOn(root.sectionPalette.primary)
+            color: root.isFilled ? Theme.textOn(root.sectionPalette.primary)
                                  : Theme.quiet(root.lift)
             elide: Text.ElideRight
             Accessible.ignored: true

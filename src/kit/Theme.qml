@@ -70,6 +70,9 @@ QtObject {
     readonly property real widestContent: 1120
     readonly property real longestLine: 640
 
+    /// What comes and what goes in its place.
+    readonly property int comeTime: 180
+    readonly property int goTime: 120
     readonly property int hoverTime: 170
     readonly property int pressTime: 110
     readonly property int accentTime: 450

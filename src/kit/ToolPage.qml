@@ -56,7 +56,7 @@ FocusScope {
         body.isLeft = false
         if (isLeft)
             buttons.nextItemInFocusChain().forceActiveFocus(body.lastReason)
-        else if (note.visible && note.buttonLabel !== "")
+        else if (note.isWanted && note.buttonLabel !== "")
             note.focus = true
     }
 
@@ -88,26 +88,42 @@ FocusScope {
     StartNote {
         id: note
 
-        readonly property bool isStart: root.phase === ToolPage.Start
+        readonly property bool isWanted: root.phase === ToolPage.Start || root.phase === ToolPage.Nothing
+        /// What it tells, also while it goes.
+        property bool isStart: true
+
+        function follow() {
+            if (isWanted)
+                isStart = root.phase === ToolPage.Start
+        }
 
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -8
-        visible: isStart || root.phase === ToolPage.Nothing
+        enabled: isWanted
+        opacity: isWanted ? 1 : 0
+        visible: opacity > 0
+        onIsWantedChanged: follow()
+        Component.onCompleted: follow()
         symbol: root.symbol
         title: isStart ? root.startTitle : root.nothingTitle
         line: isStart ? root.startLine : root.nothingLine
         buttonSymbol: isStart ? root.startSymbol : ""
         buttonLabel: isStart ? root.startLabel : root.nothingLabel
         onStarted: isStart ? root.started() : root.leftNothing()
+
+        Fade on opacity {}
     }
     ScanningNote {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -8
-        visible: root.phase === ToolPage.Scanning
+        opacity: root.phase === ToolPage.Scanning ? 1 : 0
+        visible: opacity > 0
         symbol: root.symbol
         title: root.scanningTitle
         line: root.scanningLine
         progress: root.progress
+
+        Fade on opacity {}
     }
     LeftOutNote {
         anchors.left: parent.left
@@ -166,7 +182,7 @@ FocusScope {
         property: "opacity"
         from: 0
         to: 1
-        duration: 180
+        duration: Theme.comeTime
         easing.type: Easing.OutCubic
     }
 }

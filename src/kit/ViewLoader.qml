@@ -8,13 +8,13 @@ import Tidewell
 FocusScope {
     id: root
 
-    property int fadeTime: 180
+    property int fadeTime: Theme.comeTime
     property int fadeCurve: Easing.OutCubic
     /// How far a new view comes up, in points.
     property real rise: 8
 
     readonly property Item item: current.item as Item
-    readonly property int leaveTime: Math.min(120, fadeTime)
+    readonly property int leaveTime: fadeTime * Theme.goTime / Theme.comeTime
 
     /// Whether the user is on the way by keyboard, so that a new view shows where it is.
     property bool showsFocus: false
@@ -53,8 +53,12 @@ FocusScope {
 
         property real lift: 0
         property bool hasKeyboard: false
+        /// Its colours as they were last seen: it keeps them on its way out.
+        property sectionPalette seen
+        readonly property sectionPalette given: root.Ambient.palette
 
         anchors.fill: parent
+        onGivenChanged: Qt.callLater(see)
         transform: Translate { y: place.lift }
         onLoaded: {
             const view = item as Item
@@ -63,8 +67,14 @@ FocusScope {
                 view.forceActiveFocus(root.showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
         }
 
+        function see() {
+            if (!leaving.running)
+                seen = given
+        }
+
         function come(view: url, given: var) {
             leaving.stop()
+            Ambient.palette = undefined
             enabled = true
             focus = true
             setSource(view, given)
@@ -77,6 +87,7 @@ FocusScope {
         function leave() {
             coming.stop()
             if (root.Motion.hasPassages && item) {
+                Ambient.palette = seen
                 enabled = false
                 leaving.restart()
             } else {

@@ -1,7 +1,8 @@
-// tidewell-gallery DIR [--system macos|linux] [--scale N] [--only WORD] [--size WxH]: draws every
-// component in every state, one picture a page, and the window with each screen in each state, as
-// it is over a machine of that system. Fails if the pictures would not show what people see, or if
-// anything drawn makes Qt complain.
+// tidewell-gallery DIR [--system macos|linux] [--scale N] [--only WORD] [--size WxH] [--motion]:
+// draws every component in every state, one picture a page, and the window with each screen in each
+// state, as it is over a machine of that system. Fails if the pictures would not show what people
+// see, or if anything drawn makes Qt complain. With --motion it draws, instead, whatever moves in
+// the window as strips of frames, as if there were a graphics card.
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
@@ -17,7 +18,12 @@
 
 #include "kit/qt/module.h"
 #include "kit/qt/motion.h"
+#include "kit/qt/window_drawing.h"
+#include "motion/passages.h"
+#include "motion/stepped_time.h"
+#include "motion/strip.h"
 #include "screens/states.h"
+#include "shell/qt/film_player.h"
 #include "shell/qt/popover.h"
 #include "shell/qt/qt_main_loop.h"
 #include "support/accessible_tree.h"
@@ -67,8 +73,11 @@ struct Order {
         draw(window);
         if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::OpenGL)
             return complain("the components can only be seen with OpenGL: run this with a display");
+        save(window.grabWindow(), name);
+    }
+    void save(const QImage& picture, const QString& name) const {
         const auto file = folder.filePath(name + suffix + ".png");
-        if (!window.grabWindow().save(file)) complain("cannot write " + file);
+        if (!picture.save(file)) complain("cannot write " + file);
     }
 };
 
@@ -90,13 +99,18 @@ void drawPages(const Order& order) {
     for (const auto& page : pages) drawPage(page, order);
 }
 
-void press(QQuickWindow& window, const QString& name) {
-    draw(window);
-    auto* control = test::findAccessible(window, [&](QAccessibleInterface& place) {
+QAccessibleInterface* control(QQuickWindow& window, const QString& name) {
+    auto* found = test::findAccessible(window, [&](QAccessibleInterface& place) {
         return place.text(QAccessible::Name) == name && place.actionInterface();
     });
-    if (!control) return complain("there is no " + name + " to press");
-    control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    if (!found) complain("there is no " + name + " to press");
+    return found;
+}
+
+void press(QQuickWindow& window, const QString& name) {
+    draw(window);
+    if (auto* found = control(window, name))
+        found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 void drawScreens(const Order& order) {
@@ -121,6 +135,60 @@ void drawPopover(const Order& order) {
     order.save(*popover.window(), name);
 }
 
+void drawPictures(const Order& order) {
+    Motion::setReduced(true);  // a picture shows where a passage leads
+    drawPages(order);
+    drawScreens(order);
+    drawPopover(order);
+}
+
+void begin(const Passage& passage, Sample& sample) {
+    auto& window = sample.window->window();
+    if (passage.cause.to) state(passage.cause.to).setUp(sample);
+    if (passage.cause.change) passage.cause.change(sample);
+    if (passage.cause.pressed) press(window, passage.cause.pressed);
+    const auto* place =
+        passage.cause.pointedAt ? control(window, passage.cause.pointedAt) : nullptr;
+    if (place) QCursor::setPos(place->rect().center());
+}
+
+/// The first frames follow each other as they do for the user; what lasts is seen less often.
+std::vector<int> timesOf(const Passage& passage) {
+    constexpr int shown = 12;
+    std::vector<int> times;
+    for (int index = 0; index < shown; ++index) {
+        const double share = static_cast<double>(index) / (shown - 1);
+        times.push_back(std::max(16 * index, static_cast<int>(passage.lasts * share * share)));
+    }
+    return times;
+}
+
+void drawPassage(const Passage& passage, SteppedTime& time, const Order& order) {
+    Sample sample(order.system);
+    auto& window = sample.window->window();
+    window.resize(order.size);
+    const auto& from = state(passage.from);
+    from.setUp(sample);
+    draw(window);
+    WindowDrawing::of(&window)->assume(Drawing::byGraphicsCard);
+    if (from.pressed) press(window, from.pressed);
+    time.pass(3000, false);
+    std::vector<Frame> frames{{0, window.grabWindow()}};
+    begin(passage, sample);
+    for (int now = 0; const int next : timesOf(passage)) {
+        time.pass(next - now, passage.cause.hasFilm);
+        now = next;
+        frames.push_back({now, window.grabWindow()});
+    }
+    order.save(strip(frames), QString("motion-") + passage.name);
+}
+
+void drawMotion(const Order& order) {
+    SteppedTime time;
+    for (const auto& passage : passages())
+        if (order.wants(QString("motion-") + passage.name)) drawPassage(passage, time, order);
+}
+
 int run(int count, char** words) {
     QStringList arguments;
     for (int i = 0; i < count; ++i) arguments << QString::fromLocal8Bit(words[i]);
@@ -129,18 +197,21 @@ int run(int count, char** words) {
     const QCommandLineOption only("only", "Draw only pictures with this in their name.", "WORD");
     const QCommandLineOption size("size", "The window's size in points.", "WxH", "1120x740");
     const QCommandLineOption system("system", "The machine's: macos or linux.", "SYSTEM", "macos");
-    parser.addOptions({scale, only, size, system});
+    const QCommandLineOption motion("motion", "Draw strips of whatever moves.");
+    parser.addOptions({scale, only, size, system, motion});
     parser.addPositionalArgument("DIR", "Where to put the pictures.");
     parser.process(arguments);
     const auto lengths = parser.value(size).split('x');
     if (parser.positionalArguments().size() != 1 || lengths.size() != 2) parser.showHelp(2);
 
     qputenv("QT_SCALE_FACTOR", parser.value(scale).toLocal8Bit());
+    if (parser.isSet(motion))
+        qputenv("QSG_RENDER_LOOP", "basic");  // time is stepped where it draws
+    chooseFilmPlayer();
     const QGuiApplication application(count, words);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(countWarnings);
     const QtMainLoop loop;
-    Motion::setReduced(true);  // a picture shows where a passage leads
 
     const Order order{
         .folder = QDir(parser.positionalArguments().first()),
@@ -150,9 +221,10 @@ int run(int count, char** words) {
         .system = parser.value(system) == "linux" ? System::linux : System::macOS,
     };
     if (!order.folder.mkpath(".")) complain("cannot make " + order.folder.path());
-    drawPages(order);
-    drawScreens(order);
-    drawPopover(order);
+    if (parser.isSet(motion))
+        drawMotion(order);
+    else
+        drawPictures(order);
     return complaints == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

@@ -10,8 +10,11 @@ FocusScope {
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
         y: Theme.ringCentre(parent.height) - 95
-        visible: root.screen.isCleaning
+        opacity: root.screen.isCleaning ? 1 : 0
+        visible: opacity > 0
         spacing: Theme.gapHuge
+
+        Fade on opacity {}
 
         ProgressRing {
             anchors.horizontalCenter: parent.horizontalCenter

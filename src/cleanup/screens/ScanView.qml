@@ -17,22 +17,33 @@ FocusScope {
             width: 200
             height: 200
 
-            ScanCircleButton {
-                anchors.centerIn: parent
-                visible: !root.screen.isScanning
+            FocusScope {
+                anchors.fill: parent
+                enabled: !root.screen.isScanning
+                opacity: enabled ? 1 : 0
+                visible: opacity > 0
                 focus: true
-                symbol: "sparkles"
-                title: root.screen.scanLabel
-                onClicked: root.screen.startScan()
+
+                Fade on opacity {}
+
+                ScanCircleButton {
+                    focus: true
+                    symbol: "sparkles"
+                    title: root.screen.scanLabel
+                    onClicked: root.screen.startScan()
+                }
             }
             ProgressRing {
                 anchors.centerIn: parent
-                visible: root.screen.isScanning
+                opacity: root.screen.isScanning ? 1 : 0
+                visible: opacity > 0
                 diameter: 200
                 share: root.screen.progress
                 percent: root.screen.percent
                 symbol: "sparkles"
                 caption: "scanning"
+
+                Fade on opacity {}
             }
         }
 

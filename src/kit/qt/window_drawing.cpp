@@ -56,6 +56,12 @@ bool WindowDrawing::isSeenAndActive() const {
            window_->visibility() != QWindow::Minimized;
 }
 
+void WindowDrawing::assume(Drawing drawing) {
+    disconnect(window_, &QQuickWindow::beforeRendering, this, &WindowDrawing::look);
+    drawing_ = drawing;
+    emit changed();
+}
+
 /// In the thread that draws.
 void WindowDrawing::look() {
     const auto found = drawingOf(*window_);

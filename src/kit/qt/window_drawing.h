@@ -17,6 +17,8 @@ class WindowDrawing : public QObject {
 
     bool isSeenAndActive() const;
     Drawing drawing() const { return drawing_; }
+    /// Has everything move as it does on such a machine, whatever draws here.
+    void assume(Drawing drawing);
 
  signals:
     void changed();

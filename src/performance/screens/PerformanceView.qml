@@ -45,16 +45,22 @@ FocusScope {
         Item {
             MemoryPanel {
                 anchors.fill: parent
-                visible: root.screen.showsMemory
+                opacity: root.screen.showsMemory ? 1 : 0
+                visible: opacity > 0
                 screen: root.screen
                 margin: page.margin
                 onDeserted: reason => rescan.forceActiveFocus(reason)
+
+                Fade on opacity {}
             }
             StartupPanel {
                 anchors.fill: parent
-                visible: !root.screen.showsMemory
+                opacity: root.screen.showsMemory ? 0 : 1
+                visible: opacity > 0
                 screen: root.screen
                 margin: page.margin
+
+                Fade on opacity {}
             }
         }
     }

@@ -60,14 +60,17 @@ Item {
             PartOfRing {
                 id: pulse
                 anchors.fill: parent
-                visible: segment.warming
+                visible: shown > 0
                 tint: segment.accent.primary
                 start: segment.start
                 fill: 1
                 track: 0
-                opacity: 0.3 * strength
+                opacity: 0.3 * strength * shown
 
                 property real strength: 1
+                property real shown: segment.warming ? 1 : 0
+
+                Fade on shown {}
 
                 SequentialAnimation {
                     running: pulse.visible && root.Motion.isAllowed

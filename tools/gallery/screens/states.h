@@ -30,6 +30,8 @@ std::vector<ScreenState> deepScanStates();
 std::vector<ScreenState> advisorStates();
 
 /// All of them.
-std::vector<ScreenState> screenStates();
+const std::vector<ScreenState>& screenStates();
+/// The one of that name, which there is.
+const ScreenState& state(const char* name);
 
 }  // namespace tidewell::gallery
