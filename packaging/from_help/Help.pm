@@ -31,7 +31,8 @@ sub choices {
 # An entry has two columns: what is typed and, behind two blanks or on the next line, its meaning.
 sub read_ {
     my @words = @_;
-    open my $output, '-|', @words, '--help' or die "cannot start $words[0]: $!\n";
+    my @emulator = split ' ', $ENV{TIDEWELL_EMULATOR} // '';  # for another architecture's programs
+    open my $output, '-|', @emulator, @words, '--help' or die "cannot start $words[0]: $!\n";
     my %help = (options => [], arguments => [], commands => []);
     my ($entry, $section) = (undef, '');
     while (my $line = <$output>) {

@@ -6,24 +6,24 @@ import Tidewell
 /// What stands on a page takes its sizes from here; a figure of its own is left to what has one place
 /// in the whole program, such as a gauge.
 QtObject {
-    // Text, from the smallest, each size by what it is for.
-    readonly property real sizeTiny: 10      // an identifier below a name
-    readonly property real sizeTag: 10.5     // a word in a box
-    readonly property real sizeMinor: 11     // marks and captions
-    readonly property real sizeDetail: 11.5  // what is told of a row
-    readonly property real sizeNote: 12      // notes, headings in small print
-    readonly property real sizeControl: 12.5 // small buttons, pills, rows that are no list
-    readonly property real sizeText: 13      // running text
-    readonly property real sizeRow: 13.5     // the name of a row, a line below a title, a button
-    readonly property real sizeCard: 15.5    // the name of a card
-    readonly property real sizeHeading: 17   // of a part of a page
-    readonly property real sizeUnit: 18      // of a large figure
-    readonly property real sizePlacard: 20   // what stands alone on a page
-    readonly property real sizeTotal: 23     // a sum
-    readonly property real sizeTitle: 27     // of a page
-    readonly property real sizeRing: 30      // a figure in a ring
-    readonly property real sizeHero: 38      // the one thing that counts right now
-    readonly property real sizeFigure: 54    // a page's one large figure
+    // Text, from the smallest, each size by what it is for. Fonts take whole points alone.
+    readonly property int sizeTiny: 10      // an identifier below a name
+    readonly property int sizeTag: 10       // a word in a box
+    readonly property int sizeMinor: 11     // marks and captions
+    readonly property int sizeDetail: 11    // what is told of a row
+    readonly property int sizeNote: 12      // notes, headings in small print
+    readonly property int sizeControl: 12   // small buttons, pills, rows that are no list
+    readonly property int sizeText: 13      // running text
+    readonly property int sizeRow: 13       // the name of a row, a line below a title, a button
+    readonly property int sizeCard: 15      // the name of a card
+    readonly property int sizeHeading: 17   // of a part of a page
+    readonly property int sizeUnit: 18      // of a large figure
+    readonly property int sizePlacard: 20   // what stands alone on a page
+    readonly property int sizeTotal: 23     // a sum
+    readonly property int sizeTitle: 27     // of a page
+    readonly property int sizeRing: 30      // a figure in a ring
+    readonly property int sizeHero: 38      // the one thing that counts right now
+    readonly property int sizeFigure: 54    // a page's one large figure
 
     // Symbols beside text.
     readonly property real symbolTiny: 12

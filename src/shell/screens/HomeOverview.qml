@@ -64,10 +64,10 @@ FocusScope {
             Grid {
                 id: tools
 
-                readonly property real cardWidth: (width - columnSpacing) / columns
+                readonly property real cardWidth: (width - (columns - 1) * columnSpacing) / columns
 
                 width: parent.width
-                columns: 2
+                columns: root.width > 1240 ? 4 : 2  // a window of about 1500
                 columnSpacing: Theme.gap
                 rowSpacing: Theme.gap
 

@@ -9,7 +9,10 @@ Pressable {
     property string lines
     property string value
 
-    implicitHeight: 108
+    /// With its result below its words, for both do not fit side by side.
+    readonly property bool isNarrow: width < 300
+
+    implicitHeight: isNarrow ? 140 : 108
     padding: 20
     cornerRadius: Theme.radiusCard
     pressedScale: 0.985
@@ -23,6 +26,7 @@ Pressable {
         GlossyBlob {
             id: blob
             anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenterOffset: root.isNarrow ? -16 : 0
             size: 50
             symbol: root.symbol
             lift: root.lift
@@ -30,7 +34,7 @@ Pressable {
         Column {
             anchors.left: blob.right
             anchors.leftMargin: Theme.gapWide
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenter: blob.verticalCenter
             spacing: Theme.gapTight
 
             Label {

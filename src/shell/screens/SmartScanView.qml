@@ -32,7 +32,7 @@ FocusScope {
         Column {
             id: column
 
-            readonly property real margin: 24
+            readonly property real margin: Math.max(8, Math.min(24, (root.height - height) / 2))
 
             anchors.horizontalCenter: parent.horizontalCenter
             y: Math.max(margin, (parent.height - height) / 2)
