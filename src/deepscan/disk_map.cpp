@@ -82,14 +82,27 @@ std::optional<std::uint32_t> DiskMap::find(std::string_view path) const {
     return at;
 }
 
-void DiskMap::take(std::uint32_t node) {
-    if (node == 0) return;
-    const auto bytes = nodes_[node].bytes;
-    for (auto above = node; above != 0;) {
-        above = nodes_[above].parent;
-        nodes_[above].bytes -= bytes;
+DiskMap::Taken DiskMap::take(std::uint32_t node) {
+    if (node == 0) return {};
+    Taken taken{.node = node, .sizes = {}};
+    grow(nodes_[node].parent, -nodes_[node].bytes);
+    forEachAtOrBelow(*this, node, [&](std::uint32_t gone) {
+        taken.sizes.emplace_back(gone, std::exchange(nodes_[gone].bytes, 0));
+    });
+    return taken;
+}
+
+void DiskMap::putBack(const Taken& taken) {
+    if (taken.sizes.empty()) return;
+    for (const auto& [node, bytes] : taken.sizes) nodes_[node].bytes = bytes;
+    grow(nodes_[taken.node].parent, nodes_[taken.node].bytes);
+}
+
+void DiskMap::grow(std::uint32_t above, ByteCount bytes) {
+    for (;; above = nodes_[above].parent) {
+        nodes_[above].bytes += bytes;
+        if (above == 0) return;
     }
-    forEachAtOrBelow(*this, node, [this](std::uint32_t gone) { nodes_[gone].bytes = 0; });
 }
 
 std::array<ByteCount, mapVerdictCount> bytesByVerdict(const DiskMap& map, std::uint32_t node) {

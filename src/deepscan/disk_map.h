@@ -8,6 +8,7 @@
 #include <stop_token>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "deepscan/place_verdict.h"
@@ -52,11 +53,21 @@ class DiskMap {
     /// The node of the path, or the innermost that holds it; none outside the map.
     std::optional<std::uint32_t> find(std::string_view path) const;
 
+    /// What was taken out of the picture, and how large it was.
+    struct Taken {
+        std::uint32_t node = 0;
+        std::vector<std::pair<std::uint32_t, ByteCount>> sizes;  ///< of it and all below
+    };
+
     /// Takes a node out of the picture: it and all below it have no bytes then, its folders as much
     /// less, and what stands beside it keeps its order and its number. The top cannot be taken.
-    void take(std::uint32_t node);
+    Taken take(std::uint32_t node);
+    /// Undoes that, where nothing above it was taken since.
+    void putBack(const Taken& taken);
 
  private:
+    void grow(std::uint32_t above, ByteCount bytes);
+
     std::vector<DiskMapNode> nodes_;
 };
 

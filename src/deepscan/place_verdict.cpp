@@ -44,10 +44,12 @@ MapVerdict verdictOf(BigItem::Kind kind) {
     return MapVerdict::other;
 }
 
-PlaceVerdict byRow(const CleanupTarget& row) {
+PlaceVerdict byRow(const CleanupTarget& row, RowTool tool, BigItem::Kind kind) {
     return {.verdict = row.safety == SafetyLevel::safe ? MapVerdict::ticked : MapVerdict::review,
             .sentence = row.detail,
-            .row = row.title};
+            .row = row.title,
+            .tool = tool,
+            .kind = kind};
 }
 
 /// What must stay is no thing that is made again, whatever its name.
@@ -117,7 +119,8 @@ std::string_view reason(DeletionRule rule) {
 
 /// What the rows would work on now, and by which of their paths they claim what is not there.
 struct PlaceJudge::Rows {
-    explicit Rows(const Host& host) : targets(allRows(host)), toolFacts(factsOfTools(host)) {
+    explicit Rows(const Host& host)
+        : system(host.system), targets(allRows(host)), toolFacts(factsOfTools(host)) {
         const DiskScanner scanner(host);
         for (std::size_t row = 0; row < targets.size(); ++row) {
             claims.emplace_back();
@@ -138,6 +141,13 @@ struct PlaceJudge::Rows {
         return nullptr;
     }
 
+    /// Those that load models come last.
+    RowTool toolOf(const CleanupTarget& row) const {
+        const auto rowsOfClean = targets.size() - catalogueOf(system).modelCaches.size();
+        return &row < targets.data() + rowsOfClean ? RowTool::clean : RowTool::devMode;
+    }
+
+    System system;
     std::vector<CleanupTarget> targets;
     std::vector<std::vector<TablePath>> claims;  ///< of each target
     std::unordered_map<std::string, std::size_t> places;
@@ -167,16 +177,18 @@ PlaceKnowledge PlaceJudge::know(const std::string& path) const {
 }
 
 PlaceVerdict PlaceJudge::judge(const std::string& path, const PlaceKnowledge& known) const {
-    if (allows(known.rule)) {
-        if (const auto* row = rows_->takerOf(path)) return byRow(*row);
-        if (const auto artifact = artifactHolding(path, host_, kept_->entries()))
-            return byRow(*artifact);
-    }
     const auto nearest = nearestFact(path);
-    if (!nearest) return byRule(known.rule, known.kind);
-    auto verdict = byRule(known.rule, nearest->isOfTool ? BigItem::Kind::appData
-                                                        : finalKind(known.kind, nearest->fact));
-    verdict.sentence = nearest->fact.note;
+    auto kind = known.kind;
+    if (nearest)
+        kind = nearest->isOfTool ? BigItem::Kind::container : finalKind(kind, nearest->fact);
+    if (allows(known.rule)) {
+        if (const auto* row = rows_->takerOf(path)) return byRow(*row, rows_->toolOf(*row), kind);
+        if (const auto artifact = artifactHolding(path, host_, kept_->entries()))
+            return byRow(*artifact, RowTool::clean, kind);
+    }
+    auto verdict = byRule(known.rule, kind);
+    verdict.kind = kind;
+    if (nearest) verdict.sentence = nearest->fact.note;
     return verdict;
 }
 

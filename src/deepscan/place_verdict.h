@@ -25,11 +25,16 @@ enum class MapVerdict {
 
 inline constexpr std::size_t mapVerdictCount = 6;
 
+/// The tool that has a row for a thing.
+enum class RowTool { none, clean, devMode };
+
 /// A verdict, and the sentence about the thing itself: a row's, a fact's or a rule's.
 struct PlaceVerdict {
     MapVerdict verdict = MapVerdict::other;
     std::string sentence = {};  ///< may be empty
     std::string row = {};       ///< the title of the row that takes it; empty if there is none
+    RowTool tool = RowTool::none;
+    BigItem::Kind kind = BigItem::Kind::other;  ///< what may be done with it, as with a big item
 };
 
 /// All that the program knows of a path, whether something stands there or not.

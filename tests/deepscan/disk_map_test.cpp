@@ -88,6 +88,11 @@ TEST(DiskMap, FindsItsNodesAndLosesWhatIsTaken) {
 
     const auto npm = map.find(machine.path("~/.npm"));
     EXPECT_EQ(map[*npm].verdict.verdict, MapVerdict::ticked);
+    const auto nodes = std::vector(map.nodes().begin(), map.nodes().end());
+    const auto taken = map.take(*npm);
+    map.putBack(taken);
+    for (std::size_t at = 0; at < nodes.size(); ++at)
+        EXPECT_EQ(map.nodes()[at].bytes, nodes[at].bytes);
     map.take(*npm);
     map.take(*one);
     map.take(0);
