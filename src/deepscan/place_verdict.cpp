@@ -66,6 +66,7 @@ PlaceVerdict byRule(DeletionRule rule, BigItem::Kind kind) {
         case DeletionRule::buildFolder:
             return {.verdict = verdict, .sentence = sentence};
         case DeletionRule::outsideHome:
+            return {};
         case DeletionRule::namedCache:
         case DeletionRule::deletableRoot:
         case DeletionRule::openFolder:
@@ -120,7 +121,7 @@ std::string_view reason(DeletionRule rule) {
 /// What the rows would work on now, and by which of their paths they claim what is not there.
 struct PlaceJudge::Rows {
     explicit Rows(const Host& host)
-        : system(host.system), targets(allRows(host)), toolFacts(factsOfTools(host)) {
+        : system{host.system}, targets(allRows(host)), toolFacts(factsOfTools(host)) {
         const DiskScanner scanner(host);
         for (std::size_t row = 0; row < targets.size(); ++row) {
             claims.emplace_back();

@@ -6,6 +6,9 @@ import Tidewell
 T.ToolTip {
     id: root
 
+    /// What more there is to say, below it.
+    property string line
+
     x: Math.round(((parent ? parent.width : 0) - width) / 2)
     y: -height - 8
     delay: 600
@@ -16,9 +19,23 @@ T.ToolTip {
     verticalPadding: 8
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
-    contentItem: Label {
-        text: root.text
-        size: Theme.sizeNote
+    contentItem: Column {
+        spacing: Theme.gapHair
+
+        Label {
+            text: root.text
+            size: Theme.sizeNote
+            weight: root.line === "" ? Font.Normal : Font.DemiBold
+        }
+        Label {
+            width: Math.min(implicitWidth, 300)
+            visible: root.line !== ""
+            text: root.line
+            size: Theme.sizeNote
+            color: Theme.secondary
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
     }
     background: Rectangle {
         radius: Theme.radiusSmall

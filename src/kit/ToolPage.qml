@@ -18,6 +18,8 @@ FocusScope {
     property bool hasHeader: phase !== ToolPage.Start
     /// At the right of the title.
     property alias actions: buttons.data
+    /// The one at which the keyboard goes on when what it was at has gone.
+    property Item firstAction: null
 
     property string startTitle
     property string startLine
@@ -55,7 +57,7 @@ FocusScope {
         const isLeft = body.isLeft
         body.isLeft = false
         if (isLeft)
-            buttons.nextItemInFocusChain().forceActiveFocus(body.lastReason)
+            (firstAction ?? buttons.nextItemInFocusChain()).forceActiveFocus(body.lastReason)
         else if (note.isWanted && note.buttonLabel !== "")
             note.focus = true
     }

@@ -18,6 +18,7 @@ ContentView::ContentView(Application& application)
     : cleanupModel(std::make_shared<CleanupViewModel>(application.host)),
       appsModel(std::make_shared<AppsViewModel>(application.host)),
       deepScanModel(std::make_shared<DeepScanViewModel>(application.host)),
+      diskMapModel(std::make_shared<DiskMapViewModel>(deepScanModel)),
       advisorModel(std::make_shared<AdvisorViewModel>(application.host)),
       performanceModel(std::make_shared<PerformanceViewModel>(application.host)),
       devModeModel(std::make_shared<DevModeViewModel>(application.host)),

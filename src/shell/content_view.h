@@ -13,6 +13,7 @@
 #include "cleanup/cleanup_view_model.h"
 #include "cleanup/live_sums.h"
 #include "deepscan/deep_scan_view_model.h"
+#include "deepscan/disk_map_view_model.h"
 #include "devmode/dev_mode_view_model.h"
 #include "performance/performance_view_model.h"
 #include "platform/user_defaults.h"
@@ -41,6 +42,7 @@ class ContentView : public std::enable_shared_from_this<ContentView> {
     const std::shared_ptr<CleanupViewModel> cleanupModel;
     const std::shared_ptr<AppsViewModel> appsModel;
     const std::shared_ptr<DeepScanViewModel> deepScanModel;
+    const std::shared_ptr<DiskMapViewModel> diskMapModel;
     const std::shared_ptr<AdvisorViewModel> advisorModel;
     const std::shared_ptr<PerformanceViewModel> performanceModel;
     const std::shared_ptr<DevModeViewModel> devModeModel;

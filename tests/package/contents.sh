@@ -30,6 +30,7 @@ cat >"$work/expected" <<END
 -rw-r--r-- root/root usr/share/doc/tidewell/changelog.gz
 -rw-r--r-- root/root usr/share/doc/tidewell/copyright
 -rw-r--r-- root/root usr/share/icons/hicolor/scalable/apps/io.tidewell.Tidewell.svg
+-rw-r--r-- root/root usr/share/lintian/overrides/tidewell
 -rw-r--r-- root/root usr/share/man/man1/tidewell-cli.1.gz
 -rw-r--r-- root/root usr/share/man/man1/tidewell.1.gz
 -rw-r--r-- root/root usr/share/metainfo/io.tidewell.Tidewell.metainfo.xml

@@ -7,6 +7,7 @@
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
 #include <QtCore/qelapsedtimer.h>
+#include <QtCore/qthreadpool.h>
 #include <QtGui/qcursor.h>
 #include <QtGui/qguiapplication.h>
 #include <QtQml/qqmlengine.h>
@@ -57,6 +58,7 @@ void draw(QQuickWindow& window) {
     while (frames < 3 && clock.elapsed() < 20000) {
         window.update();
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        QThreadPool::globalInstance()->waitForDone();  // pictures that are painted meanwhile
     }
 }
 
@@ -107,10 +109,13 @@ QAccessibleInterface* control(QQuickWindow& window, const QString& name) {
     return found;
 }
 
-void press(QQuickWindow& window, const QString& name) {
-    draw(window);
-    if (auto* found = control(window, name))
-        found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+/// One control after the other, with " > " between their names.
+void press(QQuickWindow& window, const QString& names) {
+    for (const auto& name : names.split(" > ")) {
+        draw(window);
+        if (auto* found = control(window, name))
+            found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
 }
 
 void drawScreens(const Order& order) {

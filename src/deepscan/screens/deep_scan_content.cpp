@@ -186,6 +186,11 @@ RiskBucket riskBucket(BigItem::Kind kind) {
     return RiskBucket::other;
 }
 
+std::vector<FaceChoice> faceChoices(DeepScanFace chosen) {
+    return {{DeepScanFace::list, "List", chosen == DeepScanFace::list},
+            {DeepScanFace::map, "Map", chosen == DeepScanFace::map}};
+}
+
 RiskBucketLook look(RiskBucket bucket) {
     const auto& row = bucketRows.at(static_cast<std::size_t>(bucket));
     return {.title = row.title,

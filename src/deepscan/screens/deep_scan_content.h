@@ -52,8 +52,22 @@ bool asksBeforeTrashing(BigItem::Kind kind);
 /// How long a copied command's button says so.
 inline constexpr std::chrono::seconds copiedDuration{2};
 
+/// How the tool shows what it knows.
+enum class DeepScanFace { list, map };
+
+struct FaceChoice {
+    DeepScanFace face;
+    std::string_view label;
+    bool isChosen = false;
+
+    bool operator==(const FaceChoice&) const = default;
+};
+
+std::vector<FaceChoice> faceChoices(DeepScanFace chosen);
+
 /// What the screen itself remembers; lost when it is left.
 struct DeepScanScreenState {
+    DeepScanFace face = DeepScanFace::list;
     std::optional<RiskBucket> viewingBucket;  ///< the first that has some, if this one has none
     std::optional<BigItem> pendingTrash;      ///< awaits the user's answer
     std::set<std::string> copiedItems;  ///< ids of the items whose command was copied just now

@@ -28,6 +28,15 @@ std::vector<ListModel<RiskRow>::Role> rowRoles() {
     };
 }
 
+std::string faceKey(const FaceChoice& choice) {
+    return std::string(choice.label);
+}
+
+std::vector<ListModel<FaceChoice>::Role> faceRoles() {
+    return {{"label", [](const FaceChoice& choice) { return toText(choice.label); }},
+            {"isChosen", [](const FaceChoice& choice) { return choice.isChosen; }}};
+}
+
 std::string cardKey(const BigItemCard& card) {
     return card.item.id;
 }
@@ -59,13 +68,16 @@ std::vector<ListModel<BigItemCard>::Role> cardRoles() {
 
 }  // namespace
 
-DeepScanScreen::DeepScanScreen(std::shared_ptr<DeepScanViewModel> model, Workspace workspace,
-                               QObject* parent)
+DeepScanScreen::DeepScanScreen(std::shared_ptr<DeepScanViewModel> model,
+                               std::shared_ptr<DiskMapViewModel> mapModel,
+                               const Workspace& workspace, QObject* parent)
     : Screen(parent),
       model_(std::move(model)),
-      workspace_(std::move(workspace)),
+      workspace_(workspace),
       rail_(rowKey, rowRoles(), this),
-      cards_(cardKey, cardRoles(), this) {
+      cards_(cardKey, cardRoles(), this),
+      faces_(faceKey, faceRoles(), this),
+      map_(std::move(mapModel), workspace, this) {
     observe(model_->willChange);
     update();
 }
@@ -74,6 +86,7 @@ void DeepScanScreen::update() {
     content_ = deepScanContent(*model_, state_);
     if (content_.banner) banner_ = *content_.banner;
     if (content_.confirmation) question_ = *content_.confirmation;
+    faces_.set(faceChoices(state_.face));
     rail_.set(content_.rail);
     cards_.set(content_.cards);
 }
@@ -91,6 +104,21 @@ void DeepScanScreen::open() {
 
 void DeepScanScreen::scan() {
     spawn(model_, &DeepScanViewModel::scan);
+}
+
+void DeepScanScreen::chooseFace(int row) {
+    const auto* chosen = faces_.at(row);
+    if (!chosen) return;
+    state_.face = chosen->face;
+    refresh();
+    if (showsMap()) map_.open();
+}
+
+void DeepScanScreen::stopMap() {
+    map_.stop();
+    if (map_.hasPicture()) return;
+    state_.face = DeepScanFace::list;
+    refresh();
 }
 
 void DeepScanScreen::viewBucket(int row) {
@@ -116,11 +144,16 @@ void DeepScanScreen::copyCommand(int row) {
 }
 
 void DeepScanScreen::trash(int row) {
-    const auto* card = cards_.atRest(row);
-    if (!card) return;
-    const auto item = card->item;
-    if (!asksBeforeTrashing(item.kind)) return move(item);
-    state_.pendingTrash = item;
+    if (const auto* card = cards_.atRest(row)) wishToTrash(card->item);
+}
+
+void DeepScanScreen::trashFromMap() {
+    if (auto item = map_.itemAtRest()) wishToTrash(*std::move(item));
+}
+
+void DeepScanScreen::wishToTrash(BigItem item) {
+    if (!asksBeforeTrashing(item.kind)) return move(std::move(item));
+    state_.pendingTrash = std::move(item);
     refresh();
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "deepscan/screens/deep_scan_content.h"
+#include "deepscan/screens/disk_map_screen.h"
 #include "kit/qt/list_model.h"
 #include "kit/qt/palette_value.h"
 #include "kit/qt/screen.h"
@@ -45,9 +46,14 @@ class DeepScanScreen final : public Screen {
     Q_PROPERTY(QString questionText READ questionText NOTIFY changed)
     Q_PROPERTY(QString confirmLabel READ confirmLabel NOTIFY changed)
     Q_PROPERTY(QString cancelLabel READ cancelLabel NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel* faces READ faces CONSTANT)
+    Q_PROPERTY(bool showsMap READ showsMap NOTIFY changed)
+    Q_PROPERTY(tidewell::DiskMapScreen* map READ map CONSTANT)
 
  public:
-    DeepScanScreen(std::shared_ptr<DeepScanViewModel> model, Workspace workspace, QObject* parent);
+    DeepScanScreen(std::shared_ptr<DeepScanViewModel> model,
+                   std::shared_ptr<DiskMapViewModel> mapModel, const Workspace& workspace,
+                   QObject* parent);
 
     bool isStart() const { return content_.page == DeepScanContent::Page::start; }
     bool isScanning() const { return content_.page == DeepScanContent::Page::scanning; }
@@ -76,11 +82,19 @@ class DeepScanScreen final : public Screen {
     QString questionText() const { return toText(question_.message); }
     QString confirmLabel() const { return toText(question_.confirmLabel); }
     QString cancelLabel() const { return toText(question_.cancelLabel); }
+    /// The list, and the map.
+    QAbstractItemModel* faces() { return &faces_; }
+    bool showsMap() const { return state_.face == DeepScanFace::map; }
+    DiskMapScreen* map() { return &map_; }
 
     /// To be called when the screen comes into sight: what it remembers by itself is forgotten. Has
     /// its effect in a later turn.
     Q_INVOKABLE void open();
     Q_INVOKABLE void scan();
+    /// For a row of `faces`.
+    Q_INVOKABLE void chooseFace(int row);
+    /// Ends a walk for the map under way; where there is no map then, the list is shown.
+    Q_INVOKABLE void stopMap();
     /// For a row of `rail`.
     Q_INVOKABLE void viewBucket(int row);
     // For a row of `cards`.
@@ -89,6 +103,8 @@ class DeepScanScreen final : public Screen {
     /// Asks first, where the item may be dear to the user.
     Q_INVOKABLE void trash(int row);
     Q_INVOKABLE void putBack(int row);
+    /// The same for what is in hand on the map.
+    Q_INVOKABLE void trashFromMap();
     /// Puts back what the banner tells of.
     Q_INVOKABLE void undo();
     // The answers to that question.
@@ -97,6 +113,7 @@ class DeepScanScreen final : public Screen {
 
  private:
     void update() override;
+    void wishToTrash(BigItem item);
     void move(BigItem item);
 
     const std::shared_ptr<DeepScanViewModel> model_;
@@ -108,6 +125,8 @@ class DeepScanScreen final : public Screen {
     TrashConfirmation question_;
     ListModel<RiskRow> rail_;
     ListModel<BigItemCard> cards_;
+    ListModel<FaceChoice> faces_;
+    DiskMapScreen map_;
 };
 
 }  // namespace tidewell

@@ -41,11 +41,14 @@ WindowScreen::WindowScreen(std::shared_ptr<ContentView> view, const QString& fil
       performance_(view_->performanceModel, view_->workspace(), this),
       apps_(view_->appsModel, this),
       devMode_(view_->devModeModel, view_->workspace(), this),
-      deepScan_(view_->deepScanModel, view_->workspace(), this),
+      deepScan_(view_->deepScanModel, view_->diskMapModel, view_->workspace(), this),
       advisor_(view_->advisorModel, this) {
     observe(view_->willChange);
     observe(view_->cleanupModel->willChange);
     observe(view_->permissions->willChange);
+    connect(deepScan_.map(), &DiskMapScreen::wantsTool, this, [this](RowTool tool) {
+        view_->mode = tool == RowTool::devMode ? Mode::devMode : Mode::clean;
+    });
     update();
 }
 

@@ -1,4 +1,5 @@
 #include "screens/findings.h"
+#include "screens/maps.h"
 #include "screens/states.h"
 
 namespace tidewell::gallery {
@@ -10,6 +11,12 @@ using Phase = DeepScanViewModel::Phase;
 void find(Sample& sample) {
     findBigItems(*sample.view);
     sample.view->mode = Mode::deepScan;
+}
+
+void show(Sample& sample, DiskMap map) {
+    find(sample);
+    sample.view->diskMapModel->map = std::move(map);
+    sample.view->diskMapModel->phase = DiskMapViewModel::Phase::map;
 }
 
 const std::vector<ScreenState> states = {
@@ -58,6 +65,21 @@ const std::vector<ScreenState> states = {
                        [](const BigItem& item) { return item.kind != BigItem::Kind::personal; });
      },
      "Move Holiday 2019 to Trash"},
+    {"map", [](Sample& sample) { show(sample, busyHome(sample.system())); }, "Map"},
+    {"map-empty", [](Sample& sample) { show(sample, emptyHome()); }, "Map"},
+    {"map-one-file", [](Sample& sample) { show(sample, homeOfOneFile()); }, "Map"},
+    {"map-crowded", [](Sample& sample) { show(sample, crowdedHome()); }, "Map"},
+    {"map-deep", [](Sample& sample) { show(sample, deepHome()); }, "Map"},
+    {"map-unread", [](Sample& sample) { show(sample, homeThatCannotBeRead()); }, "Map"},
+    {"map-mapping",
+     [](Sample& sample) {
+         find(sample);
+         sample.view->diskMapModel->phase = DiskMapViewModel::Phase::mapping;
+         sample.view->diskMapModel->metBytes = 48'300'000'000;
+     },
+     "Map"},
+    {"map-folder", [](Sample& sample) { show(sample, busyHome(sample.system())); }, "Map > Code"},
+    {"map-filter", [](Sample& sample) { show(sample, busyHome(sample.system())); }, "Map > Can go"},
 };
 
 }  // namespace

@@ -11,7 +11,8 @@ namespace tidewell::gallery {
 struct ScreenState {
     const char* name;
     void (*setUp)(Sample& sample);
-    /// The name of a control that is pressed before the picture is taken, if any.
+    /// The name of a control that is pressed before the picture is taken, if any, or several in a
+    /// row, with " > " between them.
     const char* pressed = nullptr;
     /// The system whose machines alone have it; none if all do.
     std::optional<System> system = {};
