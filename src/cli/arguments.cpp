@@ -195,6 +195,14 @@ void addKnowledgeCommands(CLI::App& app, Call& call) {
 
     addCommand<CatalogueCall>(app, call, "catalogue", "List everything that Clean can clean",
                               runCatalogue, command);
+
+    auto& selfcheck = addCommand<SelfcheckCall>(
+        app, call, "selfcheck", "Try on this machine that nothing is lost, in a folder of its own",
+        runSelfcheck, command);
+    command
+        ->add_option("--on", selfcheck.on,
+                     "Try it in this folder, on another disk; in the one for caches if not given")
+        ->type_name("DIR");
 }
 
 void addCommands(CLI::App& app, Call& call) {

@@ -109,4 +109,9 @@ Outcome runMeasure(const Context& context, const MeasureCall& call);
 struct CatalogueCall {};
 Outcome runCatalogue(const Context& context, const CatalogueCall& call);
 
+struct SelfcheckCall {
+    std::optional<std::string> on;  ///< a folder of the disk to try; the caches' if not given
+};
+Outcome runSelfcheck(const Context& context, const SelfcheckCall& call);
+
 }  // namespace tidewell::cli

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "selfcheck/check.h"
+
+namespace tidewell::selfcheck {
+
+/// Names that are taken in the Trash, and places that are taken when something is put back.
+void checkCollisions(const TrialGround& ground, Findings& findings);
+
+}  // namespace tidewell::selfcheck
