@@ -9,7 +9,7 @@ namespace tidewell {
 
 namespace {
 
-constexpr auto lastUsedAttribute = "user.com.apple.lastuseddate#PS";
+constexpr auto lastUsedAttribute = "com.apple.lastuseddate#PS";
 
 Value infoDictionary(const std::string& bundle) {
     auto path = joinPath(bundle, "Contents/Info.plist");

@@ -40,7 +40,8 @@ bool isProgram(const std::string& path);
 /// Whether the file can be opened for reading. Nothing is read. Never waits.
 bool canOpenForReading(const std::string& path);
 
-/// An extended attribute of the entry itself; absent for a link, and if it cannot be read.
+/// An extended attribute of the entry itself, of those that are the user's; absent for a link, and
+/// if it cannot be read.
 std::optional<std::string> extendedAttribute(const std::string& path, const std::string& name);
 
 /// The real location of an entry: its parent with all links resolved, and its own name, which is

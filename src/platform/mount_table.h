@@ -25,8 +25,7 @@ class MountTable {
     /// nothing of the mounts themselves.
     static MountTable read();
 
-    /// From lines as the system writes them; a damaged line is passed over.
-    explicit MountTable(std::string_view lines);
+    explicit MountTable(std::vector<Mount> mounts);
 
     /// In the order in which they were mounted.
     const std::vector<Mount>& mounts() const& { return mounts_; }

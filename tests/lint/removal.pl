@@ -22,7 +22,7 @@ my %doors = (
         qr{^src/platform/trash/\w+\.cpp$},
         qr{^src/platform/\w+/user_defaults\.cpp$},
         qr{^src/platform/\w+/process\.cpp$},  # a tool's output to the null device
-        qr{^src/platform/\w+/single_instance\.cpp$},
+        qr{^src/platform/\w+/(?:single_instance|local_socket)\.cpp$},
         qr{^src/platform/\w+/trial_ground\.cpp$},
     ],
     starting => [qr{^src/platform/\w+/process\.cpp$}],

@@ -354,7 +354,7 @@ TEST(PutBack, BringsBackWhatLiesInAMacTrashByItsAttribute) {
     EXPECT_FALSE(items.front().origin);
     EXPECT_EQ(putBack(*trashing.moved, machine.host()).place, item.id);
     EXPECT_EQ(machine.contentOf("~/Movies/reel/film"), "mine");
-    EXPECT_FALSE(extendedAttribute(item.id, "user.tidewell.origin"));
+    EXPECT_FALSE(extendedAttribute(item.id, "tidewell.origin"));
 }
 
 DiskScanner::CleanResult empty(const Desktop& desktop, const std::string& files) {

@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <thread>
 
-#include "platform/linux/process_table.h"
 #include "platform/memory.h"
+#include "platform/posix/process_table.h"
 #include "support/child_process.h"
 #include "support/running_program.h"
 #include "support/sample_machine.h"
@@ -17,8 +17,7 @@
 namespace tidewell {
 namespace {
 
-using linux_system::parseProcessStatus;
-using linux_system::startTime;
+using posix::startTime;
 using test::OnRequestToEnd;
 using test::RunningProgram;
 using test::SampleMachine;
@@ -191,31 +190,10 @@ TEST_F(RunningApplicationsTest, BelongToTheUserAlone) {
     EXPECT_EQ(startTime(paint.processId()), identity.startTime);
 }
 
-TEST(ProcessTable, ReadsStatusLinesWhateverAProgramIsCalled) {
-    const std::string fields = " 1 7 7 0 -1 4194304 95 0 0 0 0 0 0 0 20 0 1 0 316927 2703360 0";
-    for (const auto* name : {"sleep", "a b", "x) Z 1 (y", "(((", ")\n)"}) {
-        const auto status = parseProcessStatus("7 (" + std::string(name) + ") S" + fields + "\n");
-        ASSERT_TRUE(status) << name;
-        EXPECT_EQ(status->state, 'S');
-        EXPECT_EQ(status->startTime, 316927U);
-    }
-    for (const auto* line : {"", "7", "7 (sleep)", "7 (sleep) S 1 7 7 0 -1",
-                             "7 (sleep) S 1 7 7 0 -1 4194304 95 0 0 0 0 0 0 0 20 0 1 0 x 2"})
-        EXPECT_FALSE(parseProcessStatus(line)) << line;
-}
-
-TEST(Memory, IsUsedInPartAndReadFromItsOwnLinesOnly) {
+TEST(Memory, IsUsedInPart) {
     const auto memory = memoryUsage();
     EXPECT_GT(memory.used, 0);
     EXPECT_LT(memory.used, memory.total);
-
-    using linux_system::labelledByteCount;
-    constexpr std::string_view text =
-        "Pss_Anon:  1 kB\nPss:   20 kB\nSwapPss:\t3 kB\nBad: kB\nHuge: 4 MB";
-    EXPECT_EQ(labelledByteCount(text, "Pss:"), 20 * 1024);
-    EXPECT_EQ(labelledByteCount("MemTotal: 4294967295 kB", "MemTotal:"), 4'294'967'295LL * 1024);
-    for (const auto* label : {"SwapPss:", "Bad:", "Huge:", "Missing:"})
-        EXPECT_EQ(labelledByteCount(text, label), std::nullopt) << label;
 }
 
 }  // namespace

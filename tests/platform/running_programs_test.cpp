@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "platform/linux/control_group.h"
-#include "platform/linux/program_signs.h"
+#include "platform/posix/program_signs.h"
 #include "support/child_process.h"
 #include "support/running_program.h"
 #include "support/sample_machine.h"
@@ -22,8 +22,8 @@ namespace {
 using linux_system::applicationOfGroups;
 using linux_system::applicationOfUnit;
 using linux_system::GroupedApplication;
-using linux_system::lockHolder;
 using linux_system::Packaging;
+using posix::lockHolder;
 using test::RunningProgram;
 using test::SampleMachine;
 

@@ -61,8 +61,7 @@ TEST(Trash, TakesAnItemAndKeepsWhereItCameFrom) {
     EXPECT_TRUE(machine.has("~/.Trash/folder/file"));
     EXPECT_EQ(fs::status(machine.path("~/.Trash")).permissions(), fs::perms::owner_all);
     for (const auto& moved : {name, std::string("folder")}) {
-        const auto origin =
-            extendedAttribute(machine.path("~/.Trash/" + moved), "user.tidewell.origin");
+        const auto origin = extendedAttribute(machine.path("~/.Trash/" + moved), "tidewell.origin");
         if (origin) {
             EXPECT_EQ(*origin, machine.path("~/Movies/" + moved));
         }

@@ -10,8 +10,6 @@ namespace tidewell::linux_system {
 
 namespace {
 
-constexpr std::size_t longestText = 64 * 1024;
-
 std::vector<std::string_view> split(std::string_view text, char separator) {
     std::vector<std::string_view> pieces;
     for (;;) {
@@ -81,9 +79,14 @@ std::optional<GroupedApplication> applicationOfGroups(std::string_view text) {
     return std::nullopt;
 }
 
+}  // namespace tidewell::linux_system
+
+namespace tidewell::posix {
+
 std::optional<GroupedApplication> groupedApplication(std::int32_t process) {
+    constexpr std::size_t longestText = 64 * 1024;
     const auto text = readFile("/proc/" + std::to_string(process) + "/cgroup", longestText);
-    return text ? applicationOfGroups(*text) : std::nullopt;
+    return text ? linux_system::applicationOfGroups(*text) : std::nullopt;
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

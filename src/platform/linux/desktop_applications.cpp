@@ -6,8 +6,8 @@
 #include "platform/files.h"
 #include "platform/icon_theme.h"
 #include "platform/linux/application_groups.h"
-#include "platform/linux/process_table.h"
 #include "platform/path_text.h"
+#include "platform/posix/process_table.h"
 
 namespace tidewell::linux_system {
 
@@ -47,12 +47,12 @@ std::vector<KnownApplication> knownApplications(const Host& host) {
 
 std::vector<RunningApplication> desktopApplications(const Host& host) {
     std::vector<ProcessFacts> processes;
-    for (const auto& process : ownProcesses())
+    for (const auto& process : posix::ownProcesses())
         if (isBelow(process.executable, host.root))
             processes.push_back({.identity = process.identity,
                                  .parent = process.parent,
                                  .executable = process.executable,
-                                 .group = groupedApplication(process.identity.id)});
+                                 .group = posix::groupedApplication(process.identity.id)});
     auto applications = groupedApplications(processes, knownApplications(host));
     const auto folders = iconFolders(host);
     for (auto& application : applications)

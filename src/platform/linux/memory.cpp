@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "platform/files.h"
-#include "platform/linux/process_table.h"
+#include "platform/linux/process_status.h"
 
 namespace tidewell {
 

@@ -1,41 +1,34 @@
-#include "platform/linux/process_table.h"
+#include "platform/posix/process_table.h"
 
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <climits>
 #include <tuple>
 
 #include "platform/files.h"
+#include "platform/linux/number_in.h"
+#include "platform/linux/process_status.h"
 #include "platform/path_text.h"
 #include "platform/posix/descriptor.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 namespace {
 
 constexpr std::size_t longestStatus = 64 * 1024;
 constexpr std::size_t longestArguments = 64 * 1024;
 
-template <class Number>
-std::optional<Number> numberIn(std::string_view text) {
-    Number number{};
-    const auto* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    return number;
-}
-
 /// What is longer is cut, and still known.
 std::string beginningOf(const std::string& path, std::size_t most) {
-    const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     std::string bytes(most, '\0');
     std::size_t length = 0;
     while (length < most) {
-        const auto count = posix::retrying(
-            [&] { return ::read(file.get(), bytes.data() + length, most - length); });
+        const auto count =
+            retrying([&] { return ::read(file.get(), bytes.data() + length, most - length); });
         if (count <= 0) break;
         length += static_cast<std::size_t>(count);
     }
@@ -47,9 +40,13 @@ std::string processFolder(std::int32_t id) {
     return "/proc/" + std::to_string(id);
 }
 
-std::optional<ProcessStatus> readStatus(std::int32_t id) {
+double secondsOf(const timespec& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+std::optional<linux_system::ProcessStatus> readStatus(std::int32_t id) {
     const auto line = readFile(processFolder(id) + "/stat", longestStatus);
-    const auto status = line ? parseProcessStatus(*line) : std::nullopt;
+    const auto status = line ? linux_system::parseProcessStatus(*line) : std::nullopt;
     constexpr std::string_view ended = "ZXx";
     if (!status || ended.find(status->state) != std::string_view::npos) return std::nullopt;
     return status;
@@ -92,7 +89,7 @@ std::vector<Process> ownProcesses() {
     const auto names = folderNames("/proc");
     if (!names) return processes;
     for (const auto& name : *names) {
-        const auto id = numberIn<std::int32_t>(name);
+        const auto id = linux_system::numberIn<std::int32_t>(name);
         auto process = id ? readProcess(*id) : std::nullopt;
         if (process) processes.push_back(std::move(*process));
     }
@@ -130,41 +127,14 @@ std::optional<std::uint64_t> startTime(std::int32_t id) {
     return status ? std::optional(status->startTime) : std::nullopt;
 }
 
-std::optional<ProcessStatus> parseProcessStatus(std::string_view line) {
-    const auto nameEnd = line.rfind(')');
-    if (nameEnd == std::string_view::npos) return std::nullopt;
-    // The fields behind the name, which is the second one.
-    constexpr std::size_t stateField = 0;
-    constexpr std::size_t parentField = 1;
-    constexpr std::size_t startTimeField = 19;
-    std::vector<std::string_view> fields;
-    auto rest = line.substr(nameEnd + 1);
-    while (fields.size() <= startTimeField) {
-        const auto begin = rest.find_first_not_of(" \n");
-        if (begin == std::string_view::npos) return std::nullopt;
-        rest.remove_prefix(begin);
-        fields.push_back(rest.substr(0, rest.find_first_of(" \n")));
-        rest.remove_prefix(fields.back().size());
-    }
-    const auto start = numberIn<std::uint64_t>(fields[startTimeField]);
-    const auto parent = numberIn<std::int32_t>(fields[parentField]);
-    if (!start || !parent) return std::nullopt;
-    return ProcessStatus{
-        .state = fields[stateField].front(), .parent = *parent, .startTime = *start};
+double startedAt(const ProcessIdentity& process) {
+    timespec now{};
+    timespec sinceStart{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    ::clock_gettime(CLOCK_BOOTTIME, &sinceStart);
+    const auto ticks = static_cast<double>(process.startTime);
+    return secondsOf(now) - secondsOf(sinceStart) +
+           ticks / static_cast<double>(::sysconf(_SC_CLK_TCK));
 }
 
-std::optional<ByteCount> labelledByteCount(std::string_view text, std::string_view label) {
-    while (!text.empty()) {
-        auto line = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
-        if (!line.starts_with(label)) continue;
-        line.remove_prefix(label.size());
-        line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-        if (!line.ends_with(" kB")) return std::nullopt;
-        const auto count = numberIn<std::uint32_t>(line.substr(0, line.size() - 3));
-        return count ? std::optional(ByteCount{*count} * 1024) : std::nullopt;
-    }
-    return std::nullopt;
-}
-
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/posix/link_free.h"
@@ -22,11 +23,8 @@ int moveWithoutOverwriting(const SeenPlace& from, int folder, const std::string&
                            Detour detour);
 
 // Where an entry came from, kept with it; as well as the file system allows. Links keep nothing.
-inline constexpr auto originAttribute = "user.tidewell.origin";
 void noteOrigin(int folder, const std::string& name, const std::string& origin);
+std::optional<std::string> notedOrigin(int folder, const std::string& name);
 void forgetOrigin(int folder, const std::string& name);
-
-/// A path by which what lies below an open folder can be asked about.
-std::string pathThrough(int folder, const std::string& name);
 
 }  // namespace tidewell::trash

@@ -67,7 +67,7 @@ class MacosTrash final : public OpenTrash {
         if (!item) return std::nullopt;
         item->folder = path_;
         item->path = joinPath(path_, name);
-        item->origin = extendedAttribute(pathThrough(folder_.get(), name), originAttribute);
+        item->origin = notedOrigin(folder_.get(), name);
         return item;
     }
 

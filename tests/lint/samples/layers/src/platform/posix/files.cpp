@@ -1,3 +1,3 @@
 #include <linux/openat2.h>  // caught
 #include <sys/stat.h>
-#include "platform/linux/process_table.h"  // caught
+#include "platform/linux/process_status.h"  // caught

@@ -3,13 +3,11 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "platform/byte_count.h"
 #include "platform/running_applications.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// A process whose program is known.
 struct Process {
@@ -33,16 +31,7 @@ std::vector<std::string> openFilesOf(std::int32_t id);
 /// Absent once the process has ended, also while its parent has not taken note of it.
 std::optional<std::uint64_t> startTime(std::int32_t id);
 
-struct ProcessStatus {
-    char state = 0;
-    std::int32_t parent = 0;
-    std::uint64_t startTime = 0;
-};
+/// When a process started, in seconds since 1970, as near as the clocks tell.
+double startedAt(const ProcessIdentity& process);
 
-/// Reads one line of "stat". The program's name in it may hold any characters.
-std::optional<ProcessStatus> parseProcessStatus(std::string_view line);
-
-/// The count behind `label` at the start of a line such as "MemTotal:   24683620 kB", in bytes.
-std::optional<ByteCount> labelledByteCount(std::string_view text, std::string_view label);
-
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

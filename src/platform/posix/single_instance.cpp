@@ -18,9 +18,9 @@
 #include <system_error>
 #include <thread>
 
-#include "platform/environment.h"
 #include "platform/path_text.h"
-#include "platform/posix/descriptor.h"
+#include "platform/posix/local_socket.h"
+#include "platform/posix/pipe.h"
 
 namespace tidewell {
 
@@ -39,7 +39,7 @@ constexpr char taken = '+';
 /// The user's own folder for what lives as long as the session; empty if there is none that nobody
 /// else can write to.
 std::string runtimeFolder() {
-    auto folder = environmentValue("XDG_RUNTIME_DIR");
+    auto folder = posix::sessionFolder();
     struct stat status;
     if (!folder.starts_with('/') || ::stat(folder.c_str(), &status) != 0) return {};
     const bool isOwn = S_ISDIR(status.st_mode) && status.st_uid == ::getuid() &&
@@ -66,10 +66,6 @@ bool isHeldByAnother(const Descriptor& file) {
     return ::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
-Descriptor localSocket(int flags = 0) {
-    return Descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
-}
-
 std::optional<sockaddr_un> socketAddress(const std::string& path) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -81,22 +77,14 @@ std::optional<sockaddr_un> socketAddress(const std::string& path) {
 /// For the holder of the lock alone: what stands there was left behind by one that is gone.
 Descriptor listeningSocket(const std::string& path) {
     const auto address = socketAddress(path);
-    auto socket = localSocket();
+    auto socket = posix::localSocket(posix::Waiting::yes);
     if (!address || !socket) return Descriptor();
     ::unlink(path.c_str());
     const auto* generic = reinterpret_cast<const sockaddr*>(&*address);
-    // The mode is that of the descriptor, so that the socket never stands there more open.
-    if (::fchmod(socket.get(), 0600) != 0 || ::bind(socket.get(), generic, sizeof(*address)) != 0 ||
-        ::listen(socket.get(), 8) != 0)
+    if (!posix::withholdFromOthers(socket) ||
+        ::bind(socket.get(), generic, sizeof(*address)) != 0 || ::listen(socket.get(), 8) != 0)
         return Descriptor();
     return socket;
-}
-
-bool isOwnProcess(const Descriptor& connection) {
-    ucred peer{};
-    socklen_t size = sizeof(peer);
-    return ::getsockopt(connection.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
-           peer.uid == ::getuid();
 }
 
 void limitWaiting(const Descriptor& connection) {
@@ -119,7 +107,7 @@ std::optional<std::string> readMessage(const Descriptor& connection) {
 }
 
 std::optional<std::string> receive(const Descriptor& connection) {
-    if (!connection || !isOwnProcess(connection)) return std::nullopt;
+    if (!connection || !posix::isOwnProcess(connection)) return std::nullopt;
     limitWaiting(connection);
     return readMessage(connection);
 }
@@ -127,7 +115,7 @@ std::optional<std::string> receive(const Descriptor& connection) {
 bool sendAll(const Descriptor& connection, std::string_view bytes) {
     while (!bytes.empty()) {
         const auto count = posix::retrying(
-            [&] { return ::send(connection.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL); });
+            [&] { return ::send(connection.get(), bytes.data(), bytes.size(), posix::sendFlags); });
         if (count <= 0) return false;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
@@ -142,7 +130,7 @@ Descriptor connectTo(const std::string& path) {
     if (!address) return Descriptor();
     const auto* generic = reinterpret_cast<const sockaddr*>(&*address);
     for (int attempt = 0; attempt < connectionAttempts; ++attempt) {
-        auto socket = localSocket(SOCK_NONBLOCK);
+        auto socket = posix::localSocket(posix::Waiting::no);
         if (socket && ::connect(socket.get(), generic, sizeof(*address)) == 0 &&
             ::fcntl(socket.get(), F_SETFL, 0) == 0)
             return socket;
@@ -169,11 +157,11 @@ void SingleInstance::Link::run(const std::function<void(std::string)>& received)
     while (true) {
         if (posix::retrying([&] { return ::poll(waiting.data(), waiting.size(), -1); }) < 0) return;
         if (waiting[1].revents != 0) return;
-        const Descriptor connection(::accept4(listening.get(), nullptr, nullptr, SOCK_CLOEXEC));
+        const auto connection = posix::acceptFrom(listening);
         // Without a descriptor for it the caller stays in the queue, ready at once every time.
         if (!connection) ::poll(&waiting[1], 1, pauseWithoutDescriptors);
         if (auto message = receive(connection)) {
-            ::send(connection.get(), &taken, 1, MSG_NOSIGNAL);
+            ::send(connection.get(), &taken, 1, posix::sendFlags);
             received(std::move(*message));
         }
     }
@@ -199,10 +187,10 @@ SingleInstance::Role SingleInstance::role() const {
 
 SingleInstance::Reach SingleInstance::listen(std::function<void(std::string)> received) {
     if (!link_->lock || !link_->isFirst) return Reach::none;
-    std::array<int, 2> ends{};
     link_->listening = listeningSocket(link_->socketPath);
-    if (!link_->listening || ::pipe2(ends.data(), O_CLOEXEC) != 0) return Reach::none;
-    link_->end = {Descriptor(ends[0]), Descriptor(ends[1])};
+    auto pipe = posix::closeOnExecPipe();
+    if (!link_->listening || !pipe) return Reach::none;
+    link_->end = {std::move(pipe->reading), std::move(pipe->writing)};
     try {
         link_->thread = std::thread(
             [link = link_.get(), received = std::move(received)] { link->run(received); });
@@ -215,7 +203,7 @@ SingleInstance::Reach SingleInstance::listen(std::function<void(std::string)> re
 
 SingleInstance::Delivery SingleInstance::send(const std::string& message) const {
     const auto connection = connectTo(link_->socketPath);
-    if (!connection || !isOwnProcess(connection)) return Delivery::failed;
+    if (!connection || !posix::isOwnProcess(connection)) return Delivery::failed;
     limitWaiting(connection);
     if (!sendAll(connection, message)) return Delivery::failed;
     char answer = 0;

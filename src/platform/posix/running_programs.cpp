@@ -1,7 +1,6 @@
 #include "platform/running_programs.h"
 
 #include <sys/stat.h>
-#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,21 +9,21 @@
 
 #include "platform/desktop_entry.h"
 #include "platform/files.h"
-#include "platform/linux/control_group.h"
-#include "platform/linux/process_table.h"
-#include "platform/linux/program_signs.h"
 #include "platform/path_text.h"
+#include "platform/posix/application_group.h"
+#include "platform/posix/process_table.h"
+#include "platform/posix/program_signs.h"
 
 namespace tidewell {
 
 namespace {
 
-using linux_system::GroupedApplication;
-using linux_system::Packaging;
-using linux_system::Process;
+using posix::GroupedApplication;
+using posix::Packaging;
+using posix::Process;
 
-/// A process's start is known to the tick, a file's time to the second on some disks.
-constexpr double clockSlack = 2;  // seconds
+/// A process's start is known to the tick, a file's time to the second.
+constexpr double clockSlack = 3;  // seconds
 
 /// A process, and what else is asked of it.
 struct SeenProcess {
@@ -40,23 +39,9 @@ std::string linkText(const std::string& link) {
 }
 
 std::string hostName() {
-    char name[HOST_NAME_MAX + 1] = {};
+    constexpr std::size_t longest = 255;
+    char name[longest + 1] = {};
     return ::gethostname(name, sizeof name - 1) == 0 ? name : std::string();
-}
-
-double secondsOf(const timespec& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
-
-/// In seconds since 1970, as near as the two clocks tell.
-double startedAt(const Process& process) {
-    timespec now{};
-    timespec sinceStart{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    ::clock_gettime(CLOCK_BOOTTIME, &sinceStart);
-    const auto ticks = static_cast<double>(process.identity.startTime);
-    return secondsOf(now) - secondsOf(sinceStart) +
-           ticks / static_cast<double>(::sysconf(_SC_CLK_TCK));
 }
 
 /// The number of a process that has ended may be another's by now, which then is younger than the
@@ -64,12 +49,12 @@ double startedAt(const Process& process) {
 bool wasThereFor(const std::string& lock, const Process& holder) {
     struct stat status;
     return ::lstat(lock.c_str(), &status) == 0 &&
-           startedAt(holder) <= secondsOf(status.st_mtim) + clockSlack;
+           posix::startedAt(holder.identity) <= static_cast<double>(status.st_mtime) + clockSlack;
 }
 
 bool hasFileOpenIn(const std::vector<std::string>& folders, std::int32_t process) {
     if (folders.empty()) return false;
-    const auto files = linux_system::openFilesOf(process);
+    const auto files = posix::openFilesOf(process);
     return std::ranges::any_of(files, [&](const std::string& file) {
         return std::ranges::any_of(
             folders, [&file](const std::string& folder) { return isBelow(file, folder); });
@@ -85,15 +70,15 @@ bool isOf(const ProgramSigns& program, const SeenProcess& seen) {
     const auto& [process, group, arguments] = seen;
     return isIn(group, Packaging::flatpak, program.flatpaks) ||
            isIn(group, Packaging::snap, program.snaps) ||
-           linux_system::isExecutableOf(program, process.executable, arguments) ||
+           posix::isExecutableOf(program, process.executable, arguments) ||
            (isLauncher(process.executable) && hasFileOpenIn(program.folders, process.identity.id));
 }
 
 SeenProcess look(Process process) {
     const auto id = process.identity.id;
     SeenProcess seen{.process = std::move(process), .group = {}, .arguments = {}};
-    seen.group = linux_system::groupedApplication(id);
-    if (isLauncher(seen.process.executable)) seen.arguments = linux_system::argumentsOf(id);
+    seen.group = posix::groupedApplication(id);
+    if (isLauncher(seen.process.executable)) seen.arguments = posix::argumentsOf(id);
     return seen;
 }
 
@@ -104,7 +89,7 @@ struct RunningPrograms::Seen {
     std::vector<SeenProcess> processes;
 
     bool isHeld(const std::string& lock) const {
-        const auto holder = linux_system::lockHolder(linkText(lock), hostName);
+        const auto holder = posix::lockHolder(linkText(lock), hostName);
         return holder && std::ranges::any_of(processes, [&](const SeenProcess& seen) {
                    return seen.process.identity.id == *holder && wasThereFor(lock, seen.process);
                });
@@ -119,17 +104,16 @@ struct RunningPrograms::Seen {
 
 RunningPrograms::RunningPrograms(const Host& host) {
     Seen seen{.hostName = hostName(), .processes = {}};
-    for (auto& process : linux_system::ownProcesses())
+    for (auto& process : posix::ownProcesses())
         if (isBelow(process.executable, host.root))
             seen.processes.push_back(look(std::move(process)));
     seen_ = std::make_shared<const Seen>(std::move(seen));
 }
 
 OpenFiles::OpenFiles(const Host& host) {
-    for (const auto& process : linux_system::ownProcesses())
+    for (const auto& process : posix::ownProcesses())
         if (process.identity.id != ::getpid() && isBelow(process.executable, host.root))
-            std::ranges::move(linux_system::openFilesOf(process.identity.id),
-                              std::back_inserter(paths_));
+            std::ranges::move(posix::openFilesOf(process.identity.id), std::back_inserter(paths_));
 }
 
 bool OpenFiles::areIn(const std::string& folder) const {

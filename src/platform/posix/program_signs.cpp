@@ -1,4 +1,4 @@
-#include "platform/linux/program_signs.h"
+#include "platform/posix/program_signs.h"
 
 #include <algorithm>
 #include <charconv>
@@ -6,7 +6,7 @@
 #include "platform/desktop_entry.h"
 #include "platform/path_text.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 namespace {
 
@@ -44,4 +44,4 @@ bool isExecutableOf(const ProgramSigns& program, std::string_view executable,
     });
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -8,7 +8,7 @@
 
 #include "platform/running_programs.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 // What tells that a program runs, decided from texts alone.
 
@@ -21,4 +21,4 @@ std::optional<std::int32_t> lockHolder(std::string_view link, std::string_view h
 bool isExecutableOf(const ProgramSigns& program, std::string_view executable,
                     const std::vector<std::string>& arguments);
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -1,10 +1,10 @@
-#include "platform/linux/menu_entries.h"
+#include "platform/posix/menu_entries.h"
 
 #include <utility>
 
 #include "platform/desktop_entry.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 std::vector<MenuEntry> menuEntries(const Host& host) {
     std::vector<MenuEntry> entries;
@@ -20,4 +20,4 @@ std::vector<MenuEntry> menuEntries(const Host& host) {
     return entries;
 }
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix

@@ -6,7 +6,7 @@
 
 #include "platform/host.h"
 
-namespace tidewell::linux_system {
+namespace tidewell::posix {
 
 /// An installed application that the user's menus show.
 struct MenuEntry {
@@ -20,4 +20,4 @@ struct MenuEntry {
 /// process is.
 std::vector<MenuEntry> menuEntries(const Host& host);
 
-}  // namespace tidewell::linux_system
+}  // namespace tidewell::posix
