@@ -203,6 +203,8 @@ void addKnowledgeCommands(CLI::App& app, Call& call) {
         ->add_option("--on", selfcheck.on,
                      "Try it in this folder, on another disk; in the one for caches if not given")
         ->type_name("DIR");
+    constexpr auto notInTheHelp = "";
+    command->add_option("--part", selfcheck.part)->group(notInTheHelp);
 }
 
 void addCommands(CLI::App& app, Call& call) {

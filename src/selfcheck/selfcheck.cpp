@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "platform/removal.h"
+#include "selfcheck/child_checks.h"
 #include "selfcheck/removal_checks.h"
 #include "selfcheck/trash_checks.h"
 
@@ -16,9 +17,16 @@ namespace {
 
 constexpr Check checks[] = {
     {"links", "links in a cache, and one in the place of a cache", Need::essential, checkLinks},
+    {"keys", "keys that were put into a cache", Need::essential, checkKeys},
     {"swaps", "folders swapped for links during a removal", Need::essential, checkSwaps},
+    {"moves out", "a folder moved to Documents while it is emptied", Need::essential,
+     checkMovesOut},
+    {"permissions", "folders closed to this user", Need::whereAllowed, checkPermissions},
+    {"trash", "a Trash that is a link, and swaps on the way there", Need::essential, checkTrash},
     {"collisions", "names taken in the Trash, and places taken behind it", Need::essential,
      checkCollisions},
+    {"kills", "a removal and moves to the Trash killed in the middle", Need::essential, checkKills},
+    {"mounts", "a folder mounted in a cache", Need::whereAllowed, checkMounts},
 };
 
 CheckResult resultOf(const Check& check, const TrialGround& ground) {
@@ -74,7 +82,10 @@ std::optional<std::string> usualPlace(const Host& host) {
 
 Report checkIn(const std::string& place) {
     Report report{.folder = place};
-    for (const auto& left : TrialGround::leftIn(place)) clear(place, left);
+    for (const auto& left : TrialGround::leftIn(place)) {
+        if (const auto earlier = TrialGround::openAt(left).ground) openClosedFolders(*earlier);
+        clear(place, left);
+    }
     auto made = TrialGround::makeIn(place);
     report.problem = made.problem;
     if (!made.ground) return report;

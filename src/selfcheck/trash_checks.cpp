@@ -1,6 +1,8 @@
 #include "selfcheck/trash_checks.h"
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/path_text.h"
 #include "selfcheck/trial_machine.h"
@@ -24,7 +26,46 @@ std::optional<TrashedItem> trashNew(TrialMachine& machine, Findings& findings) {
     return trashing.moved;
 }
 
+/// Where a machine of this system has its Trash, and in it the entries.
+std::vector<std::string> trashPlaces(const TrialGround& ground, Findings& findings) {
+    TrialMachine machine(ground, "trash", findings);
+    const auto moved = trashNew(machine, findings);
+    if (!moved) return {};
+    return {machine.relative(moved->folder), machine.relative(parentPath(moved->path))};
+}
+
+void checkTrashThatIsALink(const TrialGround& ground, const std::string& place,
+                           Findings& findings) {
+    TrialMachine machine(ground, "trash-link-" + std::to_string(place.size()), findings);
+    machine.treasure("Documents/letter");
+    machine.treasure(item);
+    machine.link(place, machine.path("Documents"));
+    if (findings.isOver()) return;
+    findings.strike();
+    if (machine.trash(item).moved) findings.fault("a Trash that is a link was used");
+    machine.account("through a Trash that is a link");
+}
+
 }  // namespace
+
+void checkTrash(const TrialGround& ground, Findings& findings) {
+    for (const auto& place : trashPlaces(ground, findings))
+        checkTrashThatIsALink(ground, place, findings);
+
+    TrialMachine machine(ground, "trash-swaps", findings);
+    const std::string left = "Downloads/left/film.mov";
+    machine.treasure("Documents/Work/film.mov");
+    machine.treasure(item);
+    machine.treasure(left);
+    if (findings.isOver()) return;
+    machine.trash(item, [&] {
+        if (machine.swap(std::string(parentPath(item)), "../Documents/Work")) findings.strike();
+    });
+    machine.trash(left, [&] {
+        if (machine.move(std::string(parentPath(left)), "Documents/Taken")) findings.strike();
+    });
+    machine.account("on its way to the Trash");
+}
 
 void checkCollisions(const TrialGround& ground, Findings& findings) {
     TrialMachine machine(ground, "collisions", findings);

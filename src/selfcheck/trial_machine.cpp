@@ -25,8 +25,8 @@ Host TrialMachine::hostOn(const TrialGround& ground, std::string_view name) {
 }
 
 TrialMachine::TrialMachine(const TrialGround& ground, std::string_view name, Findings& findings)
-    : ground_(ground), home_(joinPath(name, homeOnMachine)), findings_(findings) {
-    require(ground_.folder(home_), "a folder");
+    : ground_(ground), name_(name), findings_(findings) {
+    require(ground_.folder(joinPath(name, homeOnMachine)), "a folder");
     host_ = hostOn(ground, name);
     require(!host_.home.empty(), "a home folder");
 }
@@ -35,8 +35,8 @@ void TrialMachine::require(bool isDone, std::string_view what) {
     if (!isDone) findings_.notTried(std::string(what) + " could not be made here");
 }
 
-std::string TrialMachine::onGround(std::string_view inHome) const {
-    return joinPath(home_, inHome);
+std::string TrialMachine::onGround(std::string_view name, std::string_view inHome) {
+    return joinPath(joinPath(name, homeOnMachine), inHome);
 }
 
 std::string TrialMachine::path(std::string_view inHome) const {
@@ -72,6 +72,17 @@ bool TrialMachine::move(const std::string& from, const std::string& to) {
     return true;
 }
 
+bool TrialMachine::swap(const std::string& folder, std::string_view target) {
+    if (!move(folder, "aside/" + std::to_string(swaps_++))) return false;
+    link(folder, target);
+    return true;
+}
+
+bool TrialMachine::isEmpty(std::string_view folder) const {
+    const auto names = folderNames(path(folder));
+    return names && names->empty();
+}
+
 bool TrialMachine::setAccess(std::string_view folder, Access access) {
     return ground_.setAccess(onGround(folder), access);
 }
@@ -83,14 +94,30 @@ void TrialMachine::follow(const std::string& from, const std::string& to) {
     }
 }
 
-void TrialMachine::account(std::string_view after) {
+std::size_t TrialMachine::findTrashed() {
+    const auto items = trashedItems(host_);
+    for (auto& treasure : treasures_) {
+        const auto found = std::ranges::find(items, path(treasure.origin), [](const auto& item) {
+            return item.origin.value_or(std::string());
+        });
+        treasure.path = found == items.end() ? treasure.origin : relative(found->path);
+    }
+    return items.size();
+}
+
+void TrialMachine::account(std::string_view after, std::size_t mayGo) {
+    std::string lost;
+    std::size_t stood = 0;
     for (const auto& treasure : treasures_) {
         if (readFile(path(treasure.path), longestTreasure) == treasure.content) {
-            findings_.stood(1);
+            ++stood;
         } else {
-            findings_.fault(treasure.path + " was lost " + std::string(after));
+            lost = treasure.path;
         }
     }
+    findings_.stood(stood);
+    if (treasures_.size() - stood > mayGo)
+        findings_.fault(lost + " was lost " + std::string(after));
 }
 
 std::optional<Removal> TrialMachine::empty(std::string_view folder, const Strike& strike) const {
@@ -102,6 +129,14 @@ std::optional<Removal> TrialMachine::empty(std::string_view folder, const Strike
         if (strike) strike(std::string(name));
         return answer;
     });
+}
+
+std::optional<Removal> TrialMachine::removeSingle(std::string_view item,
+                                                  const std::function<void()>& strike) const {
+    const auto approved = DeletionGuard(host_).approve(path(item));
+    if (!approved) return std::nullopt;
+    if (strike) strike();
+    return removeItem(*approved);
 }
 
 Trashing TrialMachine::trash(std::string_view item, const std::function<void()>& strike) const {

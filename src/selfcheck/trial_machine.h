@@ -23,6 +23,9 @@ class TrialMachine {
     /// The one that another process has laid out.
     static Host hostOn(const TrialGround& ground, std::string_view name);
 
+    /// Where the machine has a path, on the ground.
+    static std::string onGround(std::string_view name, std::string_view inHome);
+
     const Host& host() const { return host_; }
     std::string path(std::string_view inHome) const;
     /// Of an absolute path that lies in the home folder.
@@ -36,17 +39,27 @@ class TrialMachine {
     void link(std::string_view path, std::string_view target);
     /// False if it cannot be moved; so for what is gone by then.
     bool move(const std::string& from, const std::string& to);
+    /// Puts a link in the place of a folder, which is moved aside.
+    bool swap(const std::string& folder, std::string_view target);
     bool setAccess(std::string_view folder, Access access);
     /// What the engine moved a treasure to.
     void follow(const std::string& from, const std::string& to);
 
-    /// Counts what must stay, and says what of it is gone or changed.
-    void account(std::string_view after);
+    /// Looks where each treasure lies that may have been moved to the Trash or back. How many lie
+    /// in the Trash.
+    std::size_t findTrashed();
+
+    /// Counts what must stay, and says what of it is gone or changed; `mayGo` of it may.
+    void account(std::string_view after, std::size_t mayGo = 0);
+    bool isEmpty(std::string_view folder) const;
 
     /// Empties a folder as Clean does. `strike` is called with the name of each entry between the
     /// answer of the guard and its removal. Absent if the guard refuses the folder.
     using Strike = std::function<void(const std::string& name)>;
     std::optional<Removal> empty(std::string_view folder, const Strike& strike = nullptr) const;
+    /// Removes a single entry as Clean does, with a strike behind the answer of the guard.
+    std::optional<Removal> removeSingle(std::string_view path,
+                                        const std::function<void()>& strike = nullptr) const;
     /// Moves to the Trash as the deep scan does, with a strike behind the answer of the guard.
     Trashing trash(std::string_view path, const std::function<void()>& strike = nullptr) const;
 
@@ -54,15 +67,17 @@ class TrialMachine {
     struct Treasure {
         std::string path;
         std::string content;
+        std::string origin = path;  ///< where it was laid
     };
 
-    std::string onGround(std::string_view inHome) const;
+    std::string onGround(std::string_view inHome) const { return onGround(name_, inHome); }
     void require(bool isDone, std::string_view what);
 
     const TrialGround& ground_;
-    std::string home_;  ///< on the ground
+    std::string name_;
     Host host_;
     std::vector<Treasure> treasures_;
+    int swaps_ = 0;
     Findings& findings_;
 };
 

@@ -110,7 +110,8 @@ struct CatalogueCall {};
 Outcome runCatalogue(const Context& context, const CatalogueCall& call);
 
 struct SelfcheckCall {
-    std::optional<std::string> on;  ///< a folder of the disk to try; the caches' if not given
+    std::optional<std::string> on;    ///< a folder of the disk to try; the caches' if not given
+    std::optional<std::string> part;  ///< what this process is to play, as a child of the command
 };
 Outcome runSelfcheck(const Context& context, const SelfcheckCall& call);
 

@@ -6,6 +6,7 @@
 #include "cli/report.h"
 #include "platform/files.h"
 #include "platform/text.h"
+#include "selfcheck/child.h"
 
 namespace tidewell::cli {
 
@@ -80,9 +81,18 @@ Value document(const Report& report) {
     return shape;
 }
 
+/// The reason is for the parent, which reads standard output alone.
+Outcome play(const SelfcheckCall& call) {
+    const auto obstacle = selfcheck::play(call.on.value_or(std::string()), *call.part);
+    if (obstacle.empty()) return ExitStatus::done;
+    printLine(obstacle);
+    return ExitStatus::leftBehind;
+}
+
 }  // namespace
 
 Outcome runSelfcheck(const Context& context, const SelfcheckCall& call) {
+    if (call.part) return play(call);
     const auto place =
         call.on ? resolvedPath(absolutePath(*call.on)) : selfcheck::usualPlace(context.host);
     if (!place || fileKind(*place) != FileKind::folder)
