@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "platform/disk_usage.h"
-#include "platform/linux/folder_measurer.h"
+#include "platform/posix/folder_measurer.h"
 #include "platform/posix/reach.h"
 #include "platform/posix/work_pool.h"
 

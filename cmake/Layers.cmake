@@ -13,6 +13,12 @@ function(tidewell_layer name)
       ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/src/${folder}/*.h)
     list(APPEND sources ${found})
   endforeach()
+  # Of the hosts' folders only that of the system that is built for.
+  if(CMAKE_SYSTEM_NAME STREQUAL "Darwin")
+    list(FILTER sources EXCLUDE REGEX "/src/platform/linux/")
+  else()
+    list(FILTER sources EXCLUDE REGEX "/src/platform/macos/")
+  endif()
   # A file that ends in _screen or lies in a folder qt belongs to the window, not to the engine.
   list(FILTER sources EXCLUDE REGEX "_screen\\.(cpp|h)$|/src/[a-z]+/qt/")
   add_library(${name} STATIC ${sources})

@@ -143,14 +143,17 @@ KeptPlaces DeletionGuard::keptPlaces() const {
 }
 
 DeletionRule DeletionGuard::verdict(const std::string& path) const {
-    return verdict(path, keptPlaces());
-}
-
-DeletionRule DeletionGuard::verdict(const std::string& path, const KeptPlaces& kept) const {
     const auto named = standardizedPath(path);
     const auto real = realLocation(named);
-    if (!real) return deletionRule(named, host_.home, roots_, kept.entries());
-    return judge(named, kept.namesOf(*real), kept);
+    const auto kept = keptPlaces();
+    return verdict(named, real ? kept.namesOf(*real) : std::vector<std::string>(), kept);
+}
+
+DeletionRule DeletionGuard::verdict(const std::string& path, const std::vector<std::string>& names,
+                                    const KeptPlaces& seen) const {
+    const auto named = standardizedPath(path);
+    if (names.empty()) return deletionRule(named, host_.home, roots_, seen.entries());
+    return judge(named, names, seen);
 }
 
 /// By what it is named first, then by where it really lies, then by its other names, which can only

@@ -46,8 +46,10 @@ class DeletionGuard {
     /// refused, and so are keys that were put elsewhere, from either side; whether by links, by
     /// mounts or by letter case. Only the name counts if the folder that holds the path is missing.
     DeletionRule verdict(const std::string& path) const;
-    /// The same as it was when that was seen, for whoever asks much at one moment.
-    DeletionRule verdict(const std::string& path, const KeptPlaces& seen) const;
+    /// The same for whoever asks much at one moment: by the names that were found of the place,
+    /// none if the folder that holds it is missing.
+    DeletionRule verdict(const std::string& path, const std::vector<std::string>& names,
+                         const KeptPlaces& seen) const;
     KeptPlaces keptPlaces() const;
 
     /// The path, if the verdict allows it and the folder that holds it exists.

@@ -120,6 +120,16 @@ std::vector<std::string> KeptPlaces::namesOf(std::string_view real) const {
     return names;
 }
 
+/// A mount has names that its folder's do not tell.
+std::vector<std::string> KeptPlaces::namesOf(std::string_view real, FolderNames& known) const {
+    const auto isMount = [real](const MountTable::Mount& mount) { return mount.place == real; };
+    if (std::ranges::any_of(mounts_.mounts(), isMount)) return namesOf(real);
+    const auto folder = parentPath(real);
+    auto at = known.find(folder);
+    if (at == known.end()) at = known.emplace(folder, namesOf(folder)).first;
+    return namesIn(at->second, lastPathComponent(real));
+}
+
 bool KeptPlaces::mustStay(const std::vector<std::string>& names) const {
     const auto isOrHoldsSome = [&](const std::string& name) {
         return entries_.contains(name) || holders_.contains(name);

@@ -30,6 +30,10 @@ class KeptPlaces {
     /// "x" in a folder that Documents leads to.
     std::vector<std::string> namesOf(std::string_view real) const;
 
+    /// The same for many at one moment: what was found of a folder is taken over from there.
+    using FolderNames = std::map<std::string, std::vector<std::string>, std::less<>>;
+    std::vector<std::string> namesOf(std::string_view real, FolderNames& known) const;
+
     /// The same for an entry of a folder whose names are known.
     std::vector<std::string> namesIn(const std::vector<std::string>& folder,
                                      std::string_view name) const;

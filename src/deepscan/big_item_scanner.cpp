@@ -52,10 +52,14 @@ BigItem::Kind classifyBigItem(std::string_view path, const Host& host, const Kep
 }
 
 BigItem::Kind classifyPlace(const std::string& path, const Host& host, const KeptPlaces& kept) {
-    const auto kind = classifyBigItem(path, host, kept.entries());
     const auto real = realLocation(path);
-    if (!real) return kind;
-    const auto names = kept.namesOf(*real);
+    return classifyPlace(path, real ? kept.namesOf(*real) : std::vector<std::string>(), host, kept);
+}
+
+BigItem::Kind classifyPlace(const std::string& path, const std::vector<std::string>& names,
+                            const Host& host, const KeptPlaces& kept) {
+    const auto kind = classifyBigItem(path, host, kept.entries());
+    if (names.empty()) return kind;
     const auto isPersonal = [&](const std::string& name) {
         const auto known = classifyBigItem(name, host, kept.entries());
         return known == BigItem::Kind::personal ||

@@ -29,6 +29,9 @@ BigItem::Kind classifyBigItem(std::string_view path, const Host& host, const Kep
 /// The same by every name of the place where it really lies: personal if one of them says so, and
 /// if something that must stay is in it.
 BigItem::Kind classifyPlace(const std::string& path, const Host& host, const KeptPlaces& kept);
+/// Where the names are known, none if nothing stands there.
+BigItem::Kind classifyPlace(const std::string& path, const std::vector<std::string>& names,
+                            const Host& host, const KeptPlaces& kept);
 
 /// The same once the folder is known: a fact overrules it where losing the folder hurts, and where
 /// it surely does not.

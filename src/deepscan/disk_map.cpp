@@ -122,7 +122,7 @@ DiskMap mapDisk(const Host& host, const std::string& folder, const DiskMapping& 
         folder);
     if (nodes.empty()) return {};
     const DiskMap unjudged(nodes);
-    const PlaceJudge judge(host);
+    PlaceJudge judge(host);
     std::vector<int> levels(nodes.size());
     for (std::uint32_t at = 0; at < nodes.size(); ++at) {
         if (how.stop.stop_requested()) return {};

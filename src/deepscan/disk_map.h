@@ -5,7 +5,6 @@
 #include <functional>
 #include <optional>
 #include <span>
-#include <stop_token>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,6 +13,7 @@
 #include "deepscan/place_verdict.h"
 #include "platform/byte_count.h"
 #include "platform/host.h"
+#include "platform/stop.h"
 
 namespace tidewell {
 
@@ -76,7 +76,7 @@ class DiskMap {
 std::array<ByteCount, mapVerdictCount> bytesByVerdict(const DiskMap& map, std::uint32_t node = 0);
 
 struct DiskMapping {
-    std::stop_token stop = {};
+    StopToken stop = {};
     /// Called on several threads, with the bytes met so far.
     std::function<void(ByteCount)> progress = nullptr;
 };

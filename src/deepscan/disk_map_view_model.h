@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -11,6 +10,7 @@
 #include "async/task.h"
 #include "deepscan/deep_scan_view_model.h"
 #include "deepscan/disk_map.h"
+#include "platform/stop.h"
 
 namespace tidewell {
 
@@ -56,7 +56,7 @@ class DiskMapViewModel : public std::enable_shared_from_this<DiskMapViewModel> {
     void putBackWhatCame();
 
     const std::shared_ptr<DeepScanViewModel> list_;
-    std::stop_source stop_;
+    StopSource stop_;
     std::vector<Gone> gone_;  ///< since the walk
     PacedObserver observer_;
 };

@@ -164,12 +164,14 @@ PlaceJudge::PlaceJudge(const Host& host)
 
 PlaceJudge::~PlaceJudge() = default;
 
-PlaceKnowledge PlaceJudge::know(const std::string& path) const {
+PlaceKnowledge PlaceJudge::know(const std::string& path) {
     const auto fact = FolderKnowledge::fact(path, host_);
-    PlaceKnowledge known{.kind = finalKind(classifyPlace(path, host_, *kept_), fact),
+    const auto real = realLocation(path);
+    const auto names = real ? kept_->namesOf(*real, folderNames_) : std::vector<std::string>();
+    PlaceKnowledge known{.kind = finalKind(classifyPlace(path, names, host_, *kept_), fact),
                          .fact = fact,
                          .claimedBy = {},
-                         .rule = guard_.verdict(path, *kept_),
+                         .rule = guard_.verdict(path, names, *kept_),
                          .verdict = {}};
     for (std::size_t row = 0; row < rows_->targets.size(); ++row)
         if (covers(rows_->claims[row], path)) known.claimedBy.push_back(rows_->targets[row].id);

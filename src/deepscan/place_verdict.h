@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -50,13 +51,13 @@ struct PlaceKnowledge {
 std::string_view reason(DeletionRule rule);
 
 /// Answers for one machine at one moment: what the rows would work on, and what must stay, is
-/// looked up on the disk when it is made. Any thread but the main one.
+/// looked up on the disk when it is made. One thread at a time, and not the main one.
 class PlaceJudge {
  public:
     explicit PlaceJudge(const Host& host);
     ~PlaceJudge();
 
-    PlaceKnowledge know(const std::string& path) const;
+    PlaceKnowledge know(const std::string& path);
 
  private:
     struct Rows;
@@ -74,6 +75,7 @@ class PlaceJudge {
     std::unique_ptr<const Rows> rows_;
     DeletionGuard guard_;
     std::unique_ptr<const KeptPlaces> kept_;
+    std::map<std::string, std::vector<std::string>, std::less<>> folderNames_;
 };
 
 }  // namespace tidewell

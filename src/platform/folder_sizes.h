@@ -2,11 +2,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <stop_token>
 #include <string>
 #include <vector>
 
 #include "platform/byte_count.h"
+#include "platform/stop.h"
 #include "platform/system.h"
 
 namespace tidewell {
@@ -37,7 +37,7 @@ using FolderSizes = std::vector<SizedEntry>;
 
 struct FolderSizing {
     System system;  ///< whose rule holds for files with several names
-    std::stop_token stop = {};
+    StopToken stop = {};
     /// Called on several threads, with the bytes met so far.
     std::function<void(ByteCount)> progress = nullptr;
 };

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <stop_token>
 
 #include "cleanup/disk_scanner.h"
 #include "cleanup/project_artifacts.h"
@@ -29,7 +28,7 @@ TEST(PlaceJudge, SaysOfEachPlaceWhatCleanWouldDoWithIt) {
     furnishLinuxDesktop(machine);
     const auto& host = machine.host();
     const DiskScanner scanner(host);
-    const PlaceJudge judge(host);
+    PlaceJudge judge(host);
     auto targets = cleanupCatalogue(host);
     std::ranges::move(findProjectArtifacts(host), std::back_inserter(targets));
     std::size_t told = 0;
@@ -100,7 +99,7 @@ TEST(DiskMap, FindsItsNodesAndLosesWhatIsTaken) {
     EXPECT_EQ(map[map[*one].parent].bytes, 0);
     EXPECT_EQ(sumOf(bytesByVerdict(map)), map[0].bytes);
 
-    std::stop_source stopped;
+    StopSource stopped;
     stopped.request_stop();
     EXPECT_TRUE(mapDisk(machine.host(), machine.home(), {.stop = stopped.get_token()}).isEmpty());
 }

@@ -120,7 +120,7 @@ TEST(FolderSizes, MarkWhereSomethingCouldNotBeReadAndEndWhenTheyAreStopped) {
         ASSERT_GE(sizes.size(), 3U);
         EXPECT_TRUE(sizes[0].isUnread && sizes[1].name == "a" && sizes[1].isUnread);
         EXPECT_FALSE(sizes[2].isUnread);
-        std::stop_source stopped;
+        StopSource stopped;
         const FolderSizing how{.system = System::linux,
                                .stop = stopped.get_token(),
                                .progress = [&](ByteCount) { stopped.request_stop(); }};

@@ -12,7 +12,7 @@ namespace tidewell::posix {
 inline std::optional<Identity> identityOf(int descriptor) {
     struct stat status;
     if (::fstat(descriptor, &status) != 0) return std::nullopt;
-    return Identity{.device = status.st_dev, .inode = status.st_ino};
+    return Identity{.device = static_cast<std::uint64_t>(status.st_dev), .inode = status.st_ino};
 }
 
 }  // namespace tidewell::posix

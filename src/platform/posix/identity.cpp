@@ -12,7 +12,7 @@ std::optional<Identity> identityOf(const std::string& path) {
     if (posix::isOutOfReach(path, posix::LastLink::keep)) return std::nullopt;
     struct stat status;
     if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
-    return Identity{.device = status.st_dev, .inode = status.st_ino};
+    return Identity{.device = static_cast<std::uint64_t>(status.st_dev), .inode = status.st_ino};
 }
 
 bool isSurelyMissing(const std::string& path) {

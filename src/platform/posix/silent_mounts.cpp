@@ -43,7 +43,8 @@ SilentPlaces silentPlaces(const std::vector<posix::FarMount>& silent) {
         const std::string parent(parentPath(place.path));
         struct stat status;
         if (!liesOnOne(places, parent) && ::stat(parent.c_str(), &status) == 0)
-            place.parent = Identity{.device = status.st_dev, .inode = status.st_ino};
+            place.parent = Identity{.device = static_cast<std::uint64_t>(status.st_dev),
+                                    .inode = status.st_ino};
     }
     return places;
 }

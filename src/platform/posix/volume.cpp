@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "platform/posix/purgeable_room.h"
+
 namespace tidewell {
 
 namespace {
@@ -20,7 +22,8 @@ ByteCount bytes(unsigned long long blocks, unsigned long long blockSize) {
 std::optional<VolumeCapacity> volumeCapacity(const std::string& path) {
     struct statvfs status;
     if (::statvfs(path.c_str(), &status) != 0) return std::nullopt;
-    return VolumeCapacity{.available = bytes(status.f_bavail, status.f_frsize),
+    const auto free = bytes(status.f_bavail, status.f_frsize);
+    return VolumeCapacity{.available = posix::roomWithPurgeable(path).value_or(free),
                           .total = bytes(status.f_blocks, status.f_frsize)};
 }
 

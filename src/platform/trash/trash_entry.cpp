@@ -17,7 +17,7 @@ std::optional<TrashedItem> trashEntry(int folder, const std::string& name) {
     item.name = name;
     item.deletedAt = Date(std::chrono::seconds(status.st_ctime));
     item.isFolder = S_ISDIR(status.st_mode);
-    item.identity = {.device = status.st_dev, .inode = status.st_ino};
+    item.identity = {.device = static_cast<std::uint64_t>(status.st_dev), .inode = status.st_ino};
     return item;
 }
 

@@ -1,6 +1,6 @@
 #include "platform/folder_sizes.h"
 
-#include "platform/linux/folder_measurer.h"
+#include "platform/posix/folder_measurer.h"
 #include "platform/posix/reach.h"
 #include "platform/posix/work_pool.h"
 

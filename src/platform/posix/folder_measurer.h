@@ -3,7 +3,6 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +15,7 @@
 #include "platform/posix/sized_folder.h"
 #include "platform/posix/way_down.h"
 #include "platform/posix/work_pool.h"
+#include "platform/stop.h"
 
 namespace tidewell::posix {
 
@@ -34,7 +34,7 @@ struct Measuring {
     Helpers helpers;
     MeasuredFolders* known = nullptr;  ///< asked for folders, and filled, if given
     LinkTable* links = nullptr;        ///< of the files with several names, if they count truly
-    std::stop_token stop = {};
+    StopToken stop = {};
 };
 
 /// Measures all regular files below an open folder. Blocks until the end.

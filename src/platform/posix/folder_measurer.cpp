@@ -1,4 +1,4 @@
-#include "platform/linux/folder_measurer.h"
+#include "platform/posix/folder_measurer.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

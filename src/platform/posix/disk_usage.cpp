@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "platform/linux/folder_measurer.h"
+#include "platform/posix/folder_measurer.h"
 #include "platform/posix/reach.h"
 
 namespace tidewell {
