@@ -1,7 +1,8 @@
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 #include "advisor/linux/linux_findings.h"
 #include "apps/linux/debian_packages.h"
@@ -33,6 +34,16 @@ ByteCount integerAt(const Value& record, std::string_view key) {
     return integer ? std::max<ByteCount>(*integer, 0) : 0;
 }
 
+/// With a point, whatever the user's language has. Not every library reads such a number from
+/// characters.
+std::optional<double> numberIn(std::string_view digits) {
+    std::istringstream text{std::string(digits)};
+    text.imbue(std::locale::classic());
+    double number = 0;
+    const bool isNumber = text >> number && text.peek() == std::istringstream::traits_type::eof();
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
 std::string_view takeLine(std::string_view& text) {
     const auto line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
@@ -42,16 +53,16 @@ std::string_view takeLine(std::string_view& text) {
 }  // namespace
 
 ByteCount dockerSize(std::string_view text) {
-    double number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (read.ec != std::errc() || !(number >= 0)) return 0;
-    text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
+    const auto digits = text.substr(0, text.find_first_not_of("0123456789.e+"));
+    const auto number = numberIn(digits);
+    if (!number) return 0;
+    text.remove_prefix(digits.size());
     text = text.substr(0, text.find(' '));
     constexpr std::array<std::pair<std::string_view, double>, 6> units = {
         {{"B", 1}, {"kB", 1e3}, {"KB", 1e3}, {"MB", 1e6}, {"GB", 1e9}, {"TB", 1e12}}};
     for (const auto& [unit, factor] : units)
-        if (text == unit && number * factor < 0x1p62)
-            return static_cast<ByteCount>(number * factor);
+        if (text == unit && *number * factor < 0x1p62)
+            return static_cast<ByteCount>(*number * factor);
     return 0;
 }
 

@@ -1,8 +1,7 @@
 #include "platform/macos/frameworks.h"
 
 #include <dlfcn.h>
-#include <objc/message.h>
-#include <objc/runtime.h>
+#include <objc/objc.h>
 
 namespace tidewell::macos_system {
 
@@ -39,21 +38,42 @@ const Framework& coreFoundation() {
     return framework;
 }
 
-template <class Result, class... Arguments>
-Result send(id receiver, const char* message, Arguments... arguments) {
-    const auto call = reinterpret_cast<Result (*)(id, SEL, Arguments...)>(&::objc_msgSend);
-    return call(receiver, ::sel_registerName(message), arguments...);
-}
+/// The runtime of Objective-C.
+struct ObjectiveC {
+    using FindClass = id(const char*);
+    using FindSelector = SEL(const char*);
+
+    const Framework runtime = Framework("/usr/lib/libobjc.A.dylib");
+    FindClass* findClass = runtime.function<FindClass>("objc_getClass");
+    FindSelector* findSelector = runtime.function<FindSelector>("sel_registerName");
+    void (*sendMessage)() = runtime.function<void()>("objc_msgSend");
+
+    static const ObjectiveC& own() {
+        static const ObjectiveC runtime;
+        return runtime;
+    }
+
+    bool isWhole() const { return findClass && findSelector && sendMessage; }
+
+    template <class Result, class... Arguments>
+    Result send(id receiver, const char* message, Arguments... arguments) const {
+        const auto call = reinterpret_cast<Result (*)(id, SEL, Arguments...)>(sendMessage);
+        return call(receiver, findSelector(message), arguments...);
+    }
+};
 
 /// What is made in between is let go at the end.
 class Pool {
  public:
-    Pool() : pool_(send<id>(reinterpret_cast<id>(::objc_getClass("NSAutoreleasePool")), "new")) {}
+    explicit Pool(const ObjectiveC& runtime)
+        : runtime_(runtime),
+          pool_(runtime.send<id>(runtime.findClass("NSAutoreleasePool"), "new")) {}
     Pool(const Pool&) = delete;
     Pool& operator=(const Pool&) = delete;
-    ~Pool() { send<void>(pool_, "drain"); }
+    ~Pool() { runtime_.send<void>(pool_, "drain"); }
 
  private:
+    const ObjectiveC& runtime_;
     const id pool_;
 };
 
@@ -79,13 +99,14 @@ struct CoreFoundation {
 }  // namespace
 
 bool askApplicationToQuit(std::int32_t process) {
-    if (!appKit()) return false;
-    const Pool pool;
-    auto* const type = ::objc_getClass("NSRunningApplication");
+    const auto& runtime = ObjectiveC::own();
+    if (!appKit() || !runtime.isWhole()) return false;
+    const Pool pool(runtime);
+    const auto type = runtime.findClass("NSRunningApplication");
     if (!type) return false;
     const auto application =
-        send<id>(reinterpret_cast<id>(type), "runningApplicationWithProcessIdentifier:", process);
-    return application && send<signed char>(application, "terminate");
+        runtime.send<id>(type, "runningApplicationWithProcessIdentifier:", process);
+    return application && runtime.send<signed char>(application, "terminate");
 }
 
 std::optional<ByteCount> roomForImportantUsage(const std::string& path) {

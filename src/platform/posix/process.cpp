@@ -61,13 +61,21 @@ class PlainStart {
         ::posix_spawnattr_setsigdefault(&attributes_, &signals);
         int flags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
         if (group == Group::itsOwn) flags |= POSIX_SPAWN_SETPGROUP;
+#ifdef POSIX_SPAWN_CLOEXEC_DEFAULT
+        // Where no pipe is made and withheld from other programs in one step.
+        flags |= POSIX_SPAWN_CLOEXEC_DEFAULT;
+#endif
         ::posix_spawnattr_setflags(&attributes_, static_cast<short>(flags));
     }
     PlainStart(const PlainStart&) = delete;
     PlainStart& operator=(const PlainStart&) = delete;
-    ~PlainStart() { ::posix_spawnattr_destroy(&attributes_); }
+    ~PlainStart() {
+        ::posix_spawnattr_destroy(&attributes_);
+    }
 
-    const posix_spawnattr_t* attributes() const { return &attributes_; }
+    const posix_spawnattr_t* attributes() const {
+        return &attributes_;
+    }
 
  private:
     posix_spawnattr_t attributes_;
