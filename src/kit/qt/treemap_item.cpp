@@ -61,8 +61,8 @@ class TreemapPainter {
         if (tile.isOpen) {
             writeStrip(tile, area, painter);
         } else if (area.height() >= line + 4) {
-            writeName(tile.name, area, line, painter);
-            if (area.height() >= 2 * line + 6) writeSize(tile.size, area, painter);
+            const bool hasName = writeName(tile.name, area, line, painter);
+            if (hasName && area.height() >= 2 * line + 6) writeSize(tile.size, area, painter);
             if (area.width() >= 84 && area.height() >= 64) drawSymbol(tile, area, painter);
         }
     }
@@ -78,15 +78,16 @@ class TreemapPainter {
         painter.setOpacity(1);
     }
 
-    /// Cut in its middle, but not down to a few letters.
-    void writeName(const QString& text, const QRectF& area, double baseline,
+    /// Cut in its middle, but not down to a few letters: false if there is no room for more.
+    bool writeName(const QString& text, const QRectF& area, double baseline,
                    QPainter& painter) const {
         const QFontMetricsF metrics(nameFont_);
         const double room = area.width() - 2 * margin;
-        if (room < std::min(metrics.horizontalAdvance(text), narrowestCut)) return;
+        if (room < std::min(metrics.horizontalAdvance(text), narrowestCut)) return false;
         painter.setFont(nameFont_);
         painter.drawText(QPointF(area.left() + margin, area.top() + baseline),
                          metrics.elidedText(text, Qt::ElideMiddle, room));
+        return true;
     }
 
     void writeSize(const QString& text, const QRectF& area, QPainter& painter) const {

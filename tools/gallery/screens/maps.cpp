@@ -107,7 +107,7 @@ DiskMap busyHome(System system) {
     return mapOf(
         {"/home/ada",
          210,
-         own,
+         open,
          {{isLinux ? "Videos" : "Movies",
            90,
            own,
@@ -164,11 +164,11 @@ DiskMap busyHome(System system) {
 }
 
 DiskMap emptyHome() {
-    return mapOf({"/home/ada", 0, own, {}});
+    return mapOf({"/home/ada", 0, open, {}});
 }
 
 DiskMap homeOfOneFile() {
-    return mapOf({"/home/ada", 0, own, {{"disk-image.img", 214'000, own}}});
+    return mapOf({"/home/ada", 0, open, {{"disk-image.img", 214'000, own}}});
 }
 
 DiskMap crowdedHome() {
@@ -179,7 +179,7 @@ DiskMap crowdedHome() {
                                      open,
                                      row(MapVerdict::ticked, "Caches", "Made again."),
                                      row(MapVerdict::review, "Other caches", "Look first.")};
-    Part home{"/home/ada", 10, own, {}};
+    Part home{"/home/ada", 10, open, {}};
     for (int folder = 0; folder < 140; ++folder) {
         const auto& verdict = verdicts[random() % 6];
         home.parts.push_back({"folder " + std::to_string(folder), 1, verdict,
@@ -195,12 +195,12 @@ DiskMap deepHome() {
                  0,
                  own,
                  {std::move(inner), {"beside it", 40, level % 2 ? app : again}}};
-    return mapOf({"/home/ada", 5, own, {std::move(inner)}});
+    return mapOf({"/home/ada", 5, open, {std::move(inner)}});
 }
 
 DiskMap homeThatCannotBeRead() {
     Part closed{"of somebody else", 3, app, {{"what was read", 300, app}}, true};
-    return mapOf({"/home/ada", 40, own, {closed, {"Documents", 900, own}}, true});
+    return mapOf({"/home/ada", 40, open, {closed, {"Documents", 900, own}}, true});
 }
 
 }  // namespace tidewell::gallery
