@@ -130,9 +130,14 @@ QRectF grown(const QRectF& whole, const QRectF& part) {
     return {-part.x() * across, -part.y() * down, whole.width() * across, whole.height() * down};
 }
 
-/// Two pictures, one over the other.
-class PictureNodes : public QSGNode {
+/// Two pictures, one over the other. A transform node and two that are there from the beginning,
+/// for the renderer without OpenGL knows where a new node stands only below such ones.
+class PictureNodes : public QSGTransformNode {
  public:
+    PictureNodes() {
+        for (auto& part : parts_) appendChildNode(part.opacity = new QSGOpacityNode);
+    }
+
     void show(int place, const QImage& picture, QQuickWindow& window) {
         auto& part = parts_[place];
         if (part.image) {
@@ -141,7 +146,6 @@ class PictureNodes : public QSGNode {
             part.image = nullptr;
         }
         if (picture.isNull()) return;
-        if (!part.opacity) appendChildNode(part.opacity = new QSGOpacityNode);
         part.image = window.createImageNode();
         part.image->setTexture(window.createTextureFromImage(picture));
         part.image->setOwnsTexture(true);
