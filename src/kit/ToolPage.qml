@@ -56,8 +56,10 @@ FocusScope {
     function settle() {
         const isLeft = body.isLeft
         body.isLeft = false
-        if (isLeft)
-            (firstAction ?? buttons.nextItemInFocusChain()).forceActiveFocus(body.lastReason)
+        if (isLeft && firstAction)
+            firstAction.forceActiveFocus(body.lastReason)
+        else if (isLeft)
+            buttons.nextItemInFocusChain().forceActiveFocus(body.lastReason)
         else if (note.isWanted && note.buttonLabel !== "")
             note.focus = true
     }

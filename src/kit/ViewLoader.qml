@@ -58,7 +58,7 @@ FocusScope {
         readonly property sectionPalette given: root.Ambient.palette
 
         anchors.fill: parent
-        onGivenChanged: Qt.callLater(see)
+        onGivenChanged: seeing.restart()
         transform: Translate { y: place.lift }
         onLoaded: {
             const view = item as Item
@@ -67,9 +67,13 @@ FocusScope {
                 view.forceActiveFocus(root.showsFocus ? Qt.TabFocusReason : Qt.OtherFocusReason)
         }
 
-        function see() {
-            if (!leaving.running)
-                seen = given
+        Timer {
+            id: seeing
+            interval: 0  // once it is settled whether the view leaves
+            onTriggered: {
+                if (!leaving.running)
+                    place.seen = place.given
+            }
         }
 
         function come(view: url, given: var) {

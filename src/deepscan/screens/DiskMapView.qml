@@ -124,7 +124,7 @@ FocusScope {
             easing.type: Easing.OutCubic
         }
         Connections {
-            target: root.screen
+            target: root.screen as QtObject
             function onGoesIn(area: rect) { picture.goInto(area) }
             function onGoesOut(area: rect) { picture.goOutOf(area) }
         }
