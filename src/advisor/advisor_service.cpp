@@ -43,7 +43,7 @@ DeviceNames AdvisorService::deviceNamesByRuntime() const {
 }
 
 bool AdvisorService::deleteRuntime(const SimRuntime& runtime) const {
-    return run(xcrun, {"simctl", "runtime", "delete", runtime.id}).has_value();
+    return host_.mayRemove() && run(xcrun, {"simctl", "runtime", "delete", runtime.id});
 }
 
 std::int64_t AdvisorService::unavailableSimCount() const {
@@ -52,7 +52,7 @@ std::int64_t AdvisorService::unavailableSimCount() const {
 }
 
 bool AdvisorService::removeUnavailableSims() const {
-    return run(xcrun, {"simctl", "delete", "unavailable"}).has_value();
+    return host_.mayRemove() && run(xcrun, {"simctl", "delete", "unavailable"});
 }
 
 std::int64_t AdvisorService::localSnapshotCount() const {
@@ -61,7 +61,8 @@ std::int64_t AdvisorService::localSnapshotCount() const {
 }
 
 bool AdvisorService::thinSnapshots() const {
-    return run(tmutil, {"thinlocalsnapshots", "/", purgeAmount, highestUrgency}).has_value();
+    return host_.mayRemove() &&
+           run(tmutil, {"thinlocalsnapshots", "/", purgeAmount, highestUrgency});
 }
 
 ByteCount AdvisorService::dockerBytes() const {

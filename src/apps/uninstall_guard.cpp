@@ -37,7 +37,7 @@ bool UninstallGuard::isAllowed(std::string_view path) const {
 }
 
 std::optional<TrashablePath> UninstallGuard::approve(std::string_view path) const {
-    if (host_.homeOwner != HomeOwner::user || !mayGo(path)) return std::nullopt;
+    if (!host_.mayRemove() || !mayGo(path)) return std::nullopt;
     auto named = standardizedPath(path);
     auto real = realLocation(named);
     if (!real || !mayGo(*real)) return std::nullopt;

@@ -86,7 +86,7 @@ UninstallResult uninstall(const UninstallPlan& plan, const Host& host) {
         return result;
     }
     if (result.way == UninstallWay::ownTool) {
-        if (host.homeOwner != HomeOwner::user || !runOwnTool(plan.app, host)) {
+        if (!host.mayRemove() || !runOwnTool(plan.app, host)) {
             result.failed = {plan.app.name};
             return result;
         }

@@ -179,6 +179,7 @@ DeletionRule DeletionGuard::judge(std::string_view named, const std::vector<std:
 }
 
 std::optional<DeletablePath> DeletionGuard::approve(const std::string& path) const {
+    if (!host_.mayRemove()) return std::nullopt;
     auto named = standardizedPath(path);
     auto real = realLocation(named);
     if (!real) return std::nullopt;

@@ -37,6 +37,11 @@ int run(const Call& call) {
     if (!found.host) return endWrongCall(found.problem);
     if (call.consent == Consent::given && found.host->homeOwner == HomeOwner::somebodyElse)
         return endWrongCall(found.host->home + " is another user's: it can only be looked at");
+    if (call.consent == Consent::given && found.host->removals == Removals::locked) {
+        std::cerr << "tidewell-cli: Nothing is removed or moved on this system until it has been "
+                     "tried here: run tidewell-cli selfcheck\n";
+        return end(ExitStatus::leftBehind);
+    }
     RunLoop loop;
     const auto outcome = call.run({std::move(*found.host), call.form, loop});
     tellOfSilentMounts();

@@ -47,7 +47,7 @@ bool BigItemTrashGuard::holdsGround(std::string_view path) const {
 }
 
 std::optional<TrashablePath> BigItemTrashGuard::approve(const BigItem& item) const {
-    if (host_.homeOwner != HomeOwner::user || !isTrashable(item.kind) || !isGround(item.path()))
+    if (!host_.mayRemove() || !isTrashable(item.kind) || !isGround(item.path()))
         return std::nullopt;
     auto real = realLocation(item.path());
     if (!real || !isGround(*real)) return std::nullopt;

@@ -30,6 +30,9 @@ struct BaseFolders {
 /// or stored there as somebody else is nothing that its owner could use again.
 enum class HomeOwner { user, somebodyElse };
 
+/// Whether removing is to be relied on here: see removal_lock.h.
+enum class Removals { free, locked };
+
 /// Where the machine lies: made once at start and handed by const reference to every scanner and
 /// service. The whole program, removals included, thus runs against a machine that lies in a
 /// folder. `root` and `home` are real locations, without links, "." or "..".
@@ -39,12 +42,16 @@ struct Host {
     std::string home;               ///< the user's home folder
     std::string namedHome;  ///< what the user or his environment calls it, if links lead from there
     HomeOwner homeOwner = HomeOwner::user;
+    Removals removals = Removals::free;
     BaseFolders baseFolders;
     std::string temporaryDirectory;      ///< the user's own scratch folder; empty if there is none
     std::string userCacheDirectory;      ///< its sibling for caches; empty if there is none
     std::string configurationDirectory;  ///< where the program keeps its own file
     OwnBundle ownBundle;
 
+    /// Whether anything of it may be removed or moved to a Trash; asked by every guard, and before
+    /// any tool is run that removes something.
+    bool mayRemove() const { return homeOwner == HomeOwner::user && removals == Removals::free; }
     /// The path below `root` of an absolute system path such as "/Applications".
     std::string systemPath(std::string_view absolute) const;
     /// The same for a program to be started; empty if what stands there is missing or really lies

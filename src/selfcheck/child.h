@@ -35,6 +35,7 @@ inline constexpr auto trialCache = ".cache/trial";
 inline constexpr auto mountedFolder = "Other/Work";
 inline constexpr const char* mountPlaces[] = {".cache/whole", ".cache/trial/mounted",
                                               ".cache/trial/in/it/mounted"};
+inline constexpr auto personalPlace = ".cache/personal";
 inline constexpr std::size_t itemsMoved = 60;
 std::string itemNumber(std::size_t number);
 

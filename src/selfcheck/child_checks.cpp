@@ -77,7 +77,9 @@ void checkMounts(const TrialGround& ground, Findings& findings) {
     TrialMachine machine(ground, name, findings);
     machine.treasure(joinPath(mountedFolder, "thesis"));
     machine.treasure(joinPath(mountedFolder, "chapters/one"));
+    machine.treasure("Documents/Work/thesis");
     for (const auto* place : mountPlaces) machine.folder(place);
+    machine.folder(personalPlace);
     if (findings.isOver()) return;
 
     const auto run = playInChild(ground, name, mountsPart);

@@ -1,5 +1,10 @@
 #include "selfcheck/removal_checks.h"
 
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "cleanup/kept_entries.h"
 #include "platform/files.h"
 #include "platform/path_text.h"
 #include "selfcheck/trial_machine.h"
@@ -22,6 +27,27 @@ void layTreasures(TrialMachine& machine) {
     machine.treasure("Documents/Work/chapters/one");
     machine.treasure("Documents/letter");
     machine.treasure(".ssh/id_trial");
+}
+
+/// Asks the engine for each place that no removal may come near, as if a row named it.
+void askForAllThatIsKept(const TrialGround& ground, Findings& findings) {
+    TrialMachine machine(ground, "kept", findings);
+    const auto kept = keptEntries(machine.host());
+    std::set<std::string> places;
+    for (const auto* list : {&kept.personalFolders, &kept.keys, &kept.profiles, &kept.neverSwept})
+        for (auto place : *list) {
+            std::ranges::replace(place, '*', 'x');
+            if (isBelow(place, machine.host().home)) places.insert(machine.relative(place));
+        }
+    for (const auto& place : places) machine.treasure(joinPath(place, "inside/treasure"));
+    if (findings.isOver()) return;
+    for (const auto& place : places) {
+        machine.removeSingle(joinPath(place, "inside/treasure"));
+        machine.empty(joinPath(place, "inside"));
+        machine.empty(place);
+        findings.strike();
+    }
+    machine.account("though nothing may come near it");
 }
 
 }  // namespace
@@ -55,8 +81,8 @@ void checkLinks(const TrialGround& ground, Findings& findings) {
     machine.account("behind a link");
 }
 
-/// What links in a folder of keys lead to stays, wherever it lies; all beside it goes.
-void checkKeys(const TrialGround& ground, Findings& findings) {
+void checkKept(const TrialGround& ground, Findings& findings) {
+    askForAllThatIsKept(ground, findings);
     TrialMachine machine(ground, "keys", findings);
     layTreasures(machine);
     machine.treasure(inCache("vault/key"));
@@ -68,7 +94,11 @@ void checkKeys(const TrialGround& ground, Findings& findings) {
 
     machine.empty(cache, [&](const std::string&) { findings.strike(); });
     if (fileExists(machine.path(inCache("plain")))) findings.fault("a cache could not be emptied");
-    machine.account("beside a cache");
+    machine.account("though links in a folder of keys lead there");
+    machine.takeForScratch("Documents");
+    machine.empty("Documents/Work");
+    machine.removeSingle("Documents/letter");
+    machine.account("though it lies in a personal folder");
 }
 
 void checkSwaps(const TrialGround& ground, Findings& findings) {

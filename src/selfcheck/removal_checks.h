@@ -8,7 +8,7 @@ namespace tidewell::selfcheck {
 // goes: behind the guard's answer, and in front of the removal.
 
 void checkLinks(const TrialGround& ground, Findings& findings);
-void checkKeys(const TrialGround& ground, Findings& findings);
+void checkKept(const TrialGround& ground, Findings& findings);
 void checkSwaps(const TrialGround& ground, Findings& findings);
 void checkMovesOut(const TrialGround& ground, Findings& findings);
 void checkPermissions(const TrialGround& ground, Findings& findings);

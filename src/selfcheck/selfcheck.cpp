@@ -17,7 +17,7 @@ namespace {
 
 constexpr Check checks[] = {
     {"links", "links in a cache, and one in the place of a cache", Need::essential, checkLinks},
-    {"keys", "keys that were put into a cache", Need::essential, checkKeys},
+    {"kept", "keys, profiles and personal folders, asked for by name", Need::essential, checkKept},
     {"swaps", "folders swapped for links during a removal", Need::essential, checkSwaps},
     {"moves out", "a folder moved to Documents while it is emptied", Need::essential,
      checkMovesOut},

@@ -21,7 +21,9 @@ Host TrialMachine::hostOn(const TrialGround& ground, std::string_view name) {
     const auto root = joinPath(ground.path(), name);
     auto found =
         findHost({.root = root, .home = joinPath(root, homeOnMachine), .system = ownSystem()});
-    return found.host ? *std::move(found.host) : Host();
+    if (!found.host) return Host();
+    found.host->removals = Removals::free;
+    return *std::move(found.host);
 }
 
 TrialMachine::TrialMachine(const TrialGround& ground, std::string_view name, Findings& findings)

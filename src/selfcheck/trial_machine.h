@@ -26,6 +26,9 @@ class TrialMachine {
     /// Where the machine has a path, on the ground.
     static std::string onGround(std::string_view name, std::string_view inHome);
 
+    /// As if the environment named a folder as the user's scratch folder.
+    void takeForScratch(std::string_view folder) { host_.temporaryDirectory = path(folder); }
+
     const Host& host() const { return host_; }
     std::string path(std::string_view inHome) const;
     /// Of an absolute path that lies in the home folder.

@@ -227,6 +227,7 @@ std::optional<std::string> toolNamed(const Host& host, std::string_view name) {
 }
 
 bool carryOut(const Host& host, const Finding& finding) {
+    if (!host.mayRemove()) return false;
     return std::ranges::all_of(finding.runs, [&host](const std::vector<std::string>& words) {
         const auto tool = toolNamed(host, words.front());
         const auto run = tool

@@ -16,6 +16,7 @@
 #include "platform/own_program.h"
 #include "platform/path_text.h"
 #include "platform/posix/base_folders.h"
+#include "platform/removal_lock.h"
 
 namespace tidewell {
 
@@ -213,6 +214,7 @@ HostResult findHost(const HostOptions& options) {
                                     : posix::usualBaseFolders(host.home);
     findScratchFolders(host, options);
     host.configurationDirectory = ownConfigurationFolder(host, options);
+    host.removals = removalsOn(host, makersTrial());
     return {.host = std::move(host), .problem = {}};
 }
 
