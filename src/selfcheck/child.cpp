@@ -56,8 +56,8 @@ std::string playMounts(const TrialMachine& machine, std::int64_t) {
             return "this user may mount nothing here";
     machine.empty(trialCache);
     machine.empty(mountPlaces[0]);
-    if (mountFolder(machine.path("Documents"), machine.path(personalPlace)))
-        machine.empty(joinPath(personalPlace, "Work"));
+    if (mountFolder(machine.path("Documents/Work"), machine.path(personalPlace)))
+        machine.empty(joinPath(personalPlace, "chapters"));
     return {};
 }
 

@@ -77,7 +77,7 @@ void checkMounts(const TrialGround& ground, Findings& findings) {
     TrialMachine machine(ground, name, findings);
     machine.treasure(joinPath(mountedFolder, "thesis"));
     machine.treasure(joinPath(mountedFolder, "chapters/one"));
-    machine.treasure("Documents/Work/thesis");
+    machine.treasure("Documents/Work/chapters/one");
     for (const auto* place : mountPlaces) machine.folder(place);
     machine.folder(personalPlace);
     if (findings.isOver()) return;

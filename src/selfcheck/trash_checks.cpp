@@ -77,13 +77,14 @@ void checkCollisions(const TrialGround& ground, Findings& findings) {
     machine.treasure(entries + "film 4.mov/inside");
     for (int round = 0; round < 4 && !findings.isOver(); ++round)
         if (trashNew(machine, findings)) findings.strike();
+    machine.account("when its name in the Trash was given to another");
     machine.treasure(item);
     if (findings.isOver()) return;
 
     findings.strike();
     if (putBack(*first, machine.host()).place)
         findings.fault("putting back took a place that was taken");
-    machine.account("when a name was taken");
+    machine.account("when its place was taken");
 }
 
 }  // namespace tidewell::selfcheck

@@ -1,0 +1,9 @@
+#include "platform/removal_lock.h"
+
+namespace tidewell {
+
+MakersTrial makersTrial() {
+    return MakersTrial::outstanding;
+}
+
+}  // namespace tidewell
