@@ -89,7 +89,8 @@ ChildRun playInChild(const TrialGround& ground, std::string_view machine, std::s
     if (!run->exitStatus) return {.end = ChildEnd::killed, .why = {}};
     if (*run->exitStatus == 0) return {.end = ChildEnd::done, .why = {}};
     return {.end = ChildEnd::notTried,
-            .why = run->output.empty() ? "the program ended early" : run->output};
+            .why = run->output.empty() ? "the program ended early"
+                                       : run->output.substr(0, run->output.find('\n'))};
 }
 
 std::string play(const std::string& groundPath, std::string_view word) {

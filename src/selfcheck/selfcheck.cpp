@@ -80,7 +80,7 @@ std::optional<std::string> usualPlace(const Host& host) {
     return std::nullopt;
 }
 
-Report checkIn(const std::string& place) {
+Report checkIn(const std::string& place, const Watching& watching) {
     Report report{.folder = place};
     for (const auto& left : TrialGround::leftIn(place)) {
         if (const auto earlier = TrialGround::openAt(left).ground) openClosedFolders(*earlier);
@@ -89,7 +89,13 @@ Report checkIn(const std::string& place) {
     auto made = TrialGround::makeIn(place);
     report.problem = made.problem;
     if (!made.ground) return report;
-    for (const auto& check : checks) report.results.push_back(resultOf(check, *made.ground));
+    for (const auto& check : checks) {
+        if (watching.isToEnd()) {
+            report.problem = "It was interrupted";
+            break;
+        }
+        watching.tell(report.results.emplace_back(resultOf(check, *made.ground)));
+    }
     if (clear(place, made.ground->path()) != Removal::complete)
         report.problem = "What was laid out could not be removed: " + made.ground->path();
     return report;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,9 +24,16 @@ struct Report {
 /// files. Absent if there is neither.
 std::optional<std::string> usualPlace(const Host& host);
 
+/// What is asked and told while it tries, both between two checks.
+struct Watching {
+    std::function<bool()> isToEnd = [] { return false; };
+    std::function<void(const CheckResult&)> tell = [](const CheckResult&) {};
+};
+
 /// Lays out a small machine in a fresh folder below `place`, a real location, tries there what
 /// could lose something, and removes the folder by the same doors as everything. What an
-/// interrupted run has left there goes first. Blocks for a second or so; any thread.
-Report checkIn(const std::string& place);
+/// earlier run that was killed has left there goes first. Blocks, for a few seconds on a disk of this
+/// machine and for minutes on one that answers slowly; any thread.
+Report checkIn(const std::string& place, const Watching& watching = {});
 
 }  // namespace tidewell::selfcheck

@@ -5,6 +5,7 @@
 #include "cli/commands/commands.h"
 #include "cli/report.h"
 #include "platform/files.h"
+#include "platform/interruption.h"
 #include "platform/removal_lock.h"
 #include "platform/text.h"
 #include "selfcheck/child.h"
@@ -47,14 +48,16 @@ void print(const CheckResult& result) {
               rightAligned(std::to_string(result.stoodBy), countColumns) + "  " + outcome);
 }
 
-void print(const Report& report) {
-    printLine("Tried in a folder of its own in " + terminalText(report.folder));
+void printHeading(std::string_view place) {
+    printLine("Tried in a folder of its own in " + terminalText(place));
     printLine();
     printLine(
         inked("Check        Tried                                                   Times"
               "  Stood  Outcome",
               Ink::faint));
-    for (const auto& result : report.results) print(result);
+}
+
+void printEnd(const Report& report) {
     printLine();
     if (!report.problem.empty()) printLine(inked(terminalText(report.problem) + ".", Ink::bad));
     printLine(report.hasPassed() ? inked("Passed:", Ink::good) + " nothing was lost."
@@ -100,15 +103,23 @@ Outcome runSelfcheck(const Context& context, const SelfcheckCall& call) {
         return WrongCall{call.on ? "There is no folder " + terminalText(*call.on)
                                  : "There is no folder for caches or scratch files: name one with "
                                    "--on"};
-    auto report = selfcheck::checkIn(*place);
+    const bool isDocument = context.form == OutputForm::json;
+    const InterruptionWatch watch;
+    selfcheck::Watching watching;
+    watching.isToEnd = [&watch] { return watch.wasInterrupted(); };
+    if (!isDocument) {
+        printHeading(*place);
+        watching.tell = [](const CheckResult& result) { print(result); };
+    }
+    auto report = selfcheck::checkIn(*place, watching);
     // What passes on another disk says nothing of the one that the home folder lies on.
     if (!call.on && report.hasPassed() && makersTrial() == MakersTrial::outstanding &&
         unlockRemovals(context.host) == UserDefaults::Written::no)
         report.problem = "It passed, but that could not be written down, so removal stays locked";
-    if (context.form == OutputForm::json) {
+    if (isDocument) {
         printDocument(document(report));
     } else {
-        print(report);
+        printEnd(report);
     }
     return report.hasPassed() ? ExitStatus::done : ExitStatus::leftBehind;
 }

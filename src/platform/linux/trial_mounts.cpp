@@ -9,9 +9,24 @@
 
 namespace tidewell {
 
+namespace {
+
+/// No process with several threads may leave for a space of its own, and one that probed a mount
+/// may still be on its way out.
+bool leaveFor(int spaces) {
+    for (int left = 100; left > 0; --left) {
+        if (::unshare(spaces) == 0) return true;
+        if (errno != EINVAL) return false;
+        ::usleep(10'000);
+    }
+    return false;
+}
+
+}  // namespace
+
 std::string keepMountsToOneself() {
     const int spaces = ::geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER;
-    if (::unshare(spaces) == 0 && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0)
+    if (leaveFor(spaces) && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0)
         return {};
     return std::string("this user may mount nothing here: ") + std::strerror(errno);
 }
