@@ -53,6 +53,7 @@ void KeptPlaces::keep(const std::string& entry) {
     addLocation(entry, entry);
     if (auto location = realLocation(entry)) addLocation(entry, *location);
     const auto target = resolvedPath(entry);
+    if (!target && isEndUntold(entry)) isAllFound_ = false;
     if (!target || isAtOrBelow(home_, *target)) return;
     addLocation(entry, *target);
     if (const auto identity = identityOf(*target)) entriesByIdentity_.emplace(*identity, entry);
@@ -151,6 +152,7 @@ bool KeptPlaces::isPersonal(const std::vector<std::string>& names) const {
 }
 
 bool KeptPlaces::knowsNamesOf(const std::string& real) const {
+    if (!isAllFound_) return false;
     if (mounts_.isKnown()) return true;
     const auto number = mountNumber(std::string(parentPath(real)));
     return isAllOnOneMount_ && number && number == mountNumber(home_);

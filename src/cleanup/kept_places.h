@@ -52,7 +52,8 @@ class KeptPlaces {
     const KeptEntries& entries() const { return known_; }
 
     /// Whether all names of a real location could be found. Not where the system hides what is
-    /// mounted, and the place is on another mount than the home folder.
+    /// mounted, and the place is on another mount than the home folder; and nowhere if it could not
+    /// be told where a link that is kept, or lies among keys, leads.
     bool knowsNamesOf(const std::string& real) const;
 
  private:
@@ -70,6 +71,7 @@ class KeptPlaces {
     std::map<std::string, std::optional<Identity>, std::less<>> holders_;  ///< folders of those
     std::set<Identity> holderIdentities_;
     bool isAllOnOneMount_ = true;
+    bool isAllFound_ = true;
 };
 
 }  // namespace tidewell

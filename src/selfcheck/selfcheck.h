@@ -32,8 +32,8 @@ struct Watching {
 
 /// Lays out a small machine in a fresh folder below `place`, a real location, tries there what
 /// could lose something, and removes the folder by the same doors as everything. What an
-/// earlier run that was killed has left there goes first. Blocks, for a few seconds on a disk of this
-/// machine and for minutes on one that answers slowly; any thread.
+/// earlier run that was killed has left there goes first. Blocks, for a few seconds on a disk of
+/// this machine and for minutes on one that answers slowly; any thread.
 Report checkIn(const std::string& place, const Watching& watching = {});
 
 }  // namespace tidewell::selfcheck

@@ -210,6 +210,23 @@ TEST(DeletionGuard, OpensNoOtherMountWhereTheSystemHidesThem) {
     });
 }
 
+TEST(DeletionGuard, OpensNothingWhereItCannotTellWhatALinkAmongTheKeysLeadsTo) {
+    const SampleMachine machine;
+    machine.text("~/.npm/x", "x");
+    machine.link("~/.ssh/gone", "../nowhere");
+    machine.link("~/.ssh/circle", "circle");
+    EXPECT_TRUE(DeletionGuard(machine.host()).approve(machine.path("~/.npm/x")));
+    // Longer than a path may be, as a whole.
+    std::string half;
+    for (int folder = 0; folder < 12; ++folder) half += "/" + std::string(200, 'x');
+    machine.folder("~/.npm/deep" + half);
+    machine.link("~/.npm/half", "deep" + half);
+    machine.text("~/.npm/half" + half + "/key", "k");
+    machine.link("~/.ssh/key", "../.npm/half" + half + "/key");
+    EXPECT_FALSE(DeletionGuard(machine.host()).approve(machine.path("~/.npm/x")));
+    EXPECT_FALSE(DeletionGuard(machine.host()).approve(machine.path("~/.npm")));
+}
+
 TEST(DeletionGuard, OpensNothingByAScratchFolderAroundOrInPersonalFolders) {
     const SampleMachine machine;
     machine.text("~/Documents/thesis/text", "x");

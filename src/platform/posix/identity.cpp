@@ -2,7 +2,11 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdlib>
+#include <memory>
 
 #include "platform/posix/reach.h"
 
@@ -19,6 +23,13 @@ bool isSurelyMissing(const std::string& path) {
     if (posix::isOutOfReach(path, posix::LastLink::keep)) return false;
     struct stat status;
     return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+bool isEndUntold(const std::string& path) {
+    if (posix::isOutOfReach(path, posix::LastLink::follow)) return false;
+    const std::unique_ptr<char, void (*)(void*)> end(::realpath(path.c_str(), nullptr), std::free);
+    constexpr std::array told = {ENOENT, ENOTDIR, ELOOP, EACCES};
+    return !end && std::ranges::find(told, errno) == told.end();
 }
 
 }  // namespace tidewell
