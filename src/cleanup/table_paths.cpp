@@ -127,8 +127,7 @@ bool TablePath::covers(std::string_view path) const {
 
 bool covers(std::string_view stored, const Host& host, std::string_view path) {
     const auto [folder, rest] = host.split(stored);
-    if (folder.empty() || stored.find("..") != std::string_view::npos)
-        return TablePath(stored, host).covers(path);
+    if (folder.empty()) return TablePath(stored, host).covers(path);
     if (!isAtOrBelow(path, folder)) return false;
     auto left = path.substr(folder.size());
     for (auto wanted = rest; !wanted.empty();) {

@@ -33,6 +33,7 @@ class TablePath {
 };
 
 /// The same as `covers` of the table path, for a single question: without taking it apart first.
+/// For the tables' own paths, which have no ".." in them.
 bool covers(std::string_view stored, const Host& host, std::string_view path);
 
 /// Whether a component of a table path stands for a name.

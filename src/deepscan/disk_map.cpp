@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/files.h"
 #include "platform/folder_sizes.h"
 #include "platform/path_text.h"
 
@@ -121,6 +122,7 @@ DiskMap mapDisk(const Host& host, const std::string& folder, const DiskMapping& 
         folderSizes(folder, {.system = host.system, .stop = how.stop, .progress = how.progress}),
         folder);
     if (nodes.empty()) return {};
+    const auto real = realLocation(folder).value_or(folder);
     const DiskMap unjudged(nodes);
     PlaceJudge judge(host);
     std::vector<int> levels(nodes.size());
@@ -128,10 +130,13 @@ DiskMap mapDisk(const Host& host, const std::string& folder, const DiskMapping& 
         if (how.stop.stop_requested()) return {};
         auto& node = nodes[at];
         if (at > 0) levels[at] = levels[node.parent] + 1;
-        const bool isAsItsFolder =
-            node.what == DiskMapNode::What::smallerItems || levels[at] > deepestJudged;
-        node.verdict =
-            isAsItsFolder ? nodes[node.parent].verdict : judge.know(unjudged.path(at)).verdict;
+        if (node.what == DiskMapNode::What::smallerItems || levels[at] > deepestJudged) {
+            node.verdict = nodes[node.parent].verdict;
+            continue;
+        }
+        const auto path = unjudged.path(at);
+        // The walk follows no links, so that all below lies where its path says.
+        node.verdict = judge.verdict(path, real + path.substr(folder.size()));
     }
     return DiskMap(std::move(nodes));
 }

@@ -165,21 +165,29 @@ PlaceJudge::PlaceJudge(const Host& host)
 PlaceJudge::~PlaceJudge() = default;
 
 PlaceKnowledge PlaceJudge::know(const std::string& path) {
+    auto known = judged(path, realLocation(path));
+    for (std::size_t row = 0; row < rows_->targets.size(); ++row)
+        if (covers(rows_->claims[row], path)) known.claimedBy.push_back(rows_->targets[row].id);
+    return known;
+}
+
+PlaceVerdict PlaceJudge::verdict(const std::string& path, const std::string& real) {
+    return judged(path, real).verdict;
+}
+
+PlaceKnowledge PlaceJudge::judged(const std::string& path, const std::optional<std::string>& real) {
     const auto fact = FolderKnowledge::fact(path, host_);
-    const auto real = realLocation(path);
     const auto names = real ? kept_->namesOf(*real, folderNames_) : std::vector<std::string>();
     PlaceKnowledge known{.kind = finalKind(classifyPlace(path, names, host_, *kept_), fact),
                          .fact = fact,
                          .claimedBy = {},
                          .rule = guard_.verdict(path, names, *kept_),
                          .verdict = {}};
-    for (std::size_t row = 0; row < rows_->targets.size(); ++row)
-        if (covers(rows_->claims[row], path)) known.claimedBy.push_back(rows_->targets[row].id);
     known.verdict = judge(path, known);
     return known;
 }
 
-PlaceVerdict PlaceJudge::judge(const std::string& path, const PlaceKnowledge& known) const {
+PlaceVerdict PlaceJudge::judge(const std::string& path, const PlaceKnowledge& known) {
     const auto nearest = nearestFact(path);
     auto kind = known.kind;
     if (nearest)
@@ -195,12 +203,19 @@ PlaceVerdict PlaceJudge::judge(const std::string& path, const PlaceKnowledge& kn
     return verdict;
 }
 
-std::optional<PlaceJudge::Nearest> PlaceJudge::nearestFact(std::string_view path) const {
-    for (; isBelow(path, host_.home); path = parentPath(path)) {
-        if (const auto at = rows_->toolFacts.find(std::string(path)); at != rows_->toolFacts.end())
-            return Nearest{at->second, true};
-        if (const auto fact = FolderKnowledge::fact(path, host_)) return Nearest{*fact, false};
-    }
+std::optional<PlaceJudge::Nearest> PlaceJudge::nearestFact(std::string_view path) {
+    if (!isBelow(path, host_.home)) return std::nullopt;
+    if (auto fact = factAbout(path)) return fact;
+    const auto folder = parentPath(path);
+    const auto known = nearest_.find(folder);
+    if (known != nearest_.end()) return known->second;
+    return nearest_[std::string(folder)] = nearestFact(folder);
+}
+
+std::optional<PlaceJudge::Nearest> PlaceJudge::factAbout(std::string_view path) const {
+    if (const auto at = rows_->toolFacts.find(std::string(path)); at != rows_->toolFacts.end())
+        return Nearest{at->second, true};
+    if (const auto fact = FolderKnowledge::fact(path, host_)) return Nearest{*fact, false};
     return std::nullopt;
 }
 

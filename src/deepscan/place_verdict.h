@@ -51,13 +51,16 @@ struct PlaceKnowledge {
 std::string_view reason(DeletionRule rule);
 
 /// Answers for one machine at one moment: what the rows would work on, and what must stay, is
-/// looked up on the disk when it is made. One thread at a time, and not the main one.
+/// looked up on the disk when it is made. What it has looked up of a folder it keeps: one thread at
+/// a time, and not the main one.
 class PlaceJudge {
  public:
     explicit PlaceJudge(const Host& host);
     ~PlaceJudge();
 
     PlaceKnowledge know(const std::string& path);
+    /// That part of it alone, which costs less; `real` is where it lies, by no link.
+    PlaceVerdict verdict(const std::string& path, const std::string& real);
 
  private:
     struct Rows;
@@ -68,14 +71,17 @@ class PlaceJudge {
         bool isOfTool = false;  ///< about a tool's own disks or models
     };
 
-    PlaceVerdict judge(const std::string& path, const PlaceKnowledge& known) const;
-    std::optional<Nearest> nearestFact(std::string_view path) const;
+    PlaceKnowledge judged(const std::string& path, const std::optional<std::string>& real);
+    PlaceVerdict judge(const std::string& path, const PlaceKnowledge& known);
+    std::optional<Nearest> nearestFact(std::string_view path);
+    std::optional<Nearest> factAbout(std::string_view path) const;
 
     Host host_;
     std::unique_ptr<const Rows> rows_;
     DeletionGuard guard_;
     std::unique_ptr<const KeptPlaces> kept_;
     std::map<std::string, std::vector<std::string>, std::less<>> folderNames_;
+    std::map<std::string, std::optional<Nearest>, std::less<>> nearest_;  ///< of folders
 };
 
 }  // namespace tidewell

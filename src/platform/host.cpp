@@ -35,9 +35,10 @@ std::string Host::throughHome(std::string_view path) const {
 }
 
 Host::Split Host::split(std::string_view path) const {
-    if (isAtOrBelow(path, "~")) return {home, path.substr(1)};
-    for (const auto& [token, folder] : baseFolderTokens)
-        if (isAtOrBelow(path, token)) return {baseFolders.*folder, path.substr(token.size())};
+    if (path.starts_with('~') && isAtOrBelow(path, "~")) return {home, path.substr(1)};
+    if (path.starts_with('{'))
+        for (const auto& [token, folder] : baseFolderTokens)
+            if (isAtOrBelow(path, token)) return {baseFolders.*folder, path.substr(token.size())};
     return {{}, path};
 }
 
